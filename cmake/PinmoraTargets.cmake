@@ -1,0 +1,67 @@
+# What every target of this project has in common: the language, the warnings, the sanitizers, and
+# the rule that includes are written from src/ ("platform/date.h").
+
+add_library(pinmora_options INTERFACE)
+target_compile_features(pinmora_options INTERFACE cxx_std_20)
+target_compile_options(pinmora_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast -Werror)
+target_compile_definitions(pinmora_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CONTEXTLESS_CONNECT QT_NO_KEYWORDS)
+target_include_directories(pinmora_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
+if(PINMORA_SANITIZE OR PINMORA_FUZZ)
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_options(pinmora_options INTERFACE ${sanitizers})
+    target_link_options(pinmora_options INTERFACE ${sanitizers})
+    target_compile_definitions(pinmora_options INTERFACE _GLIBCXX_ASSERTIONS)
+    # GCC sees uninitialized values in the sanitized code of its own <regex>.
+    target_compile_options(pinmora_options INTERFACE
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+endif()
+if(PINMORA_FUZZ)
+    target_compile_options(pinmora_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# pinmora_library(NAME SOURCES file... USES target...): the library of one folder under src/. All
+# headers of the folder are its interface: the dev preset compiles each of them alone.
+function(pinmora_library name)
+    cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
+    file(GLOB headers CONFIGURE_DEPENDS *.h)
+    add_library(pinmora_${name} STATIC ${arg_SOURCES})
+    target_sources(pinmora_${name} PUBLIC
+        FILE_SET HEADERS BASE_DIRS "${CMAKE_SOURCE_DIR}/src" FILES ${headers})
+    target_link_libraries(pinmora_${name} PUBLIC pinmora_options ${arg_USES})
+endfunction()
+
+# pinmora_test(NAME SOURCES file... USES target...): one Qt Test program, run by CTest in a home of
+# its own, so that no test reads or writes a person's settings, data or cache. Qt's headers are
+# compiled once for all tests, which saves most of a test's compile time; that needs the same macros
+# in all of them, so each links Qt6::Gui, and Qt's folder for test data, which differs, is left out.
+function(pinmora_test name)
+    cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
+    if(NOT TARGET pinmora_test_headers)
+        get_target_property(macros Qt6::Test INTERFACE_COMPILE_DEFINITIONS)
+        list(FILTER macros EXCLUDE REGEX QT_TESTCASE_)
+        set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS "${macros}")
+        add_executable(pinmora_test_headers "${CMAKE_SOURCE_DIR}/cmake/test_headers.cpp")
+        target_link_libraries(pinmora_test_headers PRIVATE pinmora_options Qt6::Gui Qt6::Test)
+        target_precompile_headers(pinmora_test_headers PRIVATE
+            <QObject> <QTemporaryDir> <QTest> <filesystem> <fstream> <string> <vector>)
+        set_target_properties(pinmora_test_headers PROPERTIES
+            RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    endif()
+    add_executable(${name} ${arg_SOURCES})
+    set_target_properties(${name} PROPERTIES
+        AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
+    target_compile_definitions(${name} PRIVATE PINMORA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    target_link_libraries(${name} PRIVATE pinmora_options ${arg_USES} Qt6::Gui Qt6::Test)
+    target_precompile_headers(${name} REUSE_FROM pinmora_test_headers)
+    add_test(NAME ${name} COMMAND ${name})
+    set(home "${CMAKE_BINARY_DIR}/tests/home/${name}")
+    file(MAKE_DIRECTORY "${home}")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT
+        "LC_ALL=C.UTF-8;QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache")
+endfunction()
