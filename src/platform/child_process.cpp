@@ -1,0 +1,75 @@
+#include "platform/child_process.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+
+namespace pinmora {
+
+ChildProcess::~ChildProcess() {
+    if (id_ > 0) {
+        signal(SIGKILL);
+        collect();
+    }
+}
+
+int ChildProcess::start(std::vector<std::string> words, int output, int errors) {
+    std::vector<char *> pointers;
+    for (std::string &word : words) {
+        pointers.push_back(word.data());
+    }
+    pointers.push_back(nullptr);
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, errors, STDERR_FILENO);
+
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    sigset_t signals;
+    sigemptyset(&signals);
+    posix_spawnattr_setsigmask(&attributes, &signals);
+    sigaddset(&signals, SIGPIPE);
+    sigaddset(&signals, SIGCHLD);
+    posix_spawnattr_setsigdefault(&attributes, &signals);
+    posix_spawnattr_setpgroup(&attributes, 0);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK |
+                                              POSIX_SPAWN_SETSIGDEF);
+
+    const int error =
+        ::posix_spawn(&id_, pointers.front(), &actions, &attributes, pointers.data(), environ);
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&actions);
+    if (error != 0) {
+        id_ = -1;
+        return error;
+    }
+    // The C library of Debian 12 declares its own function for this without regard to C++.
+    watch_ = FileDescriptor{static_cast<int>(::syscall(SYS_pidfd_open, id_, 0))};
+    return 0;
+}
+
+bool ChildProcess::hasEnded() const {
+    siginfo_t info{};
+    const int result = ::waitid(P_PID, static_cast<id_t>(id_), &info, WEXITED | WNOHANG | WNOWAIT);
+    return result == 0 ? info.si_pid != 0 : errno != EINTR;
+}
+
+void ChildProcess::signal(int number) const {
+    ::kill(-id_, number);
+    ::kill(id_, number); // it may have left its group
+}
+
+int ChildProcess::collect() {
+    int status = SIGKILL; // stays when a parent that ignores SIGCHLD left nothing to collect
+    while (::waitpid(id_, &status, 0) < 0 && errno == EINTR) {
+    }
+    id_ = -1;
+    return status;
+}
+
+} // namespace pinmora

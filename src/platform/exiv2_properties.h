@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <span>
+
+#include "platform/image_source.h"
+
+namespace pinmora {
+
+/// What Exiv2 reads in an image file's metadata.
+struct Exiv2Reading {
+    ImageProperties properties;
+    IptcEncoding iptcEncoding = IptcEncoding::Absent;
+};
+
+/// Reads a regular file's metadata, seeking past the pixels. The name is taken as a local path
+/// whatever it looks like. Nothing when the file is no image that Exiv2 knows. Never throws: of a
+/// damaged file, what was read before the damage counts.
+std::optional<Exiv2Reading> readWithExiv2(const std::filesystem::path &file);
+
+/// The same for the bytes of a file in memory.
+std::optional<Exiv2Reading> readWithExiv2(std::span<const std::byte> bytes);
+
+} // namespace pinmora

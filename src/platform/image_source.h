@@ -1,0 +1,60 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace pinmora {
+
+/// One dictionary of image properties: names to texts (UTF-8, cut at the first NUL) or numbers.
+class PropertyDictionary {
+public:
+    using Value = std::variant<std::string, double>;
+
+    void set(std::string_view key, Value value);
+    bool contains(std::string_view key) const;
+
+    /// The value as text: a text as it stands, a number as plain decimal text with at most 8
+    /// decimals; nothing where there is no such key.
+    std::optional<std::string> text(std::string_view key) const;
+
+    /// The value as a number; a text reads as the number it begins with.
+    std::optional<double> number(std::string_view key) const;
+
+private:
+    std::map<std::string, Value, std::less<>> values_;
+};
+
+/// What the header of an image file says, sorted into the customary dictionaries.
+///
+/// - `top`: "PixelWidth", "PixelHeight", "DPIWidth", "DPIHeight", "Orientation"
+/// - `iptc` ("{IPTC}"): "City", "Province/State", "Country/PrimaryLocationName"
+/// - `gps` ("{GPS}"): "LatitudeRef", "Latitude", "LongitudeRef", "Longitude" (unsigned degrees),
+///   "Altitude" (metres, negative below sea level)
+/// - `tiff` ("{TIFF}"): "ImageDescription", "Make", "Model"
+/// - `exif` ("{Exif}"): "DateTimeOriginal", "UserComment", "BodySerialNumber"
+struct ImageProperties {
+    PropertyDictionary top;
+    PropertyDictionary iptc;
+    PropertyDictionary gps;
+    PropertyDictionary tiff;
+    PropertyDictionary exif;
+};
+
+/// Reads the properties of the first image in a file; no pixels are decoded, and the file is only
+/// opened for reading. Nothing when no reader at hand (Exiv2, Qt, LibRaw) knows it as an image.
+std::optional<ImageProperties> readImageProperties(const std::filesystem::path &file);
+
+/// How the IPTC texts in a photo are encoded.
+enum class IptcEncoding {
+    Absent, ///< the photo has no IPTC block
+    Utf8,   ///< declared as UTF-8 (coded character set ESC % G)
+    Other,  ///< undeclared or declared as something else
+};
+
+IptcEncoding readIptcEncoding(const std::filesystem::path &file);
+
+} // namespace pinmora

@@ -1,0 +1,67 @@
+#include "platform/defaults.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace pinmora;
+
+class DefaultsTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir home_;
+    QString file_ = home_.filePath(QStringLiteral("Pinmora/Pinmora.ini"));
+
+    void writeFile(const char *text) {
+        QVERIFY(QDir{}.mkpath(home_.filePath(QStringLiteral("Pinmora"))));
+        QFile file(file_);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+
+private Q_SLOTS:
+    void initTestCase() { qputenv("XDG_CONFIG_HOME", home_.path().toUtf8()); }
+    void init() { QFile::remove(file_); }
+
+    void textsComeBackFromTheFile() {
+        const std::string odd = "@ \xC3\xA4; \"two, three\" = #\\ \xE2\x82\xAC\n";
+        {
+            Defaults defaults;
+            QVERIFY(!defaults.text("logReading"));
+            defaults.setText("logReading", "tolerant");
+            defaults.setText("odd", odd);
+            defaults.setText("empty", "");
+        }
+        QVERIFY(QFile::exists(file_));
+        const Defaults again;
+        QCOMPARE(again.text("logReading").value(), "tolerant");
+        QCOMPARE(again.text("odd").value(), odd);
+        QCOMPARE(again.text("empty").value(), "");
+        QVERIFY(!again.text("logreading"));
+    }
+
+    void fileEditedByHand() {
+        writeFile("[General]\nlogReading=tolerant\ntitle=one, two\n");
+        Defaults defaults;
+        QVERIFY(defaults.synchronize());
+        QCOMPARE(defaults.text("logReading").value(), "tolerant");
+        QCOMPARE(defaults.text("title").value(), "one, two");
+    }
+
+    void unwritablePlaceIsReported() {
+        QDir{home_.filePath(QStringLiteral("Pinmora"))}.removeRecursively();
+        QFile obstacle(
+            home_.filePath(QStringLiteral("Pinmora"))); // a file where the folder belongs
+        QVERIFY(obstacle.open(QIODevice::WriteOnly));
+        {
+            Defaults defaults;
+            defaults.setText("key", "value");
+            QVERIFY(!defaults.synchronize());
+        }
+        QVERIFY(obstacle.remove());
+    }
+};
+
+QTEST_GUILESS_MAIN(DefaultsTest)
+#include "defaults_test.moc"

@@ -1,0 +1,191 @@
+#include "platform/file_placement.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <fstream>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+
+using namespace pinmora;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string contents(const fs::path &file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void write(const fs::path &file, std::string_view bytes) {
+    std::ofstream(file, std::ios::binary) << bytes;
+}
+
+std::string attribute(const fs::path &file, const char *name) {
+    std::string value(100, '\0');
+    const ssize_t size = getxattr(file.c_str(), name, value.data(), value.size());
+    value.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
+    return value;
+}
+
+bool same(const timespec &a, const timespec &b) {
+    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+}
+
+std::size_t entries(const fs::path &folder) {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator{folder}, {}));
+}
+
+/// No file of this process may grow beyond `bytes`, as on a disk that is full.
+class SmallDisk {
+public:
+    explicit SmallDisk(rlim_t bytes) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit small{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+private:
+    rlimit before_{};
+};
+
+} // namespace
+
+class FilePlacementTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> room_;
+    fs::path folder_;
+    fs::path source_;
+    fs::path target_;
+
+private Q_SLOTS:
+    void init() {
+        room_ = std::make_unique<QTemporaryDir>();
+        folder_ = room_->path().toStdString();
+        source_ = folder_ / "source \xE9.jpg"; // names are bytes
+        target_ = folder_ / "target.jpg";
+    }
+
+    void bytesArrive_data() {
+        QTest::addColumn<int>("size");
+        for (const int size : {0, 1, 4096, 131073, 3000001}) {
+            QTest::addRow("%d", size) << size;
+        }
+    }
+
+    void bytesArrive() {
+        QFETCH(int, size);
+        std::string bytes(static_cast<std::size_t>(size), '\0');
+        for (std::size_t i = 0; i < bytes.size(); ++i) {
+            bytes[i] = static_cast<char>(i * i >> 7U);
+        }
+        write(source_, bytes);
+        QCOMPARE(copyFile(source_, target_), std::error_code{});
+        QVERIFY(contents(target_) == bytes);
+        QVERIFY(contents(source_) == bytes);
+    }
+
+    /// Its size is told as 0, and the kernel copies nothing of it by itself.
+    void fileThatOnlyReadingShows() {
+        QCOMPARE(copyFile("/proc/self/cmdline", target_), std::error_code{});
+        QCOMPARE(contents(target_), contents("/proc/self/cmdline"));
+    }
+
+    void permissionsAttributesAndTimesAreKept() {
+        write(source_, "photo");
+        setxattr(source_.c_str(), "user.rating", "5\0x", 3, 0);
+        setxattr(source_.c_str(), "user.empty", "", 0, 0);
+        const FileTimes times{{1000000000, 123456789}, {1210601109, 987654321}};
+        QCOMPARE(writeFileTimes(source_, times), std::error_code{});
+        QCOMPARE(chmod(source_.c_str(), 04541), 0);
+
+        QCOMPARE(copyFile(source_, target_), std::error_code{});
+
+        struct stat state {};
+        QCOMPARE(stat(target_.c_str(), &state), 0);
+        QCOMPARE(state.st_mode & 07777U, 0541U); // who copies does not lend out his identity
+        QCOMPARE(attribute(target_, "user.rating"), attribute(source_, "user.rating"));
+        QCOMPARE(listxattr(target_.c_str(), nullptr, 0), listxattr(source_.c_str(), nullptr, 0));
+        FileTimes kept;
+        QCOMPARE(readFileTimes(target_, kept), std::error_code{});
+        QVERIFY(same(kept.modification, times.modification));
+        QVERIFY(same(kept.access, times.access));
+    }
+
+    void existingTargetStays_data() {
+        QTest::addColumn<bool>("dangling");
+        QTest::newRow("file") << false;
+        QTest::newRow("dangling link") << true;
+    }
+
+    void existingTargetStays() {
+        QFETCH(bool, dangling);
+        write(source_, "new");
+        if (dangling) {
+            fs::create_symlink(folder_ / "nowhere", target_);
+        } else {
+            write(target_, "old");
+        }
+        for (const auto &error :
+             {copyFile(source_, target_), placeWithoutReplacing(source_, target_),
+              placeByReservation(source_, target_)}) {
+            QCOMPARE(error, std::errc::file_exists);
+        }
+        QCOMPARE(contents(source_), "new");
+        QCOMPARE(contents(target_), dangling ? "" : "old");
+        QVERIFY(fs::is_symlink(target_) == dangling && !fs::exists(folder_ / "nowhere"));
+    }
+
+    void failureInTheMiddleLeavesNothing() {
+        write(source_, std::string(300000, 'x'));
+        std::error_code error;
+        {
+            const SmallDisk disk(200000);
+            error = copyFile(source_, target_);
+        }
+        QCOMPARE(error, std::errc::file_too_large);
+        QCOMPARE(entries(folder_), std::size_t{1});
+    }
+
+    void sourcesThatAreNoFiles() {
+        QCOMPARE(copyFile(source_, target_), std::errc::no_such_file_or_directory);
+        QCOMPARE(copyFile(folder_, target_), std::errc::is_a_directory);
+        QCOMPARE(copyFile("/dev/zero", target_), std::errc::invalid_argument);
+        QCOMPARE(mkfifo(source_.c_str(), 0600), 0);
+        QCOMPARE(copyFile(source_, target_), std::errc::invalid_argument); // and does not hang
+        QVERIFY(!fs::exists(target_));
+    }
+
+    void placing_data() {
+        QTest::addColumn<bool>("byReservation");
+        QTest::newRow("rename") << false;
+        QTest::newRow("reservation") << true;
+    }
+
+    void placing() {
+        QFETCH(bool, byReservation);
+        const auto place = byReservation ? placeByReservation : placeWithoutReplacing;
+        QCOMPARE(place(source_, target_), std::errc::no_such_file_or_directory);
+        QCOMPARE(entries(folder_), std::size_t{0}); // no reservation is left
+        write(source_, "photo");
+        QCOMPARE(place(source_, target_), std::error_code{});
+        QCOMPARE(contents(target_), "photo");
+        QCOMPARE(entries(folder_), std::size_t{1});
+        QCOMPARE(place(target_, folder_ / "none" / "x"), std::errc::no_such_file_or_directory);
+        QCOMPARE(contents(target_), "photo");
+    }
+
+    void timesOfAMissingFile() {
+        FileTimes times;
+        QCOMPARE(readFileTimes(source_, times), std::errc::no_such_file_or_directory);
+        QCOMPARE(writeFileTimes(source_, times), std::errc::no_such_file_or_directory);
+    }
+};
+
+QTEST_APPLESS_MAIN(FilePlacementTest)
+#include "file_placement_test.moc"

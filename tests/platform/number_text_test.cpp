@@ -1,0 +1,128 @@
+#include "platform/number_text.h"
+
+#include <QTest>
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <limits>
+#include <random>
+
+using namespace pinmora;
+
+class NumberTextTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void leadingNumbers_data() {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<double>("real");
+        QTest::addColumn<int>("whole");
+        const auto row = [](const char *text, double real, int whole) {
+            QTest::newRow(text) << QByteArray{text} << real << whole;
+        };
+        row("47.3825", 47.3825, 47);
+        row(" \t-8.5 m", -8.5, -8);
+        row("+12", 12, 12);
+        row("4738.25,N", 4738.25, 4738);
+        row("12,5", 12, 12);
+        row("1.2.3", 1.2, 1);
+        row(".5", 0.5, 0);
+        row("-.5", -0.5, 0);
+        row("7.", 7, 7);
+        row("007", 7, 7);
+        row("3e5", 3, 3);
+        row("0x1F", 0, 0);
+        row("", 0, 0);
+        row(".", 0, 0);
+        row("-", 0, 0);
+        row("--1", 0, 0);
+        row("+-1", 0, 0);
+        row("- 1", 0, 0);
+        row("inf", 0, 0);
+        row("nan", 0, 0);
+        row("N47", 0, 0);
+        row("2147483647", 2147483647.0, 2147483647);
+        row("-2147483649", -2147483649.0, std::numeric_limits<int>::min());
+        row("-99999999999999999999", -1e20, std::numeric_limits<int>::min());
+        row("99999999999999999999.5", 1e20, std::numeric_limits<int>::max());
+    }
+
+    void leadingNumbers() {
+        QFETCH(QByteArray, text);
+        QFETCH(double, real);
+        QFETCH(int, whole);
+        const std::string read = text.toStdString();
+        QCOMPARE(leadingDouble(read), real);
+        QCOMPARE(leadingFloat(read), static_cast<float>(real));
+        QCOMPARE(leadingInt(read), whole);
+    }
+
+    void outOfRange() {
+        const std::string large = '-' + std::string(400, '9');
+        const std::string small = "0." + std::string(400, '0') + '1';
+        QCOMPARE(leadingDouble(large), -std::numeric_limits<double>::infinity());
+        QCOMPARE(leadingFloat(large), -std::numeric_limits<float>::infinity());
+        QCOMPARE(leadingDouble(small), 0.0);
+        QCOMPARE(leadingFloat("00" + small), 0.0F);
+    }
+
+    /// Just above the middle of two neighbours, by less than a double can tell: rounding to double
+    /// first gives the middle, and then the even neighbour below.
+    void singlePrecisionIsRoundedOnce() {
+        const std::string middle = "1.000000059604644775390625";
+        QCOMPARE(leadingFloat(middle + "0000000000000001"), std::nextafter(1.0F, 2.0F));
+        QCOMPARE(leadingFloat(middle), 1.0F);
+    }
+
+    void plainDecimals_data() {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<int>("decimals");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::newRow("short") << 47.3825 << 8 << QByteArray{"47.3825"};
+        QTest::newRow("whole") << -120.0 << 8 << QByteArray{"-120"};
+        QTest::newRow("cut and rounded") << 1.0 / 3 * 2 << 8 << QByteArray{"0.66666667"};
+        QTest::newRow("rounded up to whole") << 0.999999999 << 8 << QByteArray{"1"};
+        QTest::newRow("rounded zero") << -1e-9 << 8 << QByteArray{"0"};
+        QTest::newRow("no decimals") << 1230.4 << 0 << QByteArray{"1230"};
+        QTest::newRow("zeros before the point stay") << 100.0 << 0 << QByteArray{"100"};
+        QTest::newRow("large") << 1e21 << 8 << QByteArray{"1000000000000000000000"};
+        QTest::newRow("small") << 1e-7 << 8 << QByteArray{"0.0000001"};
+        QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << 8 << QByteArray{};
+        QTest::newRow("no number") << std::nan("") << 8 << QByteArray{};
+    }
+
+    void plainDecimals() {
+        QFETCH(double, value);
+        QFETCH(int, decimals);
+        QTEST(QByteArray::fromStdString(decimalText(value, decimals)), "expected");
+    }
+
+    void longestNumbersFit() {
+        QCOMPARE(leadingDouble(decimalText(std::numeric_limits<double>::lowest())),
+                 std::numeric_limits<double>::lowest());
+        QCOMPARE(leadingFloat(fixedText(std::numeric_limits<float>::lowest(), 6)),
+                 std::numeric_limits<float>::lowest());
+    }
+
+    void fixedTextIsWhatPrintfWrites() {
+        std::mt19937 random{11};
+        for (int i = 0; i < 200000; ++i) {
+            const auto bits = static_cast<std::uint32_t>(random());
+            // Every other one of the size of degrees.
+            const float value =
+                i % 2 == 0 ? std::bit_cast<float>(bits)
+                           : static_cast<float>(static_cast<std::int32_t>(bits)) / 11930464.0F;
+            char expected[64];
+            std::snprintf(expected, sizeof expected, "%.6f", static_cast<double>(value));
+            if (fixedText(value, 6) != expected) {
+                QCOMPARE(fixedText(value, 6), std::string{expected});
+            }
+        }
+        QCOMPARE(fixedText(0.5F, 0), "0");
+    }
+};
+
+QTEST_APPLESS_MAIN(NumberTextTest)
+#include "number_text_test.moc"
