@@ -1,0 +1,44 @@
+#pragma once
+
+#include "outlets/observable.h"
+#include "outlets/signal.h"
+
+#include <string>
+
+namespace pinmora {
+
+/// What all controls have.
+struct Control {
+    Observable<bool> enabled{true};
+    Observable<bool> visible{true};
+    int tag = 0;
+};
+
+/// A text that is shown and perhaps edited (UTF-8).
+struct TextField : Control {
+    Observable<std::string> text;
+};
+
+struct Button : Control {
+    Observable<std::string> title;
+    Signal<> pressed;
+
+    /// What a click does: nothing while the button is disabled.
+    void press() const {
+        if (enabled.get()) {
+            pressed.emit();
+        }
+    }
+};
+
+/// How far long work has come, between `minimum` and `maximum`.
+struct ProgressBar : Control {
+    Observable<double> minimum{0};
+    Observable<double> maximum{1};
+    Observable<double> value{0};
+    Observable<bool> animating{false};
+
+    void incrementBy(double amount) { value.set(value.get() + amount); }
+};
+
+} // namespace pinmora

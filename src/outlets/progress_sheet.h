@@ -1,0 +1,31 @@
+#pragma once
+
+#include "outlets/controls.h"
+#include "outlets/window.h"
+
+#include <string>
+
+namespace pinmora {
+
+/// The sheet that shows how far long work has come. It is drawn at once after every change.
+class ProgressSheet {
+public:
+    explicit ProgressSheet(WorkingWindow workingWindow);
+
+    /// Puts the sheet up on the working window with the bar at 0 of `maxValue`.
+    void showProgressWindow(const std::string &text, const std::string &subText, double maxValue);
+    void setSubText(const std::string &subText);
+    void progressWindowIncrement();
+    /// Nothing happens when the sheet is not up.
+    void closeProgress();
+
+    Sheet progressWindow;
+    TextField progressTextMain;
+    TextField progressTextSub;
+    ProgressBar progressIndic;
+
+private:
+    WorkingWindow workingWindow_;
+};
+
+} // namespace pinmora

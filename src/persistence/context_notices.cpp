@@ -1,0 +1,62 @@
+#include "persistence/context.h"
+#include "persistence/record.h"
+
+namespace pinmora {
+
+void Context::tellAccess(const Record &record, std::string_view key,
+                         void (ChangeObserver::*notice)(const Record &, std::string_view)) const {
+    for (ChangeObserver *observer : observers_) {
+        (observer->*notice)(record, key);
+    }
+}
+
+void Context::tellWillChange(Record &record, std::string_view key) {
+    const std::vector<std::string_view> dependents = record.entity().dependentsOf(key);
+    for (ChangeObserver *observer : observers_) {
+        observer->willChange(record, key);
+        for (std::string_view dependent : dependents) {
+            observer->willChange(record, dependent);
+        }
+    }
+}
+
+void Context::tellDidChange(Record &record, std::string_view key) {
+    const std::vector<std::string_view> dependents = record.entity().dependentsOf(key);
+    for (ChangeObserver *observer : observers_) {
+        for (std::string_view dependent : dependents) {
+            observer->didChange(record, dependent);
+        }
+        observer->didChange(record, key);
+    }
+}
+
+void Context::didChange(Record &record, std::string_view key) {
+    markUpdated(record);
+    if (isObserved()) {
+        tellDidChange(record, key);
+    }
+}
+
+void Context::willMutateSet(Record &record, std::string_view key, SetMutation mutation,
+                            std::span<Record *const> objects) {
+    for (ChangeObserver *observer : observers_) {
+        observer->willMutateSet(record, key, mutation, objects);
+    }
+}
+
+void Context::didMutateSet(Record &record, std::string_view key, SetMutation mutation,
+                           std::span<Record *const> objects) {
+    markUpdated(record);
+    for (ChangeObserver *observer : observers_) {
+        observer->didMutateSet(record, key, mutation, objects);
+    }
+}
+
+void Context::markUpdated(Record &record) {
+    if (record.state_ == RecordState::Clean) {
+        record.state_ = RecordState::Updated;
+        ++updated_;
+    }
+}
+
+} // namespace pinmora
