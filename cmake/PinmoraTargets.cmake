@@ -24,14 +24,20 @@ endif()
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-# pinmora_library(NAME SOURCES file... USES target...): the library of one folder under src/. All
-# headers of the folder are its interface: the dev preset compiles each of them alone.
+# pinmora_library(NAME SOURCES file... USES target...): the library of one folder under src/, or of
+# a program's folder under apps/, whose headers are included from that folder. All headers of the
+# folder are the library's interface: the dev preset compiles each of them alone.
 function(pinmora_library name)
     cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
     file(GLOB headers CONFIGURE_DEPENDS *.h)
+    set(base "${CMAKE_SOURCE_DIR}/src")
+    cmake_path(IS_PREFIX base "${CMAKE_CURRENT_SOURCE_DIR}" is_room)
+    if(NOT is_room)
+        set(base "${CMAKE_CURRENT_SOURCE_DIR}")
+    endif()
     add_library(pinmora_${name} STATIC ${arg_SOURCES})
     target_sources(pinmora_${name} PUBLIC
-        FILE_SET HEADERS BASE_DIRS "${CMAKE_SOURCE_DIR}/src" FILES ${headers})
+        FILE_SET HEADERS BASE_DIRS "${base}" FILES ${headers})
     target_link_libraries(pinmora_${name} PUBLIC pinmora_options ${arg_USES})
 endfunction()
 

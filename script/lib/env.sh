@@ -4,6 +4,7 @@
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+# shellcheck disable=SC2034 # for the scripts that source this
 cores=$(nproc)
 
 export HOME="$root/build/home"

@@ -11,7 +11,9 @@ void ErrorSheet::errorWindowOpen() {
     opened.emit();
 }
 
-void ErrorSheet::errorWindowClose() { errorWindow.end(); }
+void ErrorSheet::errorWindowClose() {
+    errorWindow.end();
+}
 
 void ErrorSheet::present(const std::string &header, const std::string &text) {
     errorHeader.text.set(header);

@@ -10,6 +10,10 @@ EntityDescription::EntityDescription(std::string_view name, Factory factory,
                                      std::vector<Property> properties)
     : name_(name), factory_(factory), properties_(std::move(properties)) {}
 
+std::unique_ptr<Record> EntityDescription::make() const {
+    return factory_();
+}
+
 const Property *EntityDescription::find(std::string_view key) const {
     const auto found = std::find_if(properties_.begin(), properties_.end(),
                                     [key](const Property &p) { return p.name == key; });

@@ -62,7 +62,7 @@ public:
     EntityDescription(std::string_view name, Factory factory, std::vector<Property> properties);
 
     std::string_view name() const { return name_; }
-    std::unique_ptr<Record> make() const { return factory_(); }
+    std::unique_ptr<Record> make() const;
     const std::vector<Property> &properties() const { return properties_; }
 
     /// Null when there is no such key.

@@ -4,7 +4,9 @@
 
 namespace pinmora {
 
-Record *InsertionList::next(const Record &record) { return record.next_; }
+Record *InsertionList::next(const Record &record) {
+    return record.next_;
+}
 
 void InsertionList::append(Record &record) {
     record.previous_ = last_;

@@ -8,8 +8,8 @@
 
 namespace pinmora {
 
-/// A started child process that leads a process group of its own; it is ended by force and
-/// collected at the latest when this goes.
+/// A started child process that leads a process group of its own. If it was not collected by then,
+/// it and its group are ended by force when this goes.
 class ChildProcess {
 public:
     ChildProcess() = default;

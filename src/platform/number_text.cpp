@@ -34,8 +34,8 @@ std::size_t runOf(Kind kind, std::string_view text) {
 Numeral numeralAt(std::string_view text) {
     Numeral numeral;
     text.remove_prefix(runOf(isBlank, text));
-    if (!text.empty() && (text.front() == '-' || text.front() == '+')) {
-        numeral.negative = text.front() == '-';
+    const char sign = text.empty() ? '\0' : text.front();
+    if (sign == '-' || sign == '+') {
         text.remove_prefix(1);
     }
     const std::size_t whole = runOf(isDigit, text);
@@ -44,6 +44,7 @@ Numeral numeralAt(std::string_view text) {
         const std::size_t decimals = runOf(isDigit, text.substr(length + 1));
         length = whole + decimals > 0 ? length + 1 + decimals : 0;
     }
+    numeral.negative = sign == '-' && length > 0;
     numeral.digits = text.substr(0, length);
     numeral.whole = text.substr(0, whole);
     return numeral;

@@ -139,8 +139,7 @@ ProcessOutcome run(std::vector<std::string> words, const ProcessLimits &limits) 
         outcome.end = exited ? ProcessOutcome::End::Exited : ProcessOutcome::End::Crashed;
         outcome.code = exited ? WEXITSTATUS(status) : WTERMSIG(status);
     } else {
-        child.signal(SIGKILL); // whoever of its group is still there
-        outcome.end = ProcessOutcome::End::TimedOut;
+        outcome.end = ProcessOutcome::End::TimedOut; // what is left of its group ends with `child`
     }
     outcome.output = std::move(output.kept);
     outcome.errors = std::move(errors.kept);

@@ -22,7 +22,7 @@ void SheetsTest::signalsSurviveHandlersThatComeAndGo() {
     Connection third;
     const Connection first = signal.connect([&](int value) {
         heard += QString::number(value);
-        second = {};                                           // not called any more
+        second = {};                                         // not called any more
         third = signal.connect([&](int) { heard += u'+'; }); // called from the next time on
     });
     second = signal.connect([&](int) { heard += u'2'; });

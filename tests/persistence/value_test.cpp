@@ -27,17 +27,18 @@ void ValueTest::convertsLikeThePlatformAlwaysHas_data() {
     const double huge = 1e22;
     QTest::newRow("nothing") << Value() << 0 << 0.0 << QByteArray() << false;
     QTest::newRow("empty text") << Value("") << 0 << 0.0 << QByteArray("") << false;
-    QTest::newRow("text with number") << Value(" -12.9 m") << -12 << -12.9 << QByteArray(" -12.9 m")
-                                      << true;
+    QTest::newRow("text with number")
+        << Value(" -12.9 m") << -12 << -12.9 << QByteArray(" -12.9 m") << true;
     QTest::newRow("text without") << Value("north") << 0 << 0.0 << QByteArray("north") << false;
     QTest::newRow("whole") << Value(std::int32_t(7)) << 7 << 7.0 << QByteArray("7") << true;
     QTest::newRow("decimal") << Value(151.2) << 151 << 151.2 << QByteArray("151.2") << true;
     QTest::newRow("small") << Value(-0.000001) << 0 << -0.000001 << QByteArray("-0.000001") << true;
     QTest::newRow("huge") << Value(huge) << std::numeric_limits<int>::max() << huge
                           << QByteArray("1") + QByteArray(22, '0') << true;
-    QTest::newRow("not a number")
-        << Value(std::numeric_limits<double>::infinity()) << std::numeric_limits<int>::max()
-        << std::numeric_limits<double>::infinity() << QByteArray("inf") << true;
+    QTest::newRow("not a number") << Value(std::numeric_limits<double>::infinity())
+                                  << std::numeric_limits<int>::max()
+                                  << std::numeric_limits<double>::infinity() << QByteArray("inf")
+                                  << true;
     QTest::newRow("flag") << Value(true) << 1 << 1.0 << QByteArray("1") << true;
 }
 

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include <csignal>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -90,6 +91,12 @@ private Q_SLOTS:
                                    "while [ $i -lt 9999 ]; do i=$((i+1)); done; exit 7");
         QCOMPARE(outcome.output, "said\n");
         QCOMPARE(outcome.code, 7);
+    }
+
+    void waitingTakesNoProcessorTime() {
+        const std::clock_t before = std::clock();
+        shell("exec >&- 2>&-; sleep 60", within(400ms));
+        QVERIFY(std::clock() - before < CLOCKS_PER_SEC / 25);
     }
 
     void processLeftBehindIsNotWaitedFor() {

@@ -39,9 +39,9 @@ private Q_SLOTS:
     }
 
     void characterCutAnywhereIsInvalid() {
-        for (const std::string whole : {"\xC3\xA4", "\xE2\x82\xAC", "\xF0\x9F\x98\x80"}) {
+        for (const std::string_view whole : {"\xC3\xA4", "\xE2\x82\xAC", "\xF0\x9F\x98\x80"}) {
             for (std::size_t length = 1; length < whole.size(); ++length) {
-                QVERIFY(!isUtf8("1234567" + whole.substr(0, length)));
+                QVERIFY(!isUtf8(whole.substr(0, length))); // what follows does not count
             }
         }
     }
