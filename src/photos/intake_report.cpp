@@ -1,0 +1,43 @@
+#include "photos/intake_report.h"
+
+#include "platform/file_descriptor.h"
+
+#include <fcntl.h>
+#include <filesystem>
+
+namespace pinmora {
+
+std::string_view reasonText(WhyLeftOut why) {
+    switch (why) {
+    case WhyLeftOut::NotAnImage:
+        return "not readable as an image";
+    case WhyLeftOut::Missing:
+        return "there is no such file";
+    case WhyLeftOut::NoPermission:
+        return "no permission to read it";
+    case WhyLeftOut::NotAFile:
+        return "not a regular file";
+    case WhyLeftOut::NoKnownType:
+        return "neither a photo nor a GPS log by its name";
+    }
+    return {};
+}
+
+WhyLeftOut whyNoImage(const std::string &path) {
+    std::error_code error;
+    const std::filesystem::file_status status = std::filesystem::status(path, error);
+    if (status.type() == std::filesystem::file_type::not_found) {
+        return WhyLeftOut::Missing;
+    }
+    if (error == std::errc::permission_denied) {
+        return WhyLeftOut::NoPermission;
+    }
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+        return WhyLeftOut::NotAFile;
+    }
+    const FileDescriptor opened(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const bool barred = !opened.isOpen() && lastError() == std::errc::permission_denied;
+    return barred ? WhyLeftOut::NoPermission : WhyLeftOut::NotAnImage;
+}
+
+} // namespace pinmora

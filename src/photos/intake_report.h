@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+namespace pinmora {
+
+/// Why a file that was to be loaded has no record.
+enum class WhyLeftOut {
+    NotAnImage,   ///< no reader at hand opens it
+    Missing,      ///< there is no such file (any more)
+    NoPermission, ///< it may not be read
+    NotAFile,     ///< a pipe or a device
+    NoKnownType,  ///< named by the person, but neither as a photo nor as a log
+};
+
+/// The reason as words that follow the file's name and a colon.
+std::string_view reasonText(WhyLeftOut why);
+
+struct LeftOutFile {
+    std::string path;
+    WhyLeftOut why;
+};
+
+struct UnreadFolder {
+    std::string path;
+    std::error_code error;
+};
+
+/// What became of the files and folders that were given to the photo intake, in order of loading.
+/// All paths are absolute.
+struct IntakeReport {
+    std::vector<std::string> loaded;
+    std::vector<LeftOutFile> leftOut;
+    /// Found in a folder with a log's extension, but no logs.
+    std::vector<std::string> logsPassedOver;
+    /// Could not be read, or not to their end.
+    std::vector<UnreadFolder> unreadFolders;
+};
+
+/// Why a file cannot be read as an image, as far as can be told by looking at it from outside.
+WhyLeftOut whyNoImage(const std::string &path);
+
+} // namespace pinmora
