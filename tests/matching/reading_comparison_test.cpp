@@ -1,0 +1,71 @@
+#include "matching/reading_comparison.h"
+
+#include <QTest>
+
+using namespace pinmora;
+using namespace std::chrono_literals;
+
+using Milliseconds = QList<int>;
+
+namespace {
+
+std::vector<Date> instants(const Milliseconds &times) {
+    std::vector<Date> instants;
+    for (int time : times) {
+        instants.push_back(Date{std::chrono::milliseconds(time)});
+    }
+    return instants;
+}
+
+} // namespace
+
+class ReadingComparisonTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void countsPhotosNearPoints_data() {
+        QTest::addColumn<Milliseconds>("photos");
+        QTest::addColumn<Milliseconds>("points");
+        QTest::addColumn<std::size_t>("near");
+
+        const auto row = [](const char *name, Milliseconds photos, Milliseconds points,
+                            std::size_t near) { QTest::newRow(name) << photos << points << near; };
+        row("nothing at all", {}, {}, 0);
+        row("no points", {0}, {}, 0);
+        row("no photos", {}, {0}, 0);
+        row("five minutes before and after", {-300'000, 300'000}, {0}, 2);
+        row("a little more", {-300'001, 300'001}, {0}, 0);
+        row("between two points", {400'000}, {0, 800'000}, 0);
+        row("each photo once", {0, 0, 1, 900'000}, {0, 1, 2, 3}, 3);
+        row("points in no order", {0, 1'000'000, 5'000'000}, {1'200'000, 9'000'000, -200'000}, 2);
+    }
+
+    void countsPhotosNearPoints() {
+        QFETCH(Milliseconds, photos);
+        QFETCH(Milliseconds, points);
+        QFETCH(std::size_t, near);
+        const auto taken = instants(photos);
+        const auto logged = instants(points);
+        const ReadingComparison exact = compareReadings(taken, logged, {});
+        QCOMPARE(exact.exact, near);
+        QCOMPARE(exact.tolerant, std::size_t(0));
+        const ReadingComparison tolerant = compareReadings(taken, {}, logged);
+        QCOMPARE(tolerant.exact, std::size_t(0));
+        QCOMPARE(tolerant.tolerant, near);
+    }
+
+    void theEndsOfTime() {
+        const std::vector ends{Date::min(), Date::max()};
+        const std::vector inner{Date::min() + 300s, Date::max() - 301s, Date{}};
+        QCOMPARE(compareReadings(inner, ends, {}).exact, std::size_t(1));
+    }
+
+    void whenTheLogsAreWorthReadingAnew() {
+        QVERIFY((ReadingComparison{.exact = 0, .tolerant = 1}.onlyTolerantPlacesPhotos()));
+        QVERIFY((!ReadingComparison{.exact = 0, .tolerant = 0}.onlyTolerantPlacesPhotos()));
+        QVERIFY((!ReadingComparison{.exact = 1, .tolerant = 9}.onlyTolerantPlacesPhotos()));
+    }
+};
+
+QTEST_APPLESS_MAIN(ReadingComparisonTest)
+#include "reading_comparison_test.moc"
