@@ -1,0 +1,66 @@
+#pragma once
+
+#include "gps/gpx_reader.h"
+#include "gps/log_file.h"
+#include "gps/log_file_types.h"
+#include "gps/log_report.h"
+#include "gps/nmea_reader.h"
+
+#include <filesystem>
+#include <map>
+#include <span>
+#include <string_view>
+
+namespace pinmora {
+
+/// Loads GPS logs into tracks. Everything runs at once on the calling thread; what is made stays in
+/// the context, whatever comes after it.
+class Gps {
+public:
+    /// All three must outlive it.
+    Gps(Context &context, ProgressSheet &progress, ErrorSheet &errors);
+
+    /// The extensions of logs, in the order in which an open panel offers them.
+    std::span<const std::string_view> gpsTypes() const { return gpsLogTypes; }
+    const std::map<std::string_view, std::string_view> &gpsSupportDict() const {
+        return gpsLogTypeTable();
+    }
+    /// Whether a path names a GPS log, by its extension as spelled.
+    bool isGPS(std::string_view path) const { return namesGpsLog(path); }
+
+    /// How the logs to come are read; at first exact.
+    LogReading reading() const { return reading_; }
+    void setReading(LogReading reading) { reading_ = reading; }
+
+    /// Starts a load of one or more files by a person's choice: a GPX file has not been seen yet.
+    void beginLoad();
+
+    /// Loads one file, whatever its name: the one rule for all ways that a log can come. Its first
+    /// bytes choose the reader. A file that cannot be read is told on the error sheet.
+    LogReport loadLog(const std::filesystem::path &path);
+
+    /// Reads a file with the GPX reader. The caller has set activeLog.
+    LogReport parseXMLFile(const std::filesystem::path &path);
+    /// Reads the text (UTF-8) of an NMEA log.
+    LogReport processNMEAData(std::string_view text) { return readNmea(text, {}); }
+
+    bool gpxFile() const { return gpx_.elements().gpxFile(); }
+    bool activeLog() const { return gpx_.elements().activeLog(); }
+    void setActiveLog(bool yes) { gpx_.elements().setActiveLog(yes); }
+    bool inTrack() const { return gpx_.elements().inTrack(); }
+    int trackCount() const { return gpx_.elements().trackCount(); }
+    int track_partCount() const { return gpx_.elements().track_partCount(); }
+
+private:
+    LogReport readGpx(LogFile &file, std::string_view firstBlock,
+                      const std::filesystem::path &path);
+    LogReport readNmea(std::string_view text, const std::filesystem::path &path);
+    LogReport reportUnreadable(const std::filesystem::path &path, std::error_code reason);
+
+    ErrorSheet &errors_;
+    GpxReader gpx_;
+    NmeaReader nmea_;
+    LogReading reading_ = LogReading::Exact;
+};
+
+} // namespace pinmora

@@ -1,0 +1,116 @@
+#include "gps/gpx_elements.h"
+
+#include "gps/iso_time.h"
+#include "store/calendar_formats.h"
+
+namespace pinmora {
+
+void GpxElements::beginDocument(LogReport &report, const XmlParser &parser) {
+    report_ = &report;
+    parser_ = &parser;
+    zone_.emplace();
+    openValues_ = 0;
+    inTrack_ = false;
+    if (!writer_.stillHolds(currentTrack_)) {
+        currentTrack_ = nullptr;
+    }
+}
+
+void GpxElements::didStartElement(std::string_view name, const char *const *attributes) {
+    const bool isValue = name == "ele" || name == "time";
+    openValues_ += isValue ? 1 : 0;
+    if (name == "gpx") {
+        gpxFile_ = true;
+    }
+    if (!gpxFile_ || !activeLog_) {
+        return;
+    }
+    if (isValue) {
+        setText();
+    } else if (name == "trkpt") {
+        inTrack_ = true;
+        keepPosition(attributes);
+    } else if (name == "trkseg") {
+        currentTrack_ = &writer_.makeTrack(++trackCount_, *report_);
+        inTrack_ = true;
+    }
+}
+
+/// Only text inside a value element is ever asked for, so that outside nothing needs to be kept.
+void GpxElements::foundCharacters(std::string_view text) {
+    if (gpxFile_ && openValues_ > 0) {
+        if (!currentStringValue_) {
+            setText();
+        }
+        currentStringValue_->append(text);
+    }
+}
+
+void GpxElements::didEndElement(std::string_view name) {
+    const bool isTime = name == "time";
+    const bool isEle = !isTime && name == "ele";
+    openValues_ -= isTime || isEle ? 1 : 0;
+    if (!gpxFile_ || !activeLog_) {
+        releaseText();
+        return;
+    }
+    if (isTime) {
+        if (inTrack_ && currentStringValue_) {
+            keepTime();
+        }
+        return; // the text stays
+    }
+    if (isEle) {
+        if (inTrack_ && currentStringValue_) {
+            currentTrackPos_.ele = Text(*currentStringValue_);
+        }
+    } else if (name == "trkpt") {
+        finishPoint();
+    } else if (name == "trkseg") {
+        inTrack_ = false;
+    }
+    releaseText();
+}
+
+void GpxElements::keepPosition(const char *const *attributes) {
+    for (; *attributes; attributes += 2) {
+        const std::string_view name = attributes[0];
+        if (name == "lat") {
+            currentTrackPos_.lat = Text(attributes[1]);
+        } else if (name == "lon") {
+            currentTrackPos_.lon = Text(attributes[1]);
+        }
+    }
+}
+
+void GpxElements::keepTime() {
+    currentTrackPos_.date = toTime(*currentStringValue_);
+    currentTrackPos_.time = Text(*currentStringValue_);
+    if (!currentTrackPos_.date && !report_->sample) {
+        currentTrackPos_.timeLine = parser_->line();
+    }
+}
+
+/// Without a time there is no point to make: it could never be chosen for a photo.
+void GpxElements::finishPoint() {
+    TrackPos &found = currentTrackPos_;
+    if (!found.time.hasValue()) {
+        report_->addUnusable("point without time", report_->sample ? 0 : parser_->line());
+    } else if (!found.date) {
+        report_->addUnusable(found.time.view(), found.timeLine);
+    }
+    if (found.time.hasValue()) {
+        writer_.makePoint(currentTrack_,
+                          {std::move(found.lat), std::move(found.lon), std::move(found.ele),
+                           found.date, ++track_partCount_},
+                          *report_);
+    }
+    found = {};
+}
+
+std::optional<Date> GpxElements::toTime(std::string_view text) {
+    return policyOf(report_->reading).isoTimes ? instantFromIsoText(text)
+                                               : dateFromText(text, gpxTimeFormat, *zone_);
+}
+
+} // namespace pinmora

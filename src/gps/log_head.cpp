@@ -1,0 +1,93 @@
+#include "gps/log_head.h"
+
+#include "gps/log_file.h"
+#include "platform/text_encoding.h"
+
+#include <array>
+
+namespace pinmora {
+
+namespace {
+
+constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view utf16BigEndianMark = "\xFE\xFF";
+constexpr std::string_view utf16LittleEndianMark = "\xFF\xFE";
+
+bool isBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+/// Looks for a line that begins with "$" in text that comes in blocks.
+class SentenceFinder {
+public:
+    bool foundIn(std::string_view block) {
+        for (const char c : block) {
+            if (atLineStart_ && c == '$') {
+                return true;
+            }
+            atLineStart_ = c == '\n' || c == '\r';
+        }
+        return false;
+    }
+
+private:
+    bool atLineStart_ = true;
+};
+
+} // namespace
+
+std::optional<DocumentStart> documentStart(std::string_view head) {
+    DocumentStart start;
+    std::size_t width = 1;   // bytes of a character
+    std::size_t asciiAt = 0; // which of them holds an ASCII character
+    for (const std::string_view mark : {utf8Mark, utf16BigEndianMark, utf16LittleEndianMark}) {
+        if (head.starts_with(mark)) {
+            start.markSize = mark.size();
+            width = mark == utf8Mark ? 1 : 2;
+            asciiAt = mark == utf16BigEndianMark ? 1 : 0;
+        } else if (mark.starts_with(head)) {
+            return std::nullopt;
+        }
+    }
+    for (std::size_t at = start.markSize; head.size() - at >= width; at += width) {
+        const bool isAscii = width == 1 || head[at + 1 - asciiAt] == '\0';
+        const char c = isAscii ? head[at + asciiAt] : '\0';
+        if (!isBlank(c)) {
+            start.begin = at;
+            start.first = c;
+            return start;
+        }
+        start.lines += c == '\n' ? 1 : 0;
+    }
+    return std::nullopt;
+}
+
+bool beginsWithXml(std::string_view head, const ReadingPolicy &policy) {
+    if (policy.xmlNeedsDeclaration) {
+        return withoutByteOrderMark(head).starts_with("<?xml version=");
+    }
+    const std::optional<DocumentStart> start = documentStart(head);
+    return start && start->first == '<';
+}
+
+bool looksLikeLog(const std::filesystem::path &path, LogReading reading) {
+    LogFile file;
+    if (file.open(path)) {
+        return true;
+    }
+    std::array<char, logBlockSize> buffer;
+    std::optional<std::string_view> block = file.read(buffer);
+    if (!block || beginsWithXml(block->substr(0, logHeadSize), policyOf(reading))) {
+        return true;
+    }
+    SentenceFinder sentence;
+    for (*block = withoutByteOrderMark(*block); block && !block->empty();
+         block = file.read(buffer)) {
+        if (sentence.foundIn(*block)) {
+            return true;
+        }
+    }
+    return !block;
+}
+
+} // namespace pinmora

@@ -1,0 +1,45 @@
+#include "gps/log_report.h"
+
+namespace pinmora {
+
+namespace {
+
+/// A line of a log, fit for a terminal: a damaged log holds anything.
+std::string shown(std::string_view text) {
+    constexpr std::size_t longest = 100;
+    std::size_t end = text.size();
+    if (end > longest) {
+        end = longest;
+        while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80) {
+            --end; // not within a character
+        }
+    }
+    std::string result(text.substr(0, end));
+    for (char &c : result) {
+        const auto code = static_cast<unsigned char>(c);
+        c = code < 0x20 || code == 0x7f ? '.' : c;
+    }
+    return end < text.size() ? result + "..." : result;
+}
+
+} // namespace
+
+void LogReport::addUnusable(std::string_view text, std::size_t line) {
+    ++unusable;
+    if (!sample) {
+        sample = Sample{shown(text), line};
+    }
+}
+
+std::string LogReport::unusableText() const {
+    if (!sample) {
+        return {};
+    }
+    const std::string what = unusable == 1 ? "1 point or sentence could not be used, in line "
+                                           : std::to_string(unusable) +
+                                                 " points or sentences could not be used, the "
+                                                 "first in line ";
+    return what + std::to_string(sample->line) + ": " + sample->text;
+}
+
+} // namespace pinmora

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+struct XML_ParserStruct;
+
+namespace pinmora {
+
+/// What a document consists of, in its order. Names are as written in the file, prefix included.
+class XmlEvents {
+public:
+    virtual ~XmlEvents() = default;
+    /// `attributes` are name, value, name, value, ..., null.
+    virtual void didStartElement(std::string_view name, const char *const *attributes) = 0;
+    /// A run of text (UTF-8); the text of one element may come in several.
+    virtual void foundCharacters(std::string_view text) = 0;
+    virtual void didEndElement(std::string_view name) = 0;
+};
+
+/// A streaming XML parser: Expat, with the single-byte encodings that it does not know itself.
+///
+/// External entities are read as small regular files beside the document and from nowhere else; a
+/// document that asks for another one is malformed. An external DTD is not read. Expat's limits
+/// against the expansion of entities into entities are in force.
+class XmlParser {
+public:
+    /// `folder` is where the document lies; nothing for one that is no file, which then has no
+    /// external entities. `events` must outlive the parser.
+    XmlParser(XmlEvents &events, std::optional<std::filesystem::path> folder);
+
+    /// Takes the next bytes, with `isLast` the last ones; false when the document is malformed, and
+    /// from then on.
+    bool parse(std::string_view bytes, bool isLast);
+
+    /// The line that is being parsed, from 1. Costs a walk over what has come since the last call.
+    std::size_t line() const;
+    /// Counts lines that stood before the first byte given to parse().
+    void skipLines(std::size_t count) { skippedLines_ = count; }
+
+private:
+    struct Handlers;
+    struct Freer {
+        void operator()(XML_ParserStruct *parser) const;
+    };
+
+    XmlEvents &events_;
+    std::optional<std::filesystem::path> folder_;
+    std::unique_ptr<XML_ParserStruct, Freer> parser_;
+    std::optional<std::string> externalSubset_; ///< system identifier of the external DTD, if any
+    std::size_t skippedLines_ = 0;
+};
+
+} // namespace pinmora
