@@ -39,7 +39,7 @@ void image::updateLatAndLon(const PositionTexts &position) {
     setLocationDetails();
 }
 
-void image::setDate(Text text) {
+void image::setDate(const Text &text) {
     LocalZone zone;
     std::optional<Date> date;
     if (text == "") {

@@ -56,7 +56,7 @@ public:
     const std::optional<Date> &date() const { return read("date", date_); }
     /// Reads "YYYY:MM:DD HH:MM:SS" as clock time of the computer's zone; "" stands for now, text
     /// that does not fit leaves no date.
-    void setDate(Text text);
+    void setDate(const Text &text);
     /// Whether `date` is only the moment of loading.
     const std::optional<bool> &no_capture_time() const {
         return read("no_capture_time", no_capture_time_);

@@ -62,7 +62,7 @@ void track_part::link(pinmora::track *track) {
     }
 }
 
-void track_part::setTime(Text text) {
+void track_part::setTime(const Text &text) {
     LocalZone zone;
     change("time", time_, dateFromText(text.view(), gpxTimeFormat, zone));
 }

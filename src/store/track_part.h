@@ -24,7 +24,7 @@ public:
     const std::optional<Date> &time() const { return read("time", time_); }
     /// Reads "YYYY-MM-DDTHH:MM:SSZ" as clock time of the computer's zone; other text leaves no
     /// time.
-    void setTime(Text text);
+    void setTime(const Text &text);
     /// Stores a time as it is.
     void setTimeWithDate(std::optional<Date> date) { change("time", time_, date); }
     /// The time as "12 May 2008 14:05:09" in the computer's zone; "" without one.

@@ -1,0 +1,132 @@
+#include "loading.h"
+
+#include "matching/reading_comparison.h"
+#include "photos/photos.h"
+#include "store/image.h"
+#include "store/track.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace pinmora::tag {
+
+namespace {
+
+/// Loads the photos and notes the logs; says which files could not be used. True: all could.
+bool loadPhotos(MemoryLibrary &library, LogList &logs, const Options &options,
+                const Surroundings &surroundings) {
+    Photos photos(library.context, logs);
+    bool allUsed = true;
+    for (std::size_t i = 0; i < options.paths.size(); ++i) {
+        surroundings.progress("Reading", i, options.paths.size());
+        std::error_code error;
+        if (!std::filesystem::exists(options.paths[i], error)) {
+            surroundings.tell(options.paths[i].native() + ": " +
+                              (error ? error.message() : "there is no such file or folder"));
+            allUsed = false;
+            continue;
+        }
+        photos.processThisPath(options.paths[i].native());
+    }
+    surroundings.progress("Reading", options.paths.size(), options.paths.size());
+
+    const IntakeReport &report = photos.report();
+    for (const LeftOutFile &file : report.leftOut) {
+        surroundings.tell(file.path + ": left out: " + std::string(reasonText(file.why)));
+    }
+    for (const UnreadFolder &folder : report.unreadFolders) {
+        surroundings.tell(folder.path + ": this folder cannot be read: " + folder.error.message());
+    }
+    for (const std::string &path : report.logsPassedOver) {
+        surroundings.tell(path + ": passed over, it is no GPS log");
+    }
+    return allUsed && report.leftOut.empty() && report.unreadFolders.empty();
+}
+
+std::vector<Date> captureTimes(const std::vector<image *> &photos, const offset &clockOffset) {
+    std::vector<Date> times;
+    for (const image *photo : photos) {
+        if (photo->date() && !photo->no_capture_time().value_or(false)) {
+            times.push_back(*photo->date() + clockOffset.signedOffset());
+        }
+    }
+    return times;
+}
+
+/// Whether the exact reading, which the library holds, places no photo where the tolerant one
+/// would.
+bool tolerantFitsBetter(const MemoryLibrary &library, const LogList &logs,
+                        const std::vector<Date> &photoTimes) {
+    const std::vector<Date> exact = pointTimes(library.context);
+    if (compareReadings(photoTimes, exact, {}).exact > 0) {
+        return false; // no need to read the logs a second time
+    }
+    MemoryLibrary trial;
+    logs.load(trial.gps, LogReading::Tolerant);
+    return compareReadings(photoTimes, exact, pointTimes(trial.context)).onlyTolerantPlacesPhotos();
+}
+
+void removeTracks(Context &context) {
+    for (track *one : context.fetch<track>()) {
+        context.deleteObject(*one);
+    }
+}
+
+LogList::Outcome loadLogs(MemoryLibrary &library, const LogList &logs,
+                          const std::vector<Date> &photoTimes, const Options &options,
+                          const Surroundings &surroundings) {
+    const bool tolerant =
+        options.reading == LogsChoice::Tolerant ||
+        (options.reading == LogsChoice::Auto && surroundings.logReading == "tolerant");
+    const LogReading inForce = tolerant ? LogReading::Tolerant : LogReading::Exact;
+    LogList::Outcome outcome = logs.load(library.gps, inForce);
+    if (options.reading == LogsChoice::Auto && !tolerant &&
+        tolerantFitsBetter(library, logs, photoTimes)) {
+        removeTracks(library.context);
+        outcome = logs.load(library.gps, LogReading::Tolerant);
+        surroundings.tell("the logs are read as tolerant: as exact, they place no photo within 5 "
+                          "minutes of a point");
+    }
+    return outcome;
+}
+
+/// Says what the logs' reading could not use. True: every log could be read.
+bool tellOfLogs(const LogList::Outcome &outcome, const Surroundings &surroundings) {
+    bool allRead = true;
+    for (const LogReport &report : outcome.reports) {
+        const std::string unusable = report.unusableText();
+        if (report.failed()) {
+            surroundings.tell(report.path.native() + ": Error! " + report.message);
+            allRead = false;
+        }
+        if (!unusable.empty()) {
+            surroundings.tell(report.path.native() + ": " + unusable);
+        }
+    }
+    for (const std::string &path : outcome.passedOver) {
+        surroundings.tell(path + ": passed over, it is no GPS log");
+    }
+    return allRead;
+}
+
+} // namespace
+
+Loaded loadEverything(MemoryLibrary &library, const offset &clockOffset, const Options &options,
+                      const Surroundings &surroundings) {
+    LogList logs;
+    for (const std::filesystem::path &log : options.logs) {
+        logs.readLog(log.native());
+    }
+    Loaded loaded;
+    loaded.trouble = !loadPhotos(library, logs, options, surroundings);
+    loaded.photos = library.context.fetch<image>();
+    loaded.hadLogs = !logs.empty();
+    if (loaded.hadLogs) {
+        const LogList::Outcome outcome = loadLogs(
+            library, logs, captureTimes(loaded.photos, clockOffset), options, surroundings);
+        loaded.trouble |= !tellOfLogs(outcome, surroundings);
+    }
+    return loaded;
+}
+
+} // namespace pinmora::tag

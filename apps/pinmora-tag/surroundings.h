@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace pinmora::tag {
+
+/// What the command has around it besides its options.
+struct Surroundings {
+    std::filesystem::path resources;               ///< the program's resource folder
+    std::optional<std::string> logReading;         ///< the person's setting: "exact" or "tolerant"
+    std::function<void(const std::string &)> tell; ///< one line for the person, without line end
+    std::function<void(std::string_view what, std::size_t done, std::size_t of)> progress;
+};
+
+} // namespace pinmora::tag

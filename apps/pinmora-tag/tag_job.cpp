@@ -1,0 +1,151 @@
+#include "tag_job.h"
+
+#include "loading.h"
+#include "memory_library.h"
+
+#include "matching/matcher.h"
+#include "matching/time_distance.h"
+#include "saving/saving.h"
+#include "store/image.h"
+#include "store/offset.h"
+#include "store/track.h"
+#include "store/track_part.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+namespace pinmora::tag {
+
+namespace {
+
+void setOffset(offset &clockOffset, std::chrono::seconds signedOffset) {
+    const auto whole = std::chrono::abs(signedOffset).count();
+    clockOffset.setPlus(signedOffset.count() < 0 ? 0 : 1);
+    clockOffset.setHours(static_cast<std::int32_t>(whole / 3600));
+    clockOffset.setMinutes(static_cast<std::int32_t>(whole / 60 % 60));
+    clockOffset.setSeconds(static_cast<std::int32_t>(whole % 60));
+}
+
+/// Renames all photos in order of time, as renaming all of a library does; those without a date
+/// come first.
+void rename(const std::vector<image *> &photos, const std::string &base, const Saving &saving) {
+    std::vector<image *> byTime = photos;
+    std::stable_sort(byTime.begin(), byTime.end(),
+                     [](const image *a, const image *b) { return a->date() < b->date(); });
+    saving.updateThesePict(byTime, photos, base);
+}
+
+/// Adds one remark to those that a photo's line has already.
+void remark(PhotoLine &line, std::string_view text) {
+    if (!text.empty()) {
+        line.message += line.message.empty() ? "" : "; ";
+        line.message += text;
+    }
+}
+
+PhotoLine placePhoto(image &photo, Matcher &matcher, bool hadLogs, LocalZone &zone) {
+    PhotoLine line{.file = photo.full_file_path().string()};
+    const std::optional<Date> corrected = matcher.correctedTime(photo);
+    const bool hasTime = corrected && !photo.no_capture_time().value_or(false);
+    if (hasTime) {
+        line.taken = zone.wallClockAt(*photo.date());
+        line.corrected = zone.wallClockAt(*corrected);
+    }
+    const track_part *point = hadLogs ? matcher.placeAtNearestPoint(photo) : nullptr;
+    if (point && hasTime) {
+        line.secondsApart =
+            static_cast<std::int64_t>(wholeSecondsApart(*point->time(), *corrected));
+    } else if (point) {
+        remark(line, "no capture time: placed by the time of loading");
+    } else if (hadLogs) {
+        line.status = Status::Unmatched;
+        remark(line, corrected ? "there is no track point with a time and a position"
+                               : "its capture time cannot be read");
+    }
+    line.lat = photo.lat().string();
+    line.lon = photo.lon().string();
+    line.alt = photo.alt().string();
+    return line;
+}
+
+/// Makes the folder for the copies if it is missing; says why that failed.
+bool prepareFolder(const std::filesystem::path &folder, const Surroundings &surroundings) {
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (!error && !std::filesystem::is_directory(folder, error) && !error) {
+        error = std::make_error_code(std::errc::not_a_directory);
+    }
+    if (error) {
+        surroundings.tell(folder.native() + ": the copies cannot go there: " + error.message());
+    }
+    return !error;
+}
+
+void savePhotos(const std::vector<image *> &photos, Report &report, const Saving &saving,
+                const Options &options, const Surroundings &surroundings) {
+    std::vector<PhotoSnapshot> snapshots;
+    for (const image *photo : photos) {
+        snapshots.push_back(snapshotOf(*photo));
+    }
+    std::size_t done = 0;
+    const auto ended = [&](const SavedPhoto &) {
+        surroundings.progress("Saving", ++done, snapshots.size());
+    };
+    const SaveOutcome outcome = saving.save(snapshots, std::filesystem::absolute(options.out),
+                                            {.begins = {}, .ended = ended});
+    if (!outcome.refusal.empty()) {
+        surroundings.tell(outcome.refusal);
+        for (PhotoLine &line : report.photos) {
+            line.status = Status::Failed;
+            remark(line, "not copied");
+        }
+    }
+    for (const SavedPhoto &saved : outcome.photos) {
+        PhotoLine &line = report.photos[saved.index];
+        line.savedAs = saved.savedAs ? saved.savedAs->native() : std::string();
+        if (saved.status == SavedPhoto::Status::Failed) {
+            line.status = Status::Failed;
+            surroundings.tell(line.file + ": " + saved.message);
+        }
+        remark(line, saved.message);
+    }
+}
+
+} // namespace
+
+Report runTagJob(const Options &options, const Surroundings &surroundings) {
+    MemoryLibrary library;
+    offset &clockOffset = library.context.insert<offset>();
+    setOffset(clockOffset, options.offset);
+    const Loaded loaded = loadEverything(library, clockOffset, options, surroundings);
+
+    const Saving saving(surroundings.resources);
+    if (options.name) {
+        rename(loaded.photos, *options.name, saving);
+    }
+    Report report{.tracks = library.context.count<track>(),
+                  .points = library.context.count<track_part>(),
+                  .trouble = loaded.trouble};
+    Matcher matcher(library.context, clockOffset);
+    LocalZone zone;
+    for (image *photo : loaded.photos) {
+        report.photos.push_back(placePhoto(*photo, matcher, loaded.hadLogs, zone));
+    }
+    if (options.dryRun) {
+        for (PhotoLine &line : report.photos) {
+            line.status = line.status == Status::Saved ? Status::Matched : line.status;
+        }
+    } else if (!prepareFolder(options.out, surroundings)) {
+        report.trouble = true;
+        for (PhotoLine &line : report.photos) {
+            line.status = Status::Failed;
+            remark(line, "not copied");
+        }
+    } else {
+        savePhotos(loaded.photos, report, saving, options, surroundings);
+    }
+    return report;
+}
+
+} // namespace pinmora::tag
