@@ -10,8 +10,9 @@
 #include <QTemporaryDir>
 #include <QThread>
 
-#include <cstdlib>
+#include <cstdio>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -45,17 +46,14 @@ std::vector<PhotoSnapshot> makePhotos(const std::filesystem::path &folder) {
     return photos;
 }
 
-/// Ends the program with a word on what is wrong: a figure of failed work would mean nothing.
-void require(bool fine, const char *otherwise) {
+/// A figure of work that failed would mean nothing.
+void require(bool fine, const std::string &otherwise) {
     if (!fine) {
-        std::fprintf(stderr, "%s\n", otherwise);
-        std::exit(1);
+        throw std::runtime_error(otherwise);
     }
 }
 
-} // namespace
-
-int main() {
+void measure(bench::Report &report) {
     const QTemporaryDir temporary;
     const std::filesystem::path root{temporary.path().toStdString()};
     std::filesystem::create_directory(root / "originals");
@@ -80,8 +78,19 @@ int main() {
     std::filesystem::copy_file(photos.front().source, copy);
 
     const bench::Pair best = bench::bestPair(run, singleTool);
-    bench::Report report;
     report.atMost("tagging 200 photos / tool alone",
                   best.ratio() * QThread::idealThreadCount() / photoCount, 1.15);
-    return report.exitStatus();
+}
+
+} // namespace
+
+int main() {
+    try {
+        bench::Report report;
+        measure(report);
+        return report.exitStatus();
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
 }

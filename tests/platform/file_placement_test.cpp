@@ -58,18 +58,20 @@ private:
 class FilePlacementTest : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> room_;
     fs::path folder_;
     fs::path source_;
     fs::path target_;
 
 private Q_SLOTS:
     void init() {
-        room_ = std::make_unique<QTemporaryDir>();
-        folder_ = room_->path().toStdString();
+        QTemporaryDir room;
+        room.setAutoRemove(false); // Qt does not find names that are not UTF-8
+        folder_ = room.path().toStdString();
         source_ = folder_ / "source \xE9.jpg"; // names are bytes
         target_ = folder_ / "target.jpg";
     }
+
+    void cleanup() { fs::remove_all(folder_); }
 
     void bytesArrive_data() {
         QTest::addColumn<int>("size");
