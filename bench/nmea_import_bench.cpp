@@ -9,7 +9,7 @@
 using namespace pinmora;
 
 int main() {
-    constexpr std::size_t many = 500'000;
+    constexpr std::size_t many = 1'000'000;
     const bench::LogFiles files;
     const auto gpx = files.gpx(many);
     const auto large = files.nmea(many);

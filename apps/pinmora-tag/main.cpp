@@ -20,7 +20,10 @@ namespace {
 /// Standard error: messages, and on a terminal one line of progress that gives way to them.
 class Console {
 public:
+    Console() = default;
     ~Console() { clear(); }
+    Console(const Console &) = delete;
+    Console &operator=(const Console &) = delete;
 
     void tell(const std::string &line) {
         clear();

@@ -136,6 +136,7 @@ std::optional<Usage> take(int which, const char *argument, Options &into) {
 
 std::variant<Options, Usage> parseCommandLine(std::vector<std::string> arguments) {
     std::vector<char *> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (std::string &argument : arguments) {
         pointers.push_back(argument.data());
     }

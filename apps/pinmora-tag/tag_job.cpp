@@ -85,6 +85,7 @@ bool prepareFolder(const std::filesystem::path &folder, const Surroundings &surr
 void savePhotos(const std::vector<image *> &photos, Report &report, const Saving &saving,
                 const Options &options, const Surroundings &surroundings) {
     std::vector<PhotoSnapshot> snapshots;
+    snapshots.reserve(photos.size());
     for (const image *photo : photos) {
         snapshots.push_back(snapshotOf(*photo));
     }

@@ -97,7 +97,8 @@ void GpxElements::finishPoint() {
     if (!found.time.hasValue()) {
         report_->addUnusable("point without time", report_->sample ? 0 : parser_->line());
     } else if (!found.date) {
-        report_->addUnusable(found.time.view(), found.timeLine);
+        const std::string_view text = found.time.view();
+        report_->addUnusable(text.empty() ? "point with an empty time" : text, found.timeLine);
     }
     if (found.time.hasValue()) {
         writer_.makePoint(currentTrack_,

@@ -42,7 +42,8 @@ std::optional<std::string_view> LogFile::read(std::span<char> buffer) {
 bool LogFile::readRest(std::string &text) {
     struct stat status {};
     if (::fstat(file_.get(), &status) == 0 && status.st_size > 0) {
-        text.reserve(static_cast<std::size_t>(status.st_size));
+        // The last block is asked for in full and comes short: room for it, or all would be copied.
+        text.reserve(static_cast<std::size_t>(status.st_size) + logBlockSize);
     }
     for (;;) {
         const std::size_t before = text.size();

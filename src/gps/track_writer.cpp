@@ -37,9 +37,9 @@ void TrackWriter::makePoint(track *track, PointValues values, LogReport &report)
     ++report.points;
 }
 
-bool TrackWriter::stillHolds(const track *wanted) const {
-    const std::vector<track *> tracks = context_.fetch<track>();
-    return std::find(tracks.begin(), tracks.end(), wanted) != tracks.end();
+bool TrackWriter::stillHolds(const pinmora::track *track) const {
+    const std::vector<pinmora::track *> tracks = context_.fetch<pinmora::track>();
+    return std::find(tracks.begin(), tracks.end(), track) != tracks.end();
 }
 
 } // namespace pinmora

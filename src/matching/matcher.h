@@ -27,6 +27,8 @@ public:
     /// The clock offset is read anew for each photo. Both must outlive the matcher.
     Matcher(Context &context, const offset &clockOffset);
     ~Matcher() override;
+    Matcher(const Matcher &) = delete;
+    Matcher &operator=(const Matcher &) = delete;
 
     /// The photo's date with the clock offset applied; nothing for a photo without a date. No
     /// four-digit year and no offset are too large for it.

@@ -12,6 +12,7 @@ class Observable {
 public:
     Observable() = default;
     explicit Observable(T value) : value_(std::move(value)) {}
+    ~Observable() = default;
     Observable(const Observable &) = delete;
     Observable &operator=(const Observable &) = delete;
 

@@ -3,6 +3,7 @@
 #include "persistence/entity_description.h"
 #include "persistence/record.h"
 
+#include <initializer_list>
 #include <type_traits>
 
 /// Makes the rows of an entity's table from the members of its record class, so that an attribute
@@ -135,11 +136,11 @@ Property toMany(std::string_view name, std::string_view inverse, DeleteRule dele
 
 /// A value worked out from others, whose observers are told when one of those changes.
 template <auto Getter>
-Property derived(std::string_view name, std::vector<std::string_view> dependsOn = {}) {
+Property derived(std::string_view name, std::initializer_list<std::string_view> dependsOn = {}) {
     return {.name = name,
             .kind = Property::Kind::Derived,
             .get = detail::get<Getter>,
-            .dependsOn = std::move(dependsOn)};
+            .dependsOn = dependsOn};
 }
 
 /// A key that can only be written, stored by its setter under another.

@@ -30,10 +30,10 @@ public:
 
     /// Loads what was dropped or opened from the desktop: a photo, a GPS log, or the photos and
     /// logs that stand directly in a folder.
-    void processThisPath(std::string_view path);
+    void processThisPath(std::string_view given);
 
     /// Loads what was chosen in the open panel: a photo, or the photos directly in a folder.
-    void loadPict(std::string_view path);
+    void loadPict(std::string_view given);
 
     /// Makes the record of one photo file. Nothing is told of it, and no place name looked up,
     /// while it is filled. Names of other files are passed over.

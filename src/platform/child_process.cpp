@@ -17,6 +17,7 @@ ChildProcess::~ChildProcess() {
 
 int ChildProcess::start(std::vector<std::string> words, int output, int errors) {
     std::vector<char *> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string &word : words) {
         pointers.push_back(word.data());
     }

@@ -22,6 +22,8 @@ public:
         std::swap(number_, other.number_);
         return *this;
     }
+    FileDescriptor(const FileDescriptor &) = delete;
+    FileDescriptor &operator=(const FileDescriptor &) = delete;
     ~FileDescriptor() { close(); }
 
     int get() const { return number_; }

@@ -18,12 +18,14 @@ std::error_code Saving::copyTheFile(const std::filesystem::path &source,
 void Saving::updateThesePict(const std::vector<image *> &photos, const std::vector<image *> &all,
                              std::string_view base) const {
     std::vector<std::string> names;
+    names.reserve(all.size());
     std::unordered_map<const image *, std::size_t> places;
     for (const image *photo : all) {
         places.emplace(photo, names.size());
         names.push_back(photo->image_name().string());
     }
     std::vector<std::size_t> chosen;
+    chosen.reserve(photos.size());
     for (const image *photo : photos) {
         chosen.push_back(places.at(photo));
     }

@@ -238,6 +238,9 @@ void GpxTest::whatIsOfNoUseIsCounted_data() {
     row("no time", gpx("<trkseg>\n" + point("") + "</trkseg>"),
         "1 point or sentence could not be used, in line 4: point without time",
         "1 point or sentence could not be used, in line 4: point without time");
+    row("empty time", pointAt(""),
+        "1 point or sentence could not be used, in line 1: point with an empty time",
+        "1 point or sentence could not be used, in line 1: point with an empty time");
     row("control characters, much text", pointAt("\t\n" + std::string(200, 'x')),
         ("1 point or sentence could not be used, in line 2: .." + std::string(98, 'x') + "...")
             .c_str(),
