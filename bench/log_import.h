@@ -101,7 +101,7 @@ private:
 
 /// Ends the program when an import did not make what it should have: then no figure is worth
 /// printing.
-inline void import(Library &library, const std::filesystem::path &log, std::size_t points) {
+inline void load(Library &library, const std::filesystem::path &log, std::size_t points) {
     library.gps.loadLog(log);
     if (library.context.count<track_part>() != points) {
         std::fprintf(stderr, "%s was not imported\n", log.c_str());
@@ -115,7 +115,7 @@ inline double secondsOfImport(const std::filesystem::path &log, std::size_t poin
     Library library;
     library.gps.setReading(reading);
     malloc_trim(0);
-    return seconds([&] { import(library, log, points); });
+    return seconds([&] { load(library, log, points); });
 }
 
 /// Bytes a point that an import takes beyond what the program had before.
@@ -129,7 +129,7 @@ inline Memory memoryOfImport(const std::filesystem::path &log, std::size_t point
     resetPeakResident();
     const std::size_t residentBefore = peakResident();
     const std::size_t heapBefore = heapInUse();
-    import(library, log, points);
+    load(library, log, points);
     const auto count = static_cast<double>(points);
     return {static_cast<double>(peakResident() - residentBefore) / count,
             static_cast<double>(heapInUse() - heapBefore) / count};

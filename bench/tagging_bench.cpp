@@ -70,8 +70,7 @@ void measure(bench::Report &report) {
         }
     };
     const std::filesystem::path copy = root / "single.jpg";
-    const std::vector<std::string> arguments =
-        metadataArguments(photos.front(), IptcEncoding::Absent, copy);
+    const std::vector<std::string> arguments = metadataArguments(photos.front(), {}, copy);
     const auto singleTool = [&] {
         require(runProcess(*tool.locate(), arguments).succeeded(), "ExifTool failed");
     };

@@ -16,19 +16,19 @@ namespace {
 bool loadPhotos(MemoryLibrary &library, LogList &logs, const Options &options,
                 const Surroundings &surroundings) {
     Photos photos(library.context, logs);
+    const Connection counting = photos.photoLoaded.connect(
+        [&](std::size_t count) { surroundings.progress("Reading photo", count, 0); });
     bool allUsed = true;
-    for (std::size_t i = 0; i < options.paths.size(); ++i) {
-        surroundings.progress("Reading", i, options.paths.size());
+    for (const std::filesystem::path &path : options.paths) {
         std::error_code error;
-        if (!std::filesystem::exists(options.paths[i], error)) {
-            surroundings.tell(options.paths[i].native() + ": " +
+        if (std::filesystem::exists(path, error)) {
+            photos.processThisPath(path.native());
+        } else {
+            surroundings.tell(path.native() + ": " +
                               (error ? error.message() : "there is no such file or folder"));
             allUsed = false;
-            continue;
         }
-        photos.processThisPath(options.paths[i].native());
     }
-    surroundings.progress("Reading", options.paths.size(), options.paths.size());
 
     const IntakeReport &report = photos.report();
     for (const LeftOutFile &file : report.leftOut) {
@@ -56,13 +56,13 @@ std::vector<Date> captureTimes(const std::vector<image *> &photos, const offset 
 /// Whether the exact reading, which the library holds, places no photo where the tolerant one
 /// would.
 bool tolerantFitsBetter(const MemoryLibrary &library, const LogList &logs,
-                        const std::vector<Date> &photoTimes) {
+                        const std::vector<Date> &photoTimes, const Surroundings &surroundings) {
     const std::vector<Date> exact = pointTimes(library.context);
     if (compareReadings(photoTimes, exact, {}).exact > 0) {
         return false; // no need to read the logs a second time
     }
     MemoryLibrary trial;
-    logs.load(trial.gps, LogReading::Tolerant);
+    logs.load(trial.gps, LogReading::Tolerant, surroundings);
     return compareReadings(photoTimes, exact, pointTimes(trial.context)).onlyTolerantPlacesPhotos();
 }
 
@@ -79,11 +79,11 @@ LogList::Outcome loadLogs(MemoryLibrary &library, const LogList &logs,
         options.reading == LogsChoice::Tolerant ||
         (options.reading == LogsChoice::Auto && surroundings.logReading == "tolerant");
     const LogReading inForce = tolerant ? LogReading::Tolerant : LogReading::Exact;
-    LogList::Outcome outcome = logs.load(library.gps, inForce);
+    LogList::Outcome outcome = logs.load(library.gps, inForce, surroundings);
     if (options.reading == LogsChoice::Auto && !tolerant &&
-        tolerantFitsBetter(library, logs, photoTimes)) {
+        tolerantFitsBetter(library, logs, photoTimes, surroundings)) {
         removeTracks(library.context);
-        outcome = logs.load(library.gps, LogReading::Tolerant);
+        outcome = logs.load(library.gps, LogReading::Tolerant, surroundings);
         surroundings.tell("the logs are read as tolerant: as exact, they place no photo within 5 "
                           "minutes of a point");
     }

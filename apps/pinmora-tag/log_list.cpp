@@ -4,6 +4,9 @@
 #include "gps/log_file_types.h"
 #include "gps/log_head.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace pinmora::tag {
 
 bool LogList::isGPS(std::string_view path) const {
@@ -15,15 +18,29 @@ bool LogList::readLogFoundByScan(const std::string &path) {
     if (!looksLikeLog(path, LogReading::Tolerant)) {
         return false;
     }
-    logs_.push_back({path, true});
+    add(path, true);
     return true;
 }
 
-LogList::Outcome LogList::load(Gps &gps, LogReading reading) const {
+void LogList::add(const std::string &path, bool foundByScan) {
+    for (Log &log : logs_) {
+        std::error_code error;
+        if (std::filesystem::equivalent(log.path, path, error) && !error) {
+            log.foundByScan = log.foundByScan && foundByScan;
+            return;
+        }
+    }
+    logs_.push_back({path, foundByScan});
+}
+
+LogList::Outcome LogList::load(Gps &gps, LogReading reading,
+                               const Surroundings &surroundings) const {
     Outcome outcome;
     gps.setReading(reading);
     gps.beginLoad();
-    for (const Log &log : logs_) {
+    for (std::size_t i = 0; i < logs_.size(); ++i) {
+        const Log &log = logs_[i];
+        surroundings.progress("Reading log", i + 1, logs_.size());
         if (log.foundByScan && !looksLikeLog(log.path, reading)) {
             outcome.passedOver.push_back(log.path);
         } else {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "surroundings.h"
+
 #include "gps/log_reading.h"
 #include "gps/log_report.h"
 #include "photos/log_intake.h"
@@ -19,7 +21,8 @@ namespace pinmora::tag {
 class LogList : public LogIntake {
 public:
     bool isGPS(std::string_view path) const override;
-    void readLog(const std::string &path) override { logs_.push_back({path, false}); }
+    /// A log that is reached twice, say by name and in its folder, is one log.
+    void readLog(const std::string &path) override { add(path, false); }
     bool readLogFoundByScan(const std::string &path) override;
 
     bool empty() const { return logs_.empty(); }
@@ -29,13 +32,15 @@ public:
         std::vector<LogReport> reports;
         std::vector<std::string> passedOver; ///< found in a folder, but no logs under this reading
     };
-    Outcome load(Gps &gps, LogReading reading) const;
+    Outcome load(Gps &gps, LogReading reading, const Surroundings &surroundings) const;
 
 private:
     struct Log {
         std::string path;
         bool foundByScan;
     };
+    void add(const std::string &path, bool foundByScan);
+
     std::vector<Log> logs_;
 };
 

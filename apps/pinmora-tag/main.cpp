@@ -1,5 +1,6 @@
 #include "options.h"
 #include "report.h"
+#include "shown_text.h"
 #include "tag_job.h"
 
 #include "platform/defaults.h"
@@ -8,7 +9,7 @@
 
 #include <unistd.h>
 
-#include <cstdio>
+#include <csignal>
 #include <filesystem>
 #include <iostream>
 
@@ -27,13 +28,17 @@ public:
 
     void tell(const std::string &line) {
         clear();
-        std::cerr << "pinmora-tag: " << line << '\n';
+        std::cerr << "pinmora-tag: " << terminalText(line) << '\n';
     }
 
     void progress(std::string_view what, std::size_t done, std::size_t of) {
         if (isTerminal_) {
             clear();
-            std::cerr << what << ' ' << done << " of " << of << std::flush;
+            std::cerr << what << ' ' << done;
+            if (of > 0) {
+                std::cerr << " of " << of;
+            }
+            std::cerr << std::flush;
             lineIsUsed_ = true;
         }
     }
@@ -50,6 +55,14 @@ private:
     bool lineIsUsed_ = false;
 };
 
+volatile std::sig_atomic_t stopRequests = 0;
+
+/// The first request lets what is begun come to its end; the next one ends the program.
+void requestStop(int signal) {
+    stopRequests = 1;
+    std::signal(signal, SIG_DFL);
+}
+
 int tagPhotos(const Options &options, const std::filesystem::path &resources) {
     Console console;
     const Report report =
@@ -57,9 +70,14 @@ int tagPhotos(const Options &options, const std::filesystem::path &resources) {
                             .logReading = Defaults().text("logReading"),
                             .tell = [&](const std::string &line) { console.tell(line); },
                             .progress = [&](std::string_view what, std::size_t done,
-                                            std::size_t of) { console.progress(what, done, of); }});
+                                            std::size_t of) { console.progress(what, done, of); },
+                            .stopped = [] { return stopRequests != 0; }});
     console.clear();
     std::cout << (options.json ? jsonText(report) : tableText(report)) << std::flush;
+    if (!std::cout) {
+        console.tell("the report could not be written");
+        return 1;
+    }
     return exitStatus(report);
 }
 
@@ -72,6 +90,8 @@ int main(int argc, char **argv) {
         (usage->wrong ? std::cerr : std::cout) << usage->text;
         return usage->wrong ? 2 : 0;
     }
+    std::signal(SIGINT, requestStop);
+    std::signal(SIGTERM, requestStop);
     const std::filesystem::path program = QCoreApplication::applicationDirPath().toStdString();
     return tagPhotos(std::get<Options>(parsed), program / ".." / "share" / "pinmora");
 }

@@ -34,7 +34,8 @@ a folder are read too.
   --json                  print one JSON document instead of the table
   --help, --version
 
-Exit status: 0 all done; 1 a photo failed or found no track point; 2 wrong usage.
+Exit status: 0 all done; 1 a photo failed or found no track point, or something
+that was named could not be read; 2 wrong usage.
 )";
 
 enum Option { Gps = 1000, Offset, Name, Logs, Out, DryRun, Json, Help, Version };
@@ -152,7 +153,10 @@ std::variant<Options, Usage> parseCommandLine(std::vector<std::string> arguments
             break;
         }
         if (which == '?' || which == ':') {
-            const std::string culprit = pointers[static_cast<std::size_t>(optind - 1)];
+            // Of letters in a bundle getopt has not moved on, but knows which one it was.
+            const bool isLetter = which == '?' && optopt > 0 && optopt < 0x80;
+            const std::string culprit = isLetter ? std::string{'-', static_cast<char>(optopt)}
+                                                 : pointers[static_cast<std::size_t>(optind - 1)];
             return wrongUsage(which == ':' ? culprit + " wants a value"
                                            : "no such option: " + culprit);
         }

@@ -1,5 +1,7 @@
 #include "report.h"
 
+#include "shown_text.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -47,7 +49,7 @@ std::string jsonText(const Report &report) {
     QJsonArray photos;
     for (const PhotoLine &photo : report.photos) {
         photos.append(QJsonObject{
-            {QStringLiteral("file"), toQString(photo.file)},
+            {QStringLiteral("file"), toQString(validText(photo.file))},
             {QStringLiteral("taken"), jsonTime(photo.taken)},
             {QStringLiteral("corrected"), jsonTime(photo.corrected)},
             {QStringLiteral("lat"), toQString(photo.lat)},
@@ -56,9 +58,9 @@ std::string jsonText(const Report &report) {
             {QStringLiteral("seconds_apart"),
              photo.secondsApart ? QJsonValue(static_cast<qint64>(*photo.secondsApart))
                                 : QJsonValue()},
-            {QStringLiteral("saved_as"), toQString(photo.savedAs)},
+            {QStringLiteral("saved_as"), toQString(validText(photo.savedAs))},
             {QStringLiteral("status"), toQString(statusName(photo.status))},
-            {QStringLiteral("message"), toQString(photo.message)},
+            {QStringLiteral("message"), toQString(validText(photo.message))},
         });
     }
     const QJsonObject document{{QStringLiteral("tracks"), static_cast<qint64>(report.tracks)},

@@ -14,7 +14,9 @@ struct Surroundings {
     std::filesystem::path resources;               ///< the program's resource folder
     std::optional<std::string> logReading;         ///< the person's setting: "exact" or "tolerant"
     std::function<void(const std::string &)> tell; ///< one line for the person, without line end
+    /// How far the work has come; `of` is 0 where the end is not known.
     std::function<void(std::string_view what, std::size_t done, std::size_t of)> progress;
+    std::function<bool()> stopped; ///< whether the person wants no further photo to be begun
 };
 
 } // namespace pinmora::tag

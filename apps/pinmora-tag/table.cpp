@@ -1,5 +1,7 @@
 #include "report.h"
 
+#include "shown_text.h"
+
 #include "matching/reading_comparison.h"
 
 #include <QString>
@@ -24,7 +26,7 @@ QString toQString(std::string_view text) {
 }
 
 QString fileName(const std::string &path) {
-    return toQString(std::filesystem::path(path).filename().native());
+    return toQString(terminalText(std::filesystem::path(path).filename().native()));
 }
 
 QString shownTime(const std::optional<WallClock> &time, const char *without) {
@@ -38,9 +40,9 @@ Row rowOf(const PhotoLine &photo) {
         fileName(photo.file),
         shownTime(photo.taken, "no capture time"),
         shownTime(photo.corrected, ""),
-        hasPosition ? toQString(photo.lat) + QStringLiteral(", ") + toQString(photo.lon)
-                    : QStringLiteral("-"),
-        photo.alt.empty() ? QString() : toQString(photo.alt).trimmed() + QStringLiteral(" m"),
+        hasPosition ? toQString(terminalText(photo.lat + ", " + photo.lon)) : QStringLiteral("-"),
+        photo.alt.empty() ? QString()
+                          : toQString(terminalText(photo.alt)).trimmed() + QStringLiteral(" m"),
         photo.secondsApart ? QStringLiteral("%1 s").arg(*photo.secondsApart) : QString(),
         photo.savedAs.empty() ? QStringLiteral("-") : fileName(photo.savedAs),
     };
@@ -111,7 +113,7 @@ std::string tableText(const Report &report) {
         if (!plain || !photo.message.empty()) {
             text += QStringLiteral("    ");
             text += plain ? QString() : toQString(statusName(photo.status)) + QStringLiteral(": ");
-            text += toQString(photo.message) + u'\n';
+            text += toQString(terminalText(photo.message)) + u'\n';
         }
     }
     return (text + summaryOf(report)).toStdString();

@@ -52,6 +52,7 @@ PhotoLine placePhoto(image &photo, Matcher &matcher, bool hadLogs, LocalZone &zo
         line.taken = zone.wallClockAt(*photo.date());
         line.corrected = zone.wallClockAt(*corrected);
     }
+    const bool hadAltitude = !photo.alt().view().empty();
     const track_part *point = hadLogs ? matcher.placeAtNearestPoint(photo) : nullptr;
     if (point && hasTime) {
         line.secondsApart =
@@ -63,14 +64,22 @@ PhotoLine placePhoto(image &photo, Matcher &matcher, bool hadLogs, LocalZone &zo
         remark(line, corrected ? "there is no track point with a time and a position"
                                : "its capture time cannot be read");
     }
+    if (point && hadAltitude && photo.alt().view().empty()) {
+        remark(line, "the point has no altitude: the copy keeps the photo's own");
+    }
     line.lat = photo.lat().string();
     line.lon = photo.lon().string();
     line.alt = photo.alt().string();
     return line;
 }
 
-/// Makes the folder for the copies if it is missing; says why that failed.
-bool prepareFolder(const std::filesystem::path &folder, const Surroundings &surroundings) {
+/// Makes the folder for the copies if it is missing; says why nothing can be saved there.
+bool prepareSaving(const Saving &saving, const std::filesystem::path &folder,
+                   const Surroundings &surroundings) {
+    if (!saving.canSave()) {
+        surroundings.tell(toolMissingMessage());
+        return false;
+    }
     std::error_code error;
     std::filesystem::create_directories(folder, error);
     if (!error && !std::filesystem::is_directory(folder, error) && !error) {
@@ -94,14 +103,7 @@ void savePhotos(const std::vector<image *> &photos, Report &report, const Saving
         surroundings.progress("Saving", ++done, snapshots.size());
     };
     const SaveOutcome outcome = saving.save(snapshots, std::filesystem::absolute(options.out),
-                                            {.begins = {}, .ended = ended});
-    if (!outcome.refusal.empty()) {
-        surroundings.tell(outcome.refusal);
-        for (PhotoLine &line : report.photos) {
-            line.status = Status::Failed;
-            remark(line, "not copied");
-        }
-    }
+                                            {.ended = ended, .stopped = surroundings.stopped});
     for (const SavedPhoto &saved : outcome.photos) {
         PhotoLine &line = report.photos[saved.index];
         line.savedAs = saved.savedAs ? saved.savedAs->native() : std::string();
@@ -137,8 +139,10 @@ Report runTagJob(const Options &options, const Surroundings &surroundings) {
         for (PhotoLine &line : report.photos) {
             line.status = line.status == Status::Saved ? Status::Matched : line.status;
         }
-    } else if (!prepareFolder(options.out, surroundings)) {
+    } else if (report.photos.empty()) {
+        surroundings.tell("there is no photo to save");
         report.trouble = true;
+    } else if (!prepareSaving(saving, options.out, surroundings)) {
         for (PhotoLine &line : report.photos) {
             line.status = Status::Failed;
             remark(line, "not copied");

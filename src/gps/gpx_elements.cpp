@@ -11,7 +11,7 @@ void GpxElements::beginDocument(LogReport &report, const XmlParser &parser) {
     zone_.emplace();
     openValues_ = 0;
     inTrack_ = false;
-    if (!writer_.stillHolds(currentTrack_)) {
+    if (!writer_.stillHolds(currentTrack_, trackCount_, currentTrackLog_)) {
         currentTrack_ = nullptr;
     }
 }
@@ -32,6 +32,7 @@ void GpxElements::didStartElement(std::string_view name, const char *const *attr
         keepPosition(attributes);
     } else if (name == "trkseg") {
         currentTrack_ = &writer_.makeTrack(++trackCount_, *report_);
+        currentTrackLog_ = report_->path;
         inTrack_ = true;
     }
 }

@@ -4,6 +4,7 @@
 #include "gps/track_writer.h"
 #include "gps/xml_parser.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -68,7 +69,8 @@ private:
     bool inTrack_ = false;
     int trackCount_ = 0;
     int track_partCount_ = 0;
-    track *currentTrack_ = nullptr;
+    track *currentTrack_ = nullptr;         ///< numbered trackCount_
+    std::filesystem::path currentTrackLog_; ///< where it comes from
     TrackPos currentTrackPos_;
     std::optional<std::string> currentStringValue_;
     int openValues_ = 0; ///< `ele` and `time` elements that have started and not ended

@@ -44,8 +44,10 @@ bool GpxReader::start(bool isLast) {
     }
     started_ = true;
     gpsParser_->skipLines(found->lines);
-    const std::string_view head = head_;
-    return parse(head.substr(0, found->markSize), false) && parse(head.substr(found->begin), false);
+    if (found->encoding) {
+        gpsParser_->setEncoding(found->encoding); // editors leave encoding="UTF-8" in such files
+    }
+    return parse(std::string_view(head_).substr(found->begin), false);
 }
 
 bool GpxReader::parse(std::string_view bytes, bool isLast) {

@@ -1,5 +1,7 @@
 #include "gps/iso_time.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 
 namespace pinmora {
@@ -39,15 +41,20 @@ public:
         return value;
     }
 
-    /// Takes the digits of a fraction of a second, at least one.
-    std::chrono::microseconds fraction() {
+    /// How many digits come next.
+    std::size_t digitsAhead() const {
+        return std::min(rest_.find_first_not_of("0123456789"), rest_.size());
+    }
+
+    /// Takes the digits of a fraction, at least one, and tells what it makes of `unit`.
+    std::chrono::microseconds fractionOf(std::chrono::seconds unit) {
         ok_ = ok_ && startsWithDigit();
         std::int64_t value = 0;
-        std::int64_t unit = 100'000;
-        for (; startsWithDigit(); rest_.remove_prefix(1), unit /= 10) {
-            value += unit * (rest_.front() - '0');
+        std::int64_t place = 100'000;
+        for (; startsWithDigit(); rest_.remove_prefix(1), place /= 10) {
+            value += place * (rest_.front() - '0');
         }
-        return std::chrono::microseconds(value);
+        return std::chrono::microseconds(value) * unit.count();
     }
 
     void fail() { ok_ = false; }
@@ -67,9 +74,37 @@ std::string_view trimmed(std::string_view text) {
                : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
-std::chrono::sys_days date(Scanner &scan, bool &extended) {
-    const std::chrono::year year(scan.digits(4));
-    extended = scan.takeOneOf("-") != '\0';
+using std::chrono::days;
+using std::chrono::sys_days;
+
+/// The day of a week date: week 1 holds 4 January, days count from Monday.
+sys_days weekDate(Scanner &scan, std::chrono::year year, bool extended) {
+    const auto mondayOfWeek1 = [](std::chrono::year of) {
+        const sys_days inWeek1 = of / std::chrono::January / 4;
+        return inWeek1 - (std::chrono::weekday(inWeek1) - std::chrono::Monday);
+    };
+    const int week = scan.digits(2);
+    if (extended && scan.takeOneOf("-") == '\0') {
+        scan.fail();
+    }
+    const int dayOfWeek = scan.digits(1);
+    const sys_days day = mondayOfWeek1(year) + days((week - 1) * 7 + dayOfWeek - 1);
+    if (week < 1 || dayOfWeek < 1 || dayOfWeek > 7 ||
+        day >= mondayOfWeek1(year + std::chrono::years(1))) {
+        scan.fail();
+    }
+    return day;
+}
+
+sys_days ordinalDate(Scanner &scan, std::chrono::year year) {
+    const int dayOfYear = scan.digits(3);
+    if (dayOfYear < 1 || dayOfYear > (year.is_leap() ? 366 : 365)) {
+        scan.fail();
+    }
+    return sys_days(year / std::chrono::January / 1) + days(dayOfYear - 1);
+}
+
+sys_days calendarDate(Scanner &scan, std::chrono::year year, bool extended) {
     const std::chrono::month month(static_cast<unsigned>(scan.digits(2)));
     if (extended && scan.takeOneOf("-") == '\0') {
         scan.fail();
@@ -83,28 +118,42 @@ std::chrono::sys_days date(Scanner &scan, bool &extended) {
     return day;
 }
 
+sys_days date(Scanner &scan, bool &extended) {
+    const std::chrono::year year(scan.digits(4));
+    extended = scan.takeOneOf("-") != '\0';
+    if (scan.takeOneOf("W") != '\0') {
+        return weekDate(scan, year, extended);
+    }
+    return scan.digitsAhead() == 3 ? ordinalDate(scan, year) : calendarDate(scan, year, extended);
+}
+
+/// The last of hour, minute and second may have a fraction. 24:00:00 is the end of the day, and a
+/// leap second the second after it.
 std::chrono::microseconds timeOfDay(Scanner &scan, bool extended) {
     const auto separated = [&] {
         return extended ? scan.takeOneOf(":") != '\0' : scan.startsWithDigit();
     };
+    std::chrono::seconds unit = std::chrono::hours(1);
     const int hour = scan.digits(2);
-    if (!separated()) {
-        scan.fail();
-    }
-    const int minute = scan.digits(2);
+    int minute = 0;
     int second = 0;
-    std::chrono::microseconds fraction(0);
     if (separated()) {
-        second = scan.digits(2);
-        if (scan.takeOneOf(".,") != '\0') {
-            fraction = scan.fraction();
+        unit = std::chrono::minutes(1);
+        minute = scan.digits(2);
+        if (separated()) {
+            unit = std::chrono::seconds(1);
+            second = scan.digits(2);
         }
     }
-    if (hour > 23 || minute > 59 || second > 59) {
+    std::chrono::microseconds time =
+        std::chrono::hours(hour) + std::chrono::minutes(minute) + std::chrono::seconds(second);
+    if (scan.takeOneOf(".,") != '\0') {
+        time += scan.fractionOf(unit);
+    }
+    if (minute > 59 || second > 60 || hour > 24 || (hour == 24 && time > days(1))) {
         scan.fail();
     }
-    return std::chrono::hours(hour) + std::chrono::minutes(minute) + std::chrono::seconds(second) +
-           fraction;
+    return time;
 }
 
 /// How far the zone is ahead of universal time.

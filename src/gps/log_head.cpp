@@ -38,19 +38,23 @@ private:
 
 std::optional<DocumentStart> documentStart(std::string_view head) {
     DocumentStart start;
-    std::size_t width = 1;   // bytes of a character
-    std::size_t asciiAt = 0; // which of them holds an ASCII character
     for (const std::string_view mark : {utf8Mark, utf16BigEndianMark, utf16LittleEndianMark}) {
         if (head.starts_with(mark)) {
             start.markSize = mark.size();
-            width = mark == utf8Mark ? 1 : 2;
-            asciiAt = mark == utf16BigEndianMark ? 1 : 0;
         } else if (mark.starts_with(head)) {
             return std::nullopt;
         }
     }
+    // Without a mark, the NUL beside the first character tells: XML begins with ASCII.
+    const bool bigEndian = head.starts_with(utf16BigEndianMark) || head[0] == '\0';
+    const bool littleEndian =
+        head.starts_with(utf16LittleEndianMark) || (head.size() > 1 && head[1] == '\0');
+    const bool wide = bigEndian || littleEndian;
+    const std::size_t width = wide ? 2 : 1;        // bytes of a character
+    const std::size_t asciiAt = bigEndian ? 1 : 0; // which of them holds an ASCII character
+    start.encoding = bigEndian ? "UTF-16BE" : littleEndian ? "UTF-16LE" : nullptr;
     for (std::size_t at = start.markSize; head.size() - at >= width; at += width) {
-        const bool isAscii = width == 1 || head[at + 1 - asciiAt] == '\0';
+        const bool isAscii = !wide || head[at + 1 - asciiAt] == '\0';
         const char c = isAscii ? head[at + asciiAt] : '\0';
         if (!isBlank(c)) {
             start.begin = at;

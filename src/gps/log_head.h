@@ -14,10 +14,11 @@ inline constexpr std::size_t logHeadSize = 4096;
 
 /// Where a text starts behind a byte-order mark (UTF-8, UTF-16) and blanks.
 struct DocumentStart {
-    std::size_t markSize = 0; ///< bytes of the mark
-    std::size_t begin = 0;    ///< the first byte that is neither mark nor blank
-    std::size_t lines = 0;    ///< line feeds among the blanks
-    char first = '\0';        ///< the character there; NUL for one beyond ASCII
+    std::size_t markSize = 0;       ///< bytes of the mark
+    std::size_t begin = 0;          ///< the first byte that is neither mark nor blank
+    std::size_t lines = 0;          ///< line feeds among the blanks
+    char first = '\0';              ///< the character there; NUL for one beyond ASCII
+    const char *encoding = nullptr; ///< "UTF-16LE" or "UTF-16BE" where the first bytes show it
 };
 
 /// Nothing while `head` holds no more than a mark, or part of one, and blanks.

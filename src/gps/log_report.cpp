@@ -15,9 +15,13 @@ std::string shown(std::string_view text) {
         }
     }
     std::string result(text.substr(0, end));
-    for (char &c : result) {
-        const auto code = static_cast<unsigned char>(c);
-        c = code < 0x20 || code == 0x7f ? '.' : c;
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        const auto code = static_cast<unsigned char>(result[i]);
+        if (code < 0x20 || code == 0x7f) {
+            result[i] = '.';
+        } else if (code == 0xc2 && static_cast<unsigned char>(result[i + 1]) < 0xa0) {
+            result.replace(i, 2, "."); // U+0080 to U+009F: terminals take some as commands
+        }
     }
     return end < text.size() ? result + "..." : result;
 }

@@ -51,6 +51,10 @@ LogReport NmeaReader::read(std::string_view text, const std::filesystem::path &p
         points->finish(lines.count());
     }
 
+    if (!policyOf(reading).makesEmptyPoint && report.points == 0 && report.unusable == 0) {
+        report.error = LogError::NotALog; // not one sentence of use, and none that is at fault
+    }
+
     progress_.closeProgress();
     if (report.failed()) {
         report.message = "There was an error parsing the GPS data file. File is not GPX or NMEA";

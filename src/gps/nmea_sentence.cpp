@@ -24,7 +24,8 @@ SentenceType typeNamed(std::string_view type) {
 }
 
 SentenceType typeOf(std::string_view line, const ReadingPolicy &policy) {
-    if (line.size() < nameLength || line[0] != '$' ||
+    // "$P" begins the makers' own sentences, which may end like others: $PGRMC.
+    if (line.size() < nameLength || line[0] != '$' || line[1] == 'P' ||
         !(policy.anyTalker || line.substr(1, 2) == "GP")) {
         return SentenceType::Other;
     }

@@ -37,9 +37,12 @@ void TrackWriter::makePoint(track *track, PointValues values, LogReport &report)
     ++report.points;
 }
 
-bool TrackWriter::stillHolds(const pinmora::track *track) const {
-    const std::vector<pinmora::track *> tracks = context_.fetch<pinmora::track>();
-    return std::find(tracks.begin(), tracks.end(), track) != tracks.end();
+bool TrackWriter::stillHolds(const pinmora::track *track, std::int32_t id,
+                             const std::filesystem::path &log) const {
+    const auto tracks = context_.fetch<pinmora::track>();
+    return std::any_of(tracks.begin(), tracks.end(), [&](const pinmora::track *one) {
+        return one == track && one->track_id() == id && one->log_path().view() == log.native();
+    });
 }
 
 } // namespace pinmora

@@ -30,8 +30,9 @@ public:
     /// `track` may be null: then the point belongs to none.
     void makePoint(track *track, PointValues values, LogReport &report);
 
-    /// Whether a track that was made once has not been deleted since.
-    bool stillHolds(const track *track) const;
+    /// Whether a track that was made once, with that number and from that log, has not been deleted
+    /// since. Its address alone does not tell: another one may have come there.
+    bool stillHolds(const track *track, std::int32_t id, const std::filesystem::path &log) const;
 
 private:
     Context &context_;

@@ -30,6 +30,12 @@ struct XmlParser::Handlers {
         }
     }
 
+    /// A reference that nothing at hand explains, as the DTD that would is not read. Going on would
+    /// drop it from the text in silence.
+    static void skippedEntity(void *self, const XML_Char *, int) {
+        XML_StopParser(parser(self).parser_.get(), XML_FALSE);
+    }
+
     static int encoding(void *, const XML_Char *name, XML_Encoding *encoding) {
         return mapSingleByteEncoding(name, encoding->map) ? XML_STATUS_OK : XML_STATUS_ERROR;
     }
@@ -68,10 +74,15 @@ XmlParser::XmlParser(XmlEvents &events, std::optional<std::filesystem::path> fol
     XML_SetElementHandler(expat, Handlers::start, Handlers::end);
     XML_SetCharacterDataHandler(expat, Handlers::text);
     XML_SetStartDoctypeDeclHandler(expat, Handlers::doctype);
+    XML_SetSkippedEntityHandler(expat, Handlers::skippedEntity);
     XML_SetUnknownEncodingHandler(expat, Handlers::encoding, nullptr);
     XML_SetExternalEntityRefHandler(expat, Handlers::externalEntity);
     // Without this, references to external parameter entities would be passed over in silence.
     XML_SetParamEntityParsing(expat, XML_PARAM_ENTITY_PARSING_ALWAYS);
+}
+
+void XmlParser::setEncoding(const char *name) {
+    XML_SetEncoding(parser_.get(), name);
 }
 
 bool XmlParser::parse(std::string_view bytes, bool isLast) {

@@ -25,13 +25,17 @@ public:
 /// A streaming XML parser: Expat, with the single-byte encodings that it does not know itself.
 ///
 /// External entities are read as small regular files beside the document and from nowhere else; a
-/// document that asks for another one is malformed. An external DTD is not read. Expat's limits
+/// document that asks for another one is malformed. An external DTD is not read; a document that
+/// uses what only the DTD explains is malformed, one that merely names it is not. Expat's limits
 /// against the expansion of entities into entities are in force.
 class XmlParser {
 public:
     /// `folder` is where the document lies; nothing for one that is no file, which then has no
     /// external entities. `events` must outlive the parser.
     XmlParser(XmlEvents &events, std::optional<std::filesystem::path> folder);
+
+    /// Tells the encoding, whatever the document says of itself; before the first bytes.
+    void setEncoding(const char *name);
 
     /// Takes the next bytes, with `isLast` the last ones; false when the document is malformed, and
     /// from then on.

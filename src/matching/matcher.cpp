@@ -26,7 +26,7 @@ track_part *Matcher::getLatLonAlt(const image &photo) {
     }
     if (!index_) {
         dropIndex(); // the points are read unobserved
-        index_.emplace(context_.fetch<track_part>());
+        index_.emplace(context_.records<track_part>());
         context_.addObserver(*this);
         observing_ = true;
     }

@@ -29,28 +29,26 @@ Iterator endOfStretch(Iterator begin, Iterator end, Belongs belongs) {
 
 } // namespace
 
-PointIndex::PointIndex(std::vector<track_part *> arranged) : points_(std::move(arranged)) {
-    keepFindable();
-    if (!std::is_sorted(times_.begin(), times_.end())) {
-        sortTimes();
-    }
+void PointIndex::reserve(std::size_t count) {
+    times_.reserve(count);
+    points_.reserve(count);
 }
 
 /// Of neighbours with the same time only the first can ever be the nearest.
-void PointIndex::keepFindable() {
-    times_.reserve(points_.size());
-    std::size_t kept = 0;
-    for (track_part *point : points_) {
-        const std::optional<Date> &time = point->time();
-        if (!time || point->lat().view().empty() || point->lon().view().empty() ||
-            (!times_.empty() && times_.back() == *time)) {
-            continue;
-        }
-        times_.push_back(*time);
-        points_[kept] = point;
-        ++kept;
+void PointIndex::keepIfFindable(track_part *point) {
+    const std::optional<Date> &time = point->time();
+    if (!time || point->lat().view().empty() || point->lon().view().empty() ||
+        (!times_.empty() && times_.back() == *time)) {
+        return;
     }
-    points_.resize(kept);
+    times_.push_back(*time);
+    points_.push_back(point);
+}
+
+void PointIndex::sortTimesIfNeeded() {
+    if (!std::is_sorted(times_.begin(), times_.end())) {
+        sortTimes();
+    }
 }
 
 /// Of all points with the same time only the first in the arranged order is kept.

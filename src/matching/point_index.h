@@ -21,14 +21,24 @@ class track_part;
 /// building: when one changes, comes or goes, make a new index.
 class PointIndex {
 public:
-    /// At most 2^32 points.
-    explicit PointIndex(std::vector<track_part *> arranged);
+    /// Any range of track_part pointers with a size, at most 2^32; walked once, because a million
+    /// points come through the processor's cache only slowly.
+    template <class Points>
+    explicit PointIndex(const Points &arranged) {
+        reserve(arranged.size());
+        for (track_part *point : arranged) {
+            keepIfFindable(point);
+        }
+        sortTimesIfNeeded();
+    }
 
     /// Null when there is no point to find.
     track_part *nearest(Date target) const;
 
 private:
-    void keepFindable();
+    void reserve(std::size_t count);
+    void keepIfFindable(track_part *point);
+    void sortTimesIfNeeded();
     void sortTimes();
     track_part *earliestOf(std::size_t begin, std::size_t end) const;
 

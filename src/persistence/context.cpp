@@ -48,8 +48,8 @@ void Context::adopt(std::unique_ptr<Record> record, InsertionList &list) {
     adopted.state_ = RecordState::Inserted;
     list.append(adopted);
     ++inserted_;
-    for (ChangeObserver *observer : observers_) {
-        observer->didInsert(adopted);
+    if (isObserved()) {
+        tell([&](ChangeObserver &observer) { observer.didInsert(adopted); });
     }
 }
 

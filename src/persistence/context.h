@@ -16,6 +16,34 @@ namespace pinmora {
 /// Where a record stands against the last commit.
 enum class RecordState : std::uint8_t { Clean, Inserted, Updated, Deleted };
 
+/// The records of one entity in the order of insertion, walked without a list of their own. Good
+/// until the next insertion or deletion.
+template <class R>
+class RecordRange {
+public:
+    class Iterator {
+    public:
+        explicit Iterator(Record *record) : record_(record) {}
+        R *operator*() const { return static_cast<R *>(record_); }
+        Iterator &operator++() {
+            record_ = InsertionList::next(*record_);
+            return *this;
+        }
+        friend bool operator==(Iterator a, Iterator b) { return a.record_ == b.record_; }
+
+    private:
+        Record *record_;
+    };
+
+    explicit RecordRange(const InsertionList &list) : list_(list) {}
+    Iterator begin() const { return Iterator(list_.first()); }
+    Iterator end() const { return Iterator(nullptr); }
+    std::size_t size() const { return list_.size(); }
+
+private:
+    const InsertionList &list_;
+};
+
 /// Owns all records, knows what has changed since the last commit, and tells its observers.
 ///
 /// One thread only. References to records stay good until the commit after their deletion (or the
@@ -48,14 +76,17 @@ public:
     /// The records of an entity in the order of insertion.
     RecordList fetch(std::string_view entityName) const;
     template <class R>
+    RecordRange<R> records() const {
+        return RecordRange<R>(listOf(R::description()));
+    }
+    template <class R>
     std::vector<R *> fetch() const {
-        const InsertionList &list = listOf(R::description());
-        std::vector<R *> records;
-        records.reserve(list.size());
-        for (Record *record = list.first(); record; record = InsertionList::next(*record)) {
-            records.push_back(static_cast<R *>(record));
+        std::vector<R *> fetched;
+        fetched.reserve(records<R>().size());
+        for (R *record : records<R>()) {
+            fetched.push_back(record);
         }
-        return records;
+        return fetched;
     }
     template <class R>
     std::size_t count() const {
@@ -74,8 +105,10 @@ public:
     bool commitEditing() { return !endEditing_ || endEditing_(); }
     void setEndEditing(std::function<bool()> endEditing) { endEditing_ = std::move(endEditing); }
 
+    /// Observers may come and go also while they are told: one that is added hears the next notice,
+    /// one that is removed hears no more.
     void addObserver(ChangeObserver &observer) { observers_.push_back(&observer); }
-    void removeObserver(ChangeObserver &observer) { std::erase(observers_, &observer); }
+    void removeObserver(ChangeObserver &observer);
     bool isObserved() const { return !observers_.empty(); }
 
     void willAccess(const Record &record, std::string_view key) const {
@@ -112,6 +145,8 @@ private:
     void discard(Record &record);
     void markUpdated(Record &record);
     RecordList inState(RecordState state) const;
+    template <class Notice>
+    void tell(Notice notice) const;
     void tellAccess(const Record &, std::string_view key,
                     void (ChangeObserver::*notice)(const Record &, std::string_view)) const;
     void tellWillChange(Record &, std::string_view key);
@@ -120,11 +155,26 @@ private:
     const Model &model_;
     std::vector<InsertionList> lists_; ///< one per entity of the model
     std::vector<Deleted> deleted_;
-    std::vector<ChangeObserver *> observers_;
+    mutable std::vector<ChangeObserver *> observers_; ///< null: removed while being told
+    mutable int telling_ = 0;                         ///< notices under way, one in another
     std::function<bool()> endEditing_;
     std::size_t inserted_ = 0;
     std::size_t updated_ = 0;
     std::size_t deletedSinceCommit_ = 0;
 };
+
+template <class Notice>
+void Context::tell(Notice notice) const {
+    ++telling_;
+    const std::size_t present = observers_.size();
+    for (std::size_t i = 0; i < present; ++i) {
+        if (ChangeObserver *observer = observers_[i]) {
+            notice(*observer);
+        }
+    }
+    if (--telling_ == 0) {
+        std::erase(observers_, nullptr);
+    }
+}
 
 } // namespace pinmora

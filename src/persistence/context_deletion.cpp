@@ -24,9 +24,7 @@ void Context::deleteObject(Record &record) {
     RecordList doomed;
     collectDoomed(record, doomed);
     for (Record *victim : doomed) {
-        for (ChangeObserver *observer : observers_) {
-            observer->willDelete(*victim);
-        }
+        tell([&](ChangeObserver &observer) { observer.willDelete(*victim); });
     }
     for (Record *victim : doomed) {
         endRelationships(*victim);
@@ -34,9 +32,7 @@ void Context::deleteObject(Record &record) {
     endOneWayRelationships();
     for (Record *victim : doomed) {
         discard(*victim);
-        for (ChangeObserver *observer : observers_) {
-            observer->didDelete(*victim);
-        }
+        tell([&](ChangeObserver &observer) { observer.didDelete(*victim); });
     }
 }
 

@@ -32,7 +32,9 @@ struct Member<void (R::*)(Argument)> {
 
 template <class T>
 T fromValue(const Value &value) {
-    if constexpr (std::is_same_v<T, Text>) {
+    if constexpr (std::is_same_v<T, Value>) {
+        return value;
+    } else if constexpr (std::is_same_v<T, Text>) {
         return value.toText();
     } else if constexpr (std::is_same_v<T, std::optional<std::int32_t>>) {
         return value.toInteger();

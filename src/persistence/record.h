@@ -32,7 +32,7 @@ public:
     /// Raw access: no notices, no side effects. Throws UnknownKeyError.
     Value primitiveValueForKey(std::string_view key) const;
     void setPrimitiveValue(Value value, std::string_view key);
-    /// Whether a value may be written under a key: yes for every value of a key that exists.
+    /// Whether a value may be written under a key: every value may, if the key can be written.
     bool validateValue(const Value &value, std::string_view key) const;
 
     void willAccessValueForKey(std::string_view key) const {

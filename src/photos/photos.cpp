@@ -121,6 +121,7 @@ void Photos::makePictEntry(const std::string &name, const std::string &folder) {
     photo.setHasChangesFalse();
     context_.commitEditing();
     report_.loaded.push_back(path);
+    photoLoaded.emit(report_.loaded.size());
 }
 
 int Photos::orientation(const PropertyDictionary &properties) const {

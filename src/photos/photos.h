@@ -6,6 +6,7 @@
 #include "photos/photo_values.h"
 #include "platform/image_source.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -70,6 +71,9 @@ public:
     /// What became of everything that was loaded since the last clearReport().
     const IntakeReport &report() const { return report_; }
     void clearReport() { report_ = {}; }
+
+    /// Sent after each photo, with the number of those loaded since the last clearReport().
+    Signal<std::size_t> photoLoaded;
 
     /// Where a photo's new name is typed, in the main window's two tabs.
     TextField newFileName;

@@ -17,8 +17,9 @@ using WallClock = std::chrono::local_seconds;
 /// The computer's time zone: wall-clock time to instants and back, daylight saving included.
 ///
 /// Stretches with one offset from universal time are looked up once and kept, so that a million
-/// conversions of one outing cost little. Make a new one per piece of work: it takes the zone in
-/// force when it is made and does not notice a later change. Not for use by two threads at once.
+/// conversions of one outing cost little. Make a new one per piece of work: it looks at
+/// the computer's zone when it is made, and what it keeps knows of no later change. Not for use by
+/// two threads at once.
 class LocalZone {
 public:
     LocalZone();

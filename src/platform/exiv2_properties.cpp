@@ -1,5 +1,6 @@
 #include "platform/exiv2_properties.h"
 
+#include <algorithm>
 #include <cmath>
 #include <exiv2/exiv2.hpp>
 #include <initializer_list>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "platform/image_text.h"
+#include "platform/number_text.h"
 #include "platform/text_encoding.h"
 
 // One source for two versions: 0.27 hands out std::auto_ptr, 0.28 needs no enableBMFF() any more.
@@ -99,6 +101,7 @@ public:
         readUserComment();
         readPosition();
         readIptc();
+        readXmp();
         return std::move(reading_);
     }
 
@@ -119,6 +122,11 @@ private:
         const Exiv2::Value *value = find(keys);
         if (value == nullptr)
             return std::nullopt;
+        // Some writers give a number as text; Exiv2 would answer with the first character's code.
+        if (const auto *text = dynamic_cast<const Exiv2::StringValueBase *>(value))
+            return text->value_.empty() || text->value_[0] < '0' || text->value_[0] > '9'
+                       ? std::nullopt
+                       : std::optional(leadingDouble(text->value_));
         const std::vector<double> rationals = quotients(*value);
         const double result =
             rationals.empty() ? static_cast<double>(value->toFloat(0)) : rationals[0];
@@ -194,7 +202,7 @@ private:
         setAngle("Longitude", 180);
         if (const auto altitude = number({"Exif.GPSInfo.GPSAltitude"})) {
             const bool isBelowSea = number({"Exif.GPSInfo.GPSAltitudeRef"}) == 1.0;
-            gps.set("Altitude", isBelowSea ? -*altitude : *altitude);
+            gps.set("Altitude", isBelowSea ? -std::abs(*altitude) : *altitude);
         }
     }
 
@@ -205,11 +213,28 @@ private:
         return textBytes(datum->value());
     }
 
+    bool iptcIsUtf8() const {
+        const auto &data = image_.iptcData();
+        return std::all_of(data.begin(), data.end(), [](const Exiv2::Iptcdatum &datum) {
+            return isUtf8(textBytes(datum.value()).value_or(""));
+        });
+    }
+
+    void readXmp() {
+        const auto &xmp = image_.xmpData();
+        const std::string type = image_.mimeType();
+        reading_.layout.positionInXmp =
+            xmp.findKey(Exiv2::XmpKey("Xmp.exif.GPSLatitude")) != xmp.end() ||
+            type == "image/x-canon-crw" || type == "application/postscript";
+    }
+
     void readIptc() {
         if (image_.iptcData().empty())
             return;
         const std::string declared = iptcBytes("Iptc.Envelope.CharacterSet").value_or("");
-        reading_.iptcEncoding = declaresUtf8(declared) ? IptcEncoding::Utf8 : IptcEncoding::Other;
+        reading_.layout.iptc = declaresUtf8(declared) || (declared.empty() && iptcIsUtf8())
+                                   ? IptcEncoding::Utf8
+                                   : IptcEncoding::Other;
         static constexpr std::pair<const char *, const char *> texts[] = {
             {"City", "Iptc.Application2.City"},
             {"Province/State", "Iptc.Application2.ProvinceState"},

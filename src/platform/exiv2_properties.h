@@ -12,7 +12,7 @@ namespace pinmora {
 /// What Exiv2 reads in an image file's metadata.
 struct Exiv2Reading {
     ImageProperties properties;
-    IptcEncoding iptcEncoding = IptcEncoding::Absent;
+    MetadataLayout layout;
 };
 
 /// Reads a regular file's metadata, seeking past the pixels. The name is taken as a local path

@@ -55,12 +55,12 @@ std::optional<ImageProperties> readImageProperties(const std::filesystem::path &
     return properties;
 }
 
-IptcEncoding readIptcEncoding(const std::filesystem::path &file) {
+MetadataLayout readMetadataLayout(const std::filesystem::path &file) {
     if (!headOfRegularFile(file))
-        return IptcEncoding::Absent;
+        return {};
     const auto reading = readWithExiv2(file);
     // What Exiv2 cannot open may hold IPTC all the same: nobody may take it for UTF-8 then.
-    return reading ? reading->iptcEncoding : IptcEncoding::Other;
+    return reading ? reading->layout : MetadataLayout{IptcEncoding::Other, false};
 }
 
 } // namespace pinmora

@@ -51,10 +51,18 @@ std::optional<ImageProperties> readImageProperties(const std::filesystem::path &
 /// How the IPTC texts in a photo are encoded.
 enum class IptcEncoding {
     Absent, ///< the photo has no IPTC block
-    Utf8,   ///< declared as UTF-8 (coded character set ESC % G)
-    Other,  ///< undeclared or declared as something else
+    Utf8,   ///< declared as UTF-8 (coded character set ESC % G), or undeclared and valid as such
+    Other,  ///< any other
 };
 
-IptcEncoding readIptcEncoding(const std::filesystem::path &file);
+/// What of a photo's metadata decides how new metadata must be written into it.
+struct MetadataLayout {
+    IptcEncoding iptc = IptcEncoding::Absent;
+    /// A position also stands in the photo's XMP block, or its format has no other place for one.
+    /// XMP knows no hemisphere beside an unsigned number.
+    bool positionInXmp = false;
+};
+
+MetadataLayout readMetadataLayout(const std::filesystem::path &file);
 
 } // namespace pinmora

@@ -43,7 +43,16 @@ std::string_view withoutOuterBlanks(std::string_view text) {
                : text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-void addPosition(Arguments &arguments, const PhotoSnapshot &photo) {
+bool isSouthOrWest(const PhotoSnapshot &photo) {
+    return !photo.lat.empty() && !photo.lon.empty() && (photo.latRef == "S" || photo.lonRef == "W");
+}
+
+/// Whether a place name has a character that ExifTool would destroy in Latin-1.
+bool needsUtf8(const PhotoSnapshot &photo) {
+    return !fitsLatin1(photo.country) || !fitsLatin1(photo.prov) || !fitsLatin1(photo.city);
+}
+
+void addPosition(Arguments &arguments, const PhotoSnapshot &photo, const MetadataLayout &layout) {
     if (photo.lat.empty() || photo.lon.empty()) {
         return;
     }
@@ -52,10 +61,14 @@ void addPosition(Arguments &arguments, const PhotoSnapshot &photo) {
     arguments.assign("GPSLongitude", magnitude(photo.lon));
     arguments.assignUnlessEmpty("GPSLongitudeRef", photo.lonRef);
     arguments.assignUnlessEmpty("GPSMapDatum", photo.mapDatum);
+    if (layout.positionInXmp && isSouthOrWest(photo)) {
+        arguments.assign("XMP-exif:GPSLatitude", magnitude(photo.lat) + ' ' + photo.latRef);
+        arguments.assign("XMP-exif:GPSLongitude", magnitude(photo.lon) + ' ' + photo.lonRef);
+    }
 }
 
 void addPlaceNames(Arguments &arguments, const PhotoSnapshot &photo, IptcEncoding iptc) {
-    if (needsIptcEncoding(photo)) {
+    if (needsUtf8(photo)) {
         if (iptc == IptcEncoding::Other) {
             arguments.add("-tagsfromfile");
             arguments.add("@");
@@ -80,18 +93,18 @@ void addAltitude(Arguments &arguments, const PhotoSnapshot &photo) {
 
 } // namespace
 
-bool needsIptcEncoding(const PhotoSnapshot &photo) {
-    return !fitsLatin1(photo.country) || !fitsLatin1(photo.prov) || !fitsLatin1(photo.city);
+bool needsLayout(const PhotoSnapshot &photo) {
+    return needsUtf8(photo) || isSouthOrWest(photo);
 }
 
-std::vector<std::string> metadataArguments(const PhotoSnapshot &photo, IptcEncoding iptc,
+std::vector<std::string> metadataArguments(const PhotoSnapshot &photo, const MetadataLayout &layout,
                                            const std::filesystem::path &copy) {
     Arguments arguments;
     arguments.add("-overwrite_original_in_place");
     arguments.assign("ImageDescription", photo.description);
     arguments.assign("UserComment", photo.comments);
-    addPosition(arguments, photo);
-    addPlaceNames(arguments, photo, iptc);
+    addPosition(arguments, photo, layout);
+    addPlaceNames(arguments, photo, layout.iptc);
     addAltitude(arguments, photo);
     arguments.add(copy.native());
     return arguments.take();

@@ -1,5 +1,6 @@
 #include "saving/metadata_tool.h"
 
+#include "saving/copy_names.h"
 #include "saving/long_values.h"
 
 #include <algorithm>
@@ -17,11 +18,25 @@ constexpr const char *toolName = "exiftool";
 /// there already.
 constexpr const char *temporarySuffix = "_exiftool_tmp";
 
-/// Nobody else works on a copy that we have just made: a temporary file beside it is left over.
-void removeLeftover(const std::filesystem::path &copy) {
-    std::error_code ignored;
-    std::filesystem::remove(copy.native() + temporarySuffix, ignored);
-}
+/// Clears away the temporary file that the tool leaves beside a copy when it is ended. One that was
+/// there before is not ours: it may be all that is left of somebody's photo.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const std::filesystem::path &copy)
+        : path_(copy.native() + temporarySuffix), wasThere_(isTaken(path_)) {}
+    ~TemporaryFile() {
+        if (!wasThere_) {
+            std::error_code ignored;
+            std::filesystem::remove(path_, ignored);
+        }
+    }
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+private:
+    std::filesystem::path path_;
+    bool wasThere_;
+};
 
 /// Lets the owner write to a file as long as this object lives.
 class Writable {
@@ -141,10 +156,9 @@ ToolResult MetadataTool::write(std::vector<std::string> arguments, const FileTim
     ToolResult result;
     {
         const Writable writable{copy};
-        removeLeftover(copy);
+        const TemporaryFile temporary{copy};
         const auto before = stateOf(copy);
         result = resultOf(runProcess(*tool, arguments, limits_), copy);
-        removeLeftover(copy);
         if (result.end == ToolResult::End::NotWritten && stateOf(copy) != before) {
             result.end = ToolResult::End::HalfWritten;
         }

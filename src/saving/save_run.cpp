@@ -101,14 +101,14 @@ void makeAnew(SavedPhoto &saved, const PhotoSnapshot &photo) {
     }
 }
 
-IptcEncoding iptcEncodingFor(const PhotoSnapshot &photo) {
-    return needsIptcEncoding(photo) ? readIptcEncoding(photo.source) : IptcEncoding::Absent;
+MetadataLayout layoutOf(const PhotoSnapshot &photo) {
+    return needsLayout(photo) ? readMetadataLayout(photo.source) : MetadataLayout{};
 }
 
 SavedPhoto tag(const MetadataTool &tool, std::size_t index, const PhotoSnapshot &photo,
                const PlacedCopy &copy) {
     const ToolResult result =
-        tool.write(metadataArguments(photo, iptcEncodingFor(photo), copy.path), copy.times);
+        tool.write(metadataArguments(photo, layoutOf(photo), copy.path), copy.times);
     SavedPhoto saved{index, copy.path, Status::Saved, result.words};
     using End = ToolResult::End;
     if (result.end == End::NotWritten || result.end == End::HalfWritten) {
@@ -148,6 +148,10 @@ SaveOutcome SaveRun::run(const std::vector<PhotoSnapshot> &photos) {
     QThreadPool pool; // goes first, waiting for its threads: they use what stands above
     pool.setMaxThreadCount(QThread::idealThreadCount());
     for (std::size_t index = 0; index < photos.size(); ++index) {
+        if (observer_.stopped && observer_.stopped()) {
+            ended.put({index, std::nullopt, Status::Failed, "Not copied: the run was stopped"});
+            continue;
+        }
         if (observer_.begins) {
             observer_.begins(index, photos.size());
         }

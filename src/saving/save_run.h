@@ -29,19 +29,22 @@ struct SaveOutcome {
     std::vector<SavedPhoto> photos; ///< one for each, in order; none after a refusal
 };
 
-/// Both are called on the thread that runs the run; either may be empty.
+/// All are called on the thread that runs the run; each may be empty.
 struct SaveObserver {
     /// The photo of that index, of so many, is about to be copied.
-    std::function<void(std::size_t index, std::size_t count)> begins;
+    std::function<void(std::size_t index, std::size_t count)> begins = {};
     /// A photo is done with; photos end in any order.
-    std::function<void(const SavedPhoto &)> ended;
+    std::function<void(const SavedPhoto &)> ended = {};
+    /// Asked before each photo: once yes, no further one is begun. What is copied is still tagged.
+    std::function<bool()> stopped = {};
 };
 
 /// Copies photos into a folder and writes their data into the copies.
 ///
 /// Copying goes on one photo after another while the tool works on the copies already made, in as
 /// many processes as there are cores. A copy appears whole under a name that was free, or not at
-/// all, whoever else writes into the folder and wherever the run is cut off.
+/// all, whoever else writes into the folder. Where the program is killed, copies may be left that
+/// the tool had not come to, and the ones that it was writing into.
 class SaveRun {
 public:
     /// The tool must outlive the run.

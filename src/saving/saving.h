@@ -20,6 +20,9 @@ public:
     /// `resourceFolder` is the program's own, where it may bring ExifTool along.
     explicit Saving(std::filesystem::path resourceFolder) : tool_(std::move(resourceFolder)) {}
 
+    /// Whether the tool that writes the data is there; without it nothing is saved.
+    bool canSave() const { return tool_.locate().has_value(); }
+
     /// Copies one file into a folder under the given name, bytes, permissions, extended attributes
     /// and times; `file_exists`, and nothing done, when the name is taken.
     std::error_code copyTheFile(const std::filesystem::path &source,

@@ -50,6 +50,14 @@ void image::setDate(const Text &text) {
     changeAndMark("date", date_, date);
 }
 
+void image::setDateValue(const Value &value) {
+    if (value.toDate()) {
+        changeAndMark("date", date_, value.toDate());
+    } else {
+        setDate(value.toText());
+    }
+}
+
 void image::setLocationDetails() {
     if (!lat_and_lon() || loading_ || !context()) {
         return;

@@ -141,6 +141,8 @@ public:
     void setLoading(bool loading) { loading_ = loading; }
 
 private:
+    /// setDate() for a text, and an instant as it is.
+    void setDateValue(const Value &value);
     template <class Field, class NewValue>
     void changeAndMark(std::string_view key, Field &field, NewValue &&value) {
         change(key, field, std::forward<NewValue>(value));

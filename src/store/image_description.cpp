@@ -14,7 +14,7 @@ const EntityDescription &image::description() {
             attribute<&I::full_file_path, &I::setFull_file_path, &I::full_file_path_>(
                 "full_file_path"),
             attribute<&I::extension, &I::setExtension, &I::extension_>("extension"),
-            attribute<&I::date, &I::setDate, &I::date_>("date"),
+            attribute<&I::date, &I::setDateValue, &I::date_>("date"),
             attribute<&I::no_capture_time, &I::setNo_capture_time, &I::no_capture_time_>(
                 "no_capture_time"),
             attribute<&I::lat, &I::setLat, &I::lat_>("lat"),

@@ -12,7 +12,7 @@ const EntityDescription &track_part::description() {
         "track_part", []() -> std::unique_ptr<Record> { return std::make_unique<P>(); },
         {
             toOne<&P::track, &P::setTrack, &P::track_, &P::link>("track", "track_part"),
-            attribute<&P::time, &P::setTime, &P::time_>("time"),
+            attribute<&P::time, &P::setTimeValue, &P::time_>("time"),
             writeOnly<&P::setTimeWithDate>("timeWithDate"),
             derived<&P::timeString>("timeString", {"time"}),
             attribute<&P::lat, &P::setLat, &P::lat_>("lat"),
@@ -65,6 +65,14 @@ void track_part::link(pinmora::track *track) {
 void track_part::setTime(const Text &text) {
     LocalZone zone;
     change("time", time_, dateFromText(text.view(), gpxTimeFormat, zone));
+}
+
+void track_part::setTimeValue(const Value &value) {
+    if (value.toDate()) {
+        setTimeWithDate(value.toDate());
+    } else {
+        setTime(value.toText());
+    }
 }
 
 std::string track_part::timeString() const {

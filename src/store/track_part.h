@@ -45,6 +45,8 @@ public:
     void setPoint_id(std::optional<std::int32_t> id) { change("point_id", point_id_, id); }
 
 private:
+    /// setTime() for a text, and an instant as it is.
+    void setTimeValue(const Value &value);
     void link(pinmora::track *track);
 
     pinmora::track *track_ = nullptr;

@@ -75,7 +75,7 @@ void ReportTest::jsonKeepsTextsAndTellsNullFromEmpty() {
     QVERIFY(second[u"taken"].isNull() && second[u"corrected"].isNull());
     QVERIFY(second[u"seconds_apart"].isNull());
     QCOMPARE(second[u"lat"], QJsonValue(QString()));
-    QCOMPARE(second[u"file"].toString(), QStringLiteral("/p/caf\uFFFD é.jpg"));
+    QCOMPARE(second[u"file"].toString(), QStringLiteral("/p/caf\\xE9 é.jpg"));
     QCOMPARE(second[u"message"].toString(), QStringLiteral("disk full"));
 }
 

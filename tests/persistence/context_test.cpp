@@ -134,6 +134,7 @@ private Q_SLOTS:
     void aCascadeKeepsWhatItDeletesLinked();
     void bookkeepingFollowsTheLifeOfARecord();
     void fetchKeepsTheOrderOfInsertion();
+    void observersMayLeaveWhileTheyAreTold();
 
 private:
     Model model{{&Tree::description(), &Leaf::description(), &Bird::description()}};
@@ -261,6 +262,35 @@ void ContextTest::fetchKeepsTheOrderOfInsertion() {
         QVERIFY(context->fetch<Leaf>() == expected);
     }
     QCOMPARE(context->fetch("leaf").size(), expected.size());
+}
+
+void ContextTest::observersMayLeaveWhileTheyAreTold() {
+    /// Leaves with the observer behind it as soon as it hears of a change.
+    struct Leaving : Diary {
+        void didChange(Record &record, std::string_view key) override {
+            Diary::didChange(record, key);
+            record.context()->removeObserver(*this);
+            record.context()->removeObserver(*next);
+        }
+        ChangeObserver *next = nullptr;
+    };
+    Leaving leaving;
+    Diary removed;
+    Diary staying;
+    leaving.next = &removed;
+    for (ChangeObserver *observer :
+         {static_cast<ChangeObserver *>(&leaving), static_cast<ChangeObserver *>(&removed),
+          static_cast<ChangeObserver *>(&staying)}) {
+        context->addObserver(*observer);
+    }
+    Leaf &leaf = context->insert<Leaf>();
+    leaf.setTree(nullptr);
+    leaf.setTree(nullptr);
+    QCOMPARE(leaving.notes.count(QStringLiteral(">tree")), 1);
+    QCOMPARE(removed.notes.count(QStringLiteral(">tree")), 0);
+    QCOMPARE(staying.notes.count(QStringLiteral(">tree")), 2);
+    context->removeObserver(staying);
+    QVERIFY(!context->isObserved());
 }
 
 QTEST_APPLESS_MAIN(ContextTest)

@@ -324,13 +324,16 @@ void ImageSourceTest::manyFilesLeaveNothingBehind() {
 
 void ImageSourceTest::iptcEncoding() {
     const char *city = "Iptc.Application2.City";
-    QCOMPARE(readIptcEncoding(photo(southEast)), IptcEncoding::Absent);
-    QCOMPARE(readIptcEncoding(photo({{city, "Rome"}})), IptcEncoding::Other);
-    QCOMPARE(readIptcEncoding(photo({{city, "Rome"}, {"Iptc.Envelope.CharacterSet", "\x1b.A"}})),
-             IptcEncoding::Other);
-    QCOMPARE(readIptcEncoding(photo({{city, "Rome"}, {"Iptc.Envelope.CharacterSet", "\x1b%G"}})),
-             IptcEncoding::Utf8);
-    QCOMPARE(readIptcEncoding(write("unknown.jpg", "no picture")), IptcEncoding::Other);
+    QCOMPARE(readMetadataLayout(photo(southEast)).iptc, IptcEncoding::Absent);
+    QCOMPARE(readMetadataLayout(photo({{city, "Gen\xe8ve"}})).iptc, IptcEncoding::Other);
+    QCOMPARE(
+        readMetadataLayout(photo({{city, "Rome"}, {"Iptc.Envelope.CharacterSet", "\x1b.A"}})).iptc,
+        IptcEncoding::Other);
+    QCOMPARE(
+        readMetadataLayout(photo({{city, "Rome"}, {"Iptc.Envelope.CharacterSet", "\x1b%G"}})).iptc,
+        IptcEncoding::Utf8);
+    QCOMPARE(readMetadataLayout(photo({{city, "Gen\xc3\xa8ve"}})).iptc, IptcEncoding::Utf8);
+    QCOMPARE(readMetadataLayout(write("unknown.jpg", "no picture")).iptc, IptcEncoding::Other);
 }
 
 void ImageSourceTest::dictionary() {

@@ -92,6 +92,23 @@ private Q_SLOTS:
         QCOMPARE(bytesOf(sydney.source), before);
     }
 
+    /// The tool writes the unsigned numbers into XMP too, where they would be north and east.
+    void aPositionInXmpKeepsItsHemisphere() {
+        Folders folders;
+        PhotoSnapshot photo = folders.photo("a");
+        exiftool({"-overwrite_original", "-XMP-exif:GPSLatitude=1 N", "-XMP-exif:GPSLongitude=1 E",
+                  photo.source});
+        photo.lat = "-49.33";
+        photo.lon = "-72.88";
+        photo.latRef = "S";
+        photo.lonRef = "W";
+        const SavedPhoto saved = save(folders, {photo}).photos.at(0);
+        QCOMPARE(saved.message, "");
+        QCOMPARE(exiftool({"-n", "-s3", "-XMP-exif:GPSLatitude", "-XMP-exif:GPSLongitude",
+                           *saved.savedAs}),
+                 "-49.330002\n-72.879997\n");
+    }
+
     void otherIptcTextsSurvive_data() {
         QTest::addColumn<Texts>("preparation");
         QTest::newRow("Latin-1") << Texts{"-charset", "iptc=Latin"};

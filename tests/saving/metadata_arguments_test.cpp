@@ -23,10 +23,11 @@ private Q_SLOTS:
     void listsArguments_data() {
         QTest::addColumn<PhotoSnapshot>("photo");
         QTest::addColumn<IptcEncoding>("iptc");
+        QTest::addColumn<bool>("positionInXmp");
         QTest::addColumn<List>("between"); // what stands between the comment and the path
         const auto row = [](const char *what, const PhotoSnapshot &photo, List between,
-                            IptcEncoding iptc = IptcEncoding::Other) {
-            QTest::newRow(what) << photo << iptc << std::move(between);
+                            IptcEncoding iptc = IptcEncoding::Other, bool positionInXmp = false) {
+            QTest::newRow(what) << photo << iptc << positionInXmp << std::move(between);
         };
         const auto changed = [](PhotoSnapshot photo, auto change) {
             change(photo);
@@ -47,6 +48,15 @@ private Q_SLOTS:
         row("position, in single precision", sydney(),
             {"-GPSLatitude=33.856800", "-GPSLatitudeRef=S", "-GPSLongitude=151.215302",
              "-GPSLongitudeRef=E", "-GPSMapDatum=WGS-84"});
+        row("south, in XMP too", sydney(),
+            {"-GPSLatitude=33.856800", "-GPSLatitudeRef=S", "-GPSLongitude=151.215302",
+             "-GPSLongitudeRef=E", "-GPSMapDatum=WGS-84", "-XMP-exif:GPSLatitude=33.856800 S",
+             "-XMP-exif:GPSLongitude=151.215302 E"},
+            IptcEncoding::Absent, true);
+        row("north and east, in XMP too", changed(sydney(), [](auto &p) { p.latRef = "N"; }),
+            {"-GPSLatitude=33.856800", "-GPSLatitudeRef=N", "-GPSLongitude=151.215302",
+             "-GPSLongitudeRef=E", "-GPSMapDatum=WGS-84"},
+            IptcEncoding::Absent, true);
         row("no letters, no datum",
             changed(sydney(), [](auto &p) { p.latRef = p.lonRef = p.mapDatum = ""; }),
             {"-GPSLatitude=33.856800", "-GPSLongitude=151.215302"});
@@ -90,22 +100,30 @@ private Q_SLOTS:
     void listsArguments() {
         QFETCH(PhotoSnapshot, photo);
         QFETCH(IptcEncoding, iptc);
+        QFETCH(bool, positionInXmp);
         QFETCH(List, between);
         photo.description = "On the <quay>";
         List expected{"-overwrite_original_in_place", "-ImageDescription=On the <quay>",
                       "-UserComment="};
         expected.insert(expected.end(), between.begin(), between.end());
         expected.emplace_back("/out/a.jpg");
-        QCOMPARE(metadataArguments(photo, iptc, "/out/a.jpg"), expected);
+        QCOMPARE(metadataArguments(photo, {iptc, positionInXmp}, "/out/a.jpg"), expected);
     }
 
-    void asksForTheEncodingOnlyWhenItMatters() {
+    void asksForTheLayoutOnlyWhenItMatters() {
         PhotoSnapshot photo;
         photo.description = "Łódź";
         photo.city = "Genève";
-        QVERIFY(!needsIptcEncoding(photo));
+        photo.lat = photo.lon = "1";
+        photo.latRef = "N";
+        photo.lonRef = "E";
+        QVERIFY(!needsLayout(photo));
+        photo.lonRef = "W";
+        QVERIFY(needsLayout(photo));
+        photo.lon = "";
+        QVERIFY(!needsLayout(photo));
         photo.prov = "Łódź";
-        QVERIFY(needsIptcEncoding(photo));
+        QVERIFY(needsLayout(photo));
     }
 };
 

@@ -83,10 +83,18 @@ private Q_SLOTS:
 
     void leftoversOfTheToolAreCleared() {
         Folders folders;
-        folders.standIn("test ! -e \"${copy}_exiftool_tmp\" && echo > \"${copy}_exiftool_tmp\"");
-        writeBytes(folders.copies / "a b.jpg_exiftool_tmp", "left over");
+        folders.standIn("echo > \"${copy}_exiftool_tmp\"");
         QCOMPARE(run(folders).end, End::Written);
         QCOMPARE(folders.copyNames(), std::set<std::string>{"a b.jpg"});
+    }
+
+    /// It may be the only whole photo that somebody's broken-off run has left.
+    void aFileThatWasThereBeforeStays() {
+        Folders folders;
+        folders.standIn("exit 1");
+        writeBytes(folders.copies / "a b.jpg_exiftool_tmp", "precious");
+        QCOMPARE(run(folders).end, End::NotWritten);
+        QCOMPARE(bytesOf(folders.copies / "a b.jpg_exiftool_tmp"), "precious");
     }
 
     void takesTheBundledToolBeforeTheInstalledOne() {

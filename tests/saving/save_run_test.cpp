@@ -181,6 +181,21 @@ private Q_SLOTS:
         QVERIFY(!elsewhere);
     }
 
+    void aStoppedRunBeginsNoFurtherPhoto() {
+        Desk desk;
+        std::size_t begun = 0;
+        const auto outcome =
+            desk.save({desk.photo("a", "1"), desk.photo("b", "2"), desk.photo("c", "3")},
+                      {.begins = [&](std::size_t, std::size_t) { ++begun; },
+                       .stopped = [&] { return begun == 1; }});
+        QCOMPARE(outcome.photos.at(0).status, SavedPhoto::Status::Saved);
+        for (const std::size_t index : {1, 2}) {
+            QCOMPARE(outcome.photos.at(index).status, SavedPhoto::Status::Failed);
+            QVERIFY(!outcome.photos.at(index).savedAs);
+        }
+        QCOMPARE(begun, 1U);
+    }
+
     /// Each stand-in waits for the last photo's copy, which would never come if copying waited.
     void copyingDoesNotWaitForTheTool() {
         Desk desk;

@@ -28,7 +28,7 @@ private Q_SLOTS:
         photo.setCountry("country");
         photo.setProv("prov");
         const PhotoSnapshot snapshot = snapshotOf(photo);
-        QCOMPARE(metadataArguments(snapshot, IptcEncoding::Absent, snapshot.source),
+        QCOMPARE(metadataArguments(snapshot, {}, snapshot.source),
                  (std::vector<std::string>{
                      "-overwrite_original_in_place", "-ImageDescription=description",
                      "-UserComment=comments", "-GPSLatitude=33.856800", "-GPSLatitudeRef=S",

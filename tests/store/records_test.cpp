@@ -114,6 +114,8 @@ void RecordsTest::pointTimesAreReadAsLocalClockTime() {
     QCOMPARE(point.timeString(), shown.toStdString());
     point.setValue(Value(Date(std::chrono::seconds(5))), "timeWithDate");
     QVERIFY(point.time() == Date(std::chrono::seconds(5)));
+    point.setValue(point.valueForKey("time"), "time"); // what was read can be written back
+    QVERIFY(point.time() == Date(std::chrono::seconds(5)));
     point.setValue({}, "timeWithDate");
     QVERIFY(!point.time());
 }
