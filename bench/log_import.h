@@ -2,10 +2,8 @@
 
 #include "ratio.h"
 
-#include "gps/gps.h"
-#include "persistence/context.h"
-#include "platform/notification_centre.h"
-#include "store/library_model.h"
+#include "memory_library.h"
+
 #include "store/track_part.h"
 
 #include <chrono>
@@ -22,15 +20,7 @@
 namespace pinmora::bench {
 
 /// A library in memory and what loads logs into it.
-struct Library {
-    NotificationCentre notifications;
-    LibraryModel model{notifications};
-    Context context{model};
-    Window window;
-    ProgressSheet progress{[this]() -> Window & { return window; }};
-    ErrorSheet errors{[this]() -> Window & { return window; }};
-    Gps gps{context, progress, errors};
-};
+using Library = tag::MemoryLibrary;
 
 /// Large logs in a folder of their own, which goes with the object.
 class LogFiles {

@@ -74,12 +74,5 @@ void measure(bench::Report &report) {
 } // namespace
 
 int main() {
-    try {
-        bench::Report report;
-        measure(report);
-        return report.exitStatus();
-    } catch (const std::exception &error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        return 1;
-    }
+    return bench::run(measure);
 }

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdio>
+#include <exception>
 #include <fstream>
 #include <limits>
 #include <malloc.h>
@@ -101,5 +102,17 @@ private:
 
     bool short_ = false;
 };
+
+/// What main() of a benchmark returns: measures, and says it where that fails.
+inline int run(void (*measure)(Report &)) {
+    try {
+        Report report;
+        measure(report);
+        return report.exitStatus();
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
+}
 
 } // namespace pinmora::bench

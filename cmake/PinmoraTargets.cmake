@@ -5,11 +5,11 @@ add_library(pinmora_options INTERFACE)
 target_compile_features(pinmora_options INTERFACE cxx_std_20)
 target_compile_options(pinmora_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast -Werror)
-# GCC 12 sees overlaps and overflows in operator+(const char *, std::string &&) that are not there
-# (its bug 105651).
+# Optimising, GCC 12 sees overlaps and overflows in operator+(const char *, std::string &&) that are
+# not there (its bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(pinmora_options INTERFACE
-        -Wno-restrict -Wno-stringop-overflow -Wno-array-bounds)
+        "$<$<NOT:$<CONFIG:Debug>>:-Wno-restrict;-Wno-stringop-overflow;-Wno-array-bounds>")
 endif()
 target_compile_definitions(pinmora_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CONTEXTLESS_CONNECT QT_NO_KEYWORDS)

@@ -11,7 +11,7 @@ const EntityDescription &track_part_best::description() {
         "track_part_best", []() -> std::unique_ptr<Record> { return std::make_unique<P>(); },
         {
             toOne<&P::track, &P::setTrack, &P::track_, &P::link>("track"),
-            attribute<&P::time, &P::setTime, &P::time_>("time"),
+            attribute<&P::time, &P::setTimeWithDate, &P::time_>("time"),
             attribute<&P::lat, &P::setLat, &P::lat_>("lat"),
             attribute<&P::lon, &P::setLon, &P::lon_>("lon"),
             attribute<&P::alt, &P::setAlt, &P::alt_>("alt"),
