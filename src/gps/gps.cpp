@@ -1,11 +1,12 @@
 #include "gps/gps.h"
 
+#include "gps/import_telling.h"
 #include "gps/log_head.h"
+#include "platform/external_entity.h"
 #include "platform/text_encoding.h"
+#include "platform/zone_scope.h"
 
-#include <array>
 #include <string>
-#include <vector>
 
 namespace pinmora {
 
@@ -30,54 +31,85 @@ void Gps::beginLoad() {
 }
 
 LogReport Gps::loadLog(const std::filesystem::path &path) {
-    LogFile file;
+    InputFile file;
     if (const std::error_code reason = file.open(path)) {
         return reportUnreadable(path, reason);
     }
-    std::string bytes(logBlockSize, '\0');
+    std::string bytes(inputBlockSize, '\0');
     const auto firstBlock = file.read(bytes);
-    if (firstBlock && beginsWithXml(firstBlock->substr(0, logHeadSize), policyOf(reading_))) {
-        gpx_.elements().setInTrack(false);
-        gpx_.elements().setActiveLog(true);
-        return readGpx(file, *firstBlock, path);
-    }
-    if (firstBlock) {
-        bytes.resize(firstBlock->size());
-    }
-    if (!firstBlock || !file.readRest(bytes)) {
+    if (!firstBlock) {
         return reportUnreadable(path, file.lastFailure());
     }
-    const std::string text = utf8OrLatin1(std::move(bytes));
-    return readNmea(withoutByteOrderMark(text), path);
+    bytes.resize(firstBlock->size());
+    if (beginsWithXml(std::string_view(bytes).substr(0, logHeadSize), policyOf(reading_))) {
+        gpx_.elements().setInTrack(false);
+        gpx_.elements().setActiveLog(true);
+        return readGpx(file, std::move(bytes), path);
+    }
+    if (!file.readRest(bytes)) {
+        return reportUnreadable(path, file.lastFailure());
+    }
+    return readNmea(std::move(bytes), path);
 }
 
 LogReport Gps::parseXMLFile(const std::filesystem::path &path) {
-    LogFile file;
+    InputFile file;
     if (const std::error_code reason = file.open(path)) {
         return reportUnreadable(path, reason);
     }
     return readGpx(file, {}, path);
 }
 
+LogReport Gps::processNMEAData(std::string_view text) {
+    const ImportFacts facts = factsOf(ImportFacts::Format::Nmea, {});
+    const ImportTelling telling(journal_, facts);
+    LogReport report = nmea_.read(text, {}, reading_, std::chrono::year(facts.currentYear));
+    std::string bytes(text);
+    telling.give(bytes);
+    return report;
+}
+
 /// A system error within the file is a document that ends too early, and is told as such.
-LogReport Gps::readGpx(LogFile &file, std::string_view firstBlock,
-                       const std::filesystem::path &path) {
-    gpx_.begin(std::filesystem::absolute(path), reading_);
-    std::vector<char> buffer(logBlockSize);
-    bool wantsMore = gpx_.feed(firstBlock);
-    while (wantsMore) {
-        const auto block = file.read(buffer);
-        if (!block || block->empty()) {
+LogReport Gps::readGpx(InputFile &file, std::string firstBlock, const std::filesystem::path &path) {
+    const std::filesystem::path full = std::filesystem::absolute(path);
+    const ImportTelling telling(journal_, factsOf(ImportFacts::Format::Gpx, full));
+    const auto besideTheLog = [folder = full.parent_path()](std::string_view name) {
+        return readEntityBeside(folder, name);
+    };
+    gpx_.begin(full, reading_, telling.listenedTo(besideTheLog));
+    std::string block = std::move(firstBlock);
+    while (gpx_.feed(block)) {
+        telling.exchange(block);
+        const auto read = file.read(block);
+        block.resize(read ? read->size() : 0);
+        if (block.empty()) {
             break;
         }
-        wantsMore = gpx_.feed(*block);
     }
+    telling.give(block);
     return gpx_.finish();
 }
 
-LogReport Gps::readNmea(std::string_view text, const std::filesystem::path &path) {
-    return nmea_.read(text, path.empty() ? path : std::filesystem::absolute(path), reading_,
-                      currentYear());
+LogReport Gps::readNmea(std::string bytes, const std::filesystem::path &path) {
+    const ImportFacts facts = factsOf(ImportFacts::Format::Nmea, std::filesystem::absolute(path));
+    const ImportTelling telling(journal_, facts);
+    const std::string decoded = isUtf8(bytes) ? std::string() : utf8FromLatin1(bytes);
+    const std::string_view text = decoded.empty() ? bytes : decoded;
+    LogReport report = nmea_.read(withoutByteOrderMark(text), facts.path, reading_,
+                                  std::chrono::year(facts.currentYear));
+    telling.give(bytes);
+    return report;
+}
+
+ImportFacts Gps::factsOf(ImportFacts::Format format, const std::filesystem::path &path) const {
+    ImportFacts facts;
+    facts.format = format;
+    facts.path = path.native();
+    facts.reading = policyOf(reading_).name;
+    facts.zone = computerZone();
+    facts.currentYear = static_cast<int>(currentYear());
+    gpx_.elements().tell(facts);
+    return facts;
 }
 
 LogReport Gps::reportUnreadable(const std::filesystem::path &path, std::error_code reason) {

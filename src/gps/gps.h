@@ -1,10 +1,11 @@
 #pragma once
 
 #include "gps/gpx_reader.h"
-#include "gps/log_file.h"
 #include "gps/log_file_types.h"
 #include "gps/log_report.h"
 #include "gps/nmea_reader.h"
+#include "platform/input_file.h"
+#include "store/import_journal.h"
 
 #include <filesystem>
 #include <map>
@@ -15,7 +16,7 @@ namespace pinmora {
 
 /// Loads GPS logs into tracks. Everything runs at once on the calling thread; what is made stays in
 /// the context, whatever comes after it.
-class Gps {
+class Gps : public LogImporter {
 public:
     /// All three must outlive it.
     Gps(Context &context, ProgressSheet &progress, ErrorSheet &errors);
@@ -32,6 +33,9 @@ public:
     LogReading reading() const { return reading_; }
     void setReading(LogReading reading) { reading_ = reading; }
 
+    /// Who hears of the logs to come, so that they can be read again; null for nobody.
+    void setImportJournal(ImportJournal *journal) { journal_ = journal; }
+
     /// Starts a load of one or more files by a person's choice: a GPX file has not been seen yet.
     void beginLoad();
 
@@ -42,7 +46,11 @@ public:
     /// Reads a file with the GPX reader. The caller has set activeLog.
     LogReport parseXMLFile(const std::filesystem::path &path);
     /// Reads the text (UTF-8) of an NMEA log.
-    LogReport processNMEAData(std::string_view text) { return readNmea(text, {}); }
+    LogReport processNMEAData(std::string_view text);
+
+    /// Later imports count on behind this one.
+    void importAgain(Context &context, const ImportFacts &facts, Record *currentTrack,
+                     ImportSource &source) override;
 
     bool gpxFile() const { return gpx_.elements().gpxFile(); }
     bool activeLog() const { return gpx_.elements().activeLog(); }
@@ -52,15 +60,16 @@ public:
     int track_partCount() const { return gpx_.elements().track_partCount(); }
 
 private:
-    LogReport readGpx(LogFile &file, std::string_view firstBlock,
-                      const std::filesystem::path &path);
-    LogReport readNmea(std::string_view text, const std::filesystem::path &path);
+    LogReport readGpx(InputFile &file, std::string firstBlock, const std::filesystem::path &path);
+    LogReport readNmea(std::string bytes, const std::filesystem::path &path);
+    ImportFacts factsOf(ImportFacts::Format format, const std::filesystem::path &path) const;
     LogReport reportUnreadable(const std::filesystem::path &path, std::error_code reason);
 
     ErrorSheet &errors_;
     GpxReader gpx_;
     NmeaReader nmea_;
     LogReading reading_ = LogReading::Exact;
+    ImportJournal *journal_ = nullptr;
 };
 
 } // namespace pinmora

@@ -2,6 +2,9 @@
 
 #include "gps/iso_time.h"
 #include "store/calendar_formats.h"
+#include "store/track.h"
+
+#include <algorithm>
 
 namespace pinmora {
 
@@ -11,9 +14,37 @@ void GpxElements::beginDocument(LogReport &report, const XmlParser &parser) {
     zone_.emplace();
     openValues_ = 0;
     inTrack_ = false;
-    if (!writer_.stillHolds(currentTrack_, trackCount_, currentTrackLog_)) {
+    if (!hasCurrentTrack()) {
         currentTrack_ = nullptr;
     }
+}
+
+void GpxElements::tell(ImportFacts &facts) const {
+    facts.gpxFile = gpxFile_;
+    facts.activeLog = activeLog_;
+    facts.trackCount = trackCount_;
+    facts.track_partCount = track_partCount_;
+    facts.currentTrack = hasCurrentTrack() ? currentTrack_->serial() : 0;
+    facts.lat = currentTrackPos_.lat;
+    facts.lon = currentTrackPos_.lon;
+    facts.ele = currentTrackPos_.ele;
+    facts.time = currentTrackPos_.time;
+    facts.date = currentTrackPos_.date;
+}
+
+void GpxElements::restore(const ImportFacts &facts, track *currentTrack) {
+    gpxFile_ = facts.gpxFile;
+    activeLog_ = facts.activeLog;
+    trackCount_ = facts.trackCount;
+    track_partCount_ = facts.track_partCount;
+    currentTrack_ = currentTrack;
+    currentTrackLog_ = currentTrack ? currentTrack->log_path().string() : std::string();
+    currentTrackPos_ = {facts.lat, facts.lon, facts.ele, facts.time, facts.date};
+}
+
+void GpxElements::countOnFrom(const GpxElements &other) {
+    trackCount_ = std::max(trackCount_, other.trackCount_);
+    track_partCount_ = std::max(track_partCount_, other.track_partCount_);
 }
 
 void GpxElements::didStartElement(std::string_view name, const char *const *attributes) {

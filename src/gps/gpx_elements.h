@@ -2,7 +2,8 @@
 
 #include "gps/log_report.h"
 #include "gps/track_writer.h"
-#include "gps/xml_parser.h"
+#include "platform/xml_parser.h"
+#include "store/import_journal.h"
 
 #include <filesystem>
 #include <optional>
@@ -41,6 +42,13 @@ public:
     int trackCount() const { return trackCount_; }
     int track_partCount() const { return track_partCount_; }
 
+    /// Adds to `facts` what the next document depends on.
+    void tell(ImportFacts &facts) const;
+    /// Takes over what a reader once told; `currentTrack` is the record of that serial.
+    void restore(const ImportFacts &facts, track *currentTrack);
+    /// Has counting go on behind what `other` has counted.
+    void countOnFrom(const GpxElements &other);
+
 private:
     /// The point being read. A text without a value has not been found yet.
     struct TrackPos {
@@ -56,6 +64,9 @@ private:
     void keepTime();
     void finishPoint();
     std::optional<Date> toTime(std::string_view text);
+    bool hasCurrentTrack() const {
+        return writer_.stillHolds(currentTrack_, trackCount_, currentTrackLog_);
+    }
     void setText() { currentStringValue_.emplace(); }
     void releaseText() { currentStringValue_.reset(); }
 

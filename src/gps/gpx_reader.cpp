@@ -7,11 +7,12 @@ namespace pinmora {
 GpxReader::GpxReader(Context &context, ProgressSheet &progress, ErrorSheet &errors)
     : progress_(progress), errors_(errors), elements_(context) {}
 
-void GpxReader::begin(const std::filesystem::path &path, LogReading reading) {
+void GpxReader::begin(const std::filesystem::path &path, LogReading reading,
+                      EntityReader readEntity) {
     report_ = {};
     report_.path = path;
     report_.reading = reading;
-    gpsParser_.emplace(elements_, path.empty() ? std::nullopt : std::optional(path.parent_path()));
+    gpsParser_.emplace(elements_, std::move(readEntity));
     elements_.beginDocument(report_, *gpsParser_);
     head_.clear();
     started_ = policyOf(reading).xmlNeedsDeclaration;

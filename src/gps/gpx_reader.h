@@ -20,8 +20,9 @@ class GpxReader {
 public:
     GpxReader(Context &context, ProgressSheet &progress, ErrorSheet &errors);
 
-    /// `path` is the full path of the document; empty for one that is no file.
-    void begin(const std::filesystem::path &path, LogReading reading);
+    /// `path` is the full path of the document; empty for one that is no file. `readEntity` gives
+    /// what the document may bring in from outside.
+    void begin(const std::filesystem::path &path, LogReading reading, EntityReader readEntity = {});
     /// False when the document is malformed: nothing more is read.
     bool feed(std::string_view bytes);
     LogReport finish();

@@ -1,5 +1,7 @@
 #include "gps/iso_time.h"
 
+#include "platform/number_text.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -65,14 +67,6 @@ private:
     std::string_view rest_;
     bool ok_ = true;
 };
-
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\r\n";
-    const std::size_t begin = text.find_first_not_of(blanks);
-    return begin == std::string_view::npos
-               ? std::string_view()
-               : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
-}
 
 using std::chrono::days;
 using std::chrono::sys_days;

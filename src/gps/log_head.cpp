@@ -1,6 +1,6 @@
 #include "gps/log_head.h"
 
-#include "gps/log_file.h"
+#include "platform/input_file.h"
 #include "platform/text_encoding.h"
 
 #include <array>
@@ -75,11 +75,11 @@ bool beginsWithXml(std::string_view head, const ReadingPolicy &policy) {
 }
 
 bool looksLikeLog(const std::filesystem::path &path, LogReading reading) {
-    LogFile file;
+    InputFile file;
     if (file.open(path)) {
         return true;
     }
-    std::array<char, logBlockSize> buffer;
+    std::array<char, inputBlockSize> buffer;
     std::optional<std::string_view> block = file.read(buffer);
     if (!block || beginsWithXml(block->substr(0, logHeadSize), policyOf(reading))) {
         return true;

@@ -7,8 +7,18 @@
 
 namespace pinmora {
 
+class EntityDescription;
+
 /// How a to-many set is about to change.
 enum class SetMutation { Union = 1, Minus = 2 };
+
+/// What an observer wants to hear of. To be told of values that nobody looks at costs an import of
+/// a million points more than reading them.
+struct Interest {
+    const EntityDescription *entity = nullptr; ///< whose records; null: all
+    bool values = true;                        ///< also of their values, not only come and go
+    bool access = false;                       ///< also of every reading of a value
+};
 
 /// Hears of every change in a context. The calls come in pairs around the change, so that a
 /// listener can look at the value before and after; keys that depend on the changed one follow

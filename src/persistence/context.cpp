@@ -1,8 +1,9 @@
 #include "persistence/context.h"
 
 #include "persistence/record.h"
+#include "persistence/undo_manager.h"
 
-#include <algorithm>
+#include <cassert>
 
 namespace pinmora {
 
@@ -13,12 +14,22 @@ Context::Context(const Model &model) : model_(model) {
 }
 
 Context::~Context() {
+    clear();
+}
+
+void Context::clear() {
+    if (undoManager_) {
+        undoManager_->removeAllActions();
+    }
     for (InsertionList &list : lists_) {
         while (Record *record = list.first()) {
             list.remove(*record);
             delete record;
         }
     }
+    deleted_.clear();
+    inserted_ = updated_ = deletedSinceCommit_ = 0;
+    nextSerial_ = 1;
 }
 
 InsertionList &Context::listOf(const EntityDescription &entity) {
@@ -42,15 +53,33 @@ Record &Context::insertNewObjectForEntityForName(std::string_view name) {
     return reference;
 }
 
+void Context::enter(Record &record, InsertionList &list, std::uint32_t serial) {
+    assert(serial >= nextSerial_);
+    record.context_ = this;
+    record.serial_ = serial;
+    nextSerial_ = serial + 1;
+    list.append(record);
+}
+
 void Context::adopt(std::unique_ptr<Record> record, InsertionList &list) {
     Record &adopted = *record.release();
-    adopted.context_ = this;
+    enter(adopted, list, nextSerial_);
     adopted.state_ = RecordState::Inserted;
-    list.append(adopted);
     ++inserted_;
-    if (isObserved()) {
-        tell([&](ChangeObserver &observer) { observer.didInsert(adopted); });
+    if (undoManager_) {
+        undoManager_->didInsert(adopted);
+        adopted.unheard_ = adopted.fresh_ && !isHeard(adopted.entity(), About::Values);
     }
+    tell(adopted.entity(), About::Life,
+         [&](ChangeObserver &observer) { observer.didInsert(adopted); });
+}
+
+Record &Context::insertStored(const EntityDescription &entity, std::uint32_t serial) {
+    Record &record = *entity.make().release();
+    enter(record, listOf(entity), serial);
+    tell(record.entity(), About::Life,
+         [&](ChangeObserver &observer) { observer.didInsert(record); });
+    return record;
 }
 
 RecordList Context::fetch(std::string_view entityName) const {
@@ -63,17 +92,10 @@ RecordList Context::fetch(std::string_view entityName) const {
     return records;
 }
 
-RecordList Context::deletedObjects() const {
-    RecordList records;
-    for (const Deleted &entry : deleted_) {
-        if (entry.knownToCommit) {
-            records.push_back(entry.record.get());
-        }
-    }
-    return records;
-}
-
 void Context::commitChanges() {
+    if (undoManager_) {
+        undoManager_->closeStep();
+    }
     for (const InsertionList &list : lists_) {
         for (Record *record = list.first(); record; record = InsertionList::next(*record)) {
             record->state_ = RecordState::Clean;
@@ -81,18 +103,7 @@ void Context::commitChanges() {
     }
     deleted_.clear();
     inserted_ = updated_ = deletedSinceCommit_ = 0;
-}
-
-RecordList Context::inState(RecordState state) const {
-    RecordList records;
-    for (const InsertionList &list : lists_) {
-        for (Record *record = list.first(); record; record = InsertionList::next(*record)) {
-            if (record->state_ == state) {
-                records.push_back(record);
-            }
-        }
-    }
-    return records;
+    ++commitCount_;
 }
 
 } // namespace pinmora

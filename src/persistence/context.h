@@ -4,6 +4,7 @@
 #include "persistence/entity_description.h"
 #include "persistence/insertion_list.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -13,8 +14,11 @@
 
 namespace pinmora {
 
+class UndoManager;
+struct ValueChange;
+
 /// Where a record stands against the last commit.
-enum class RecordState : std::uint8_t { Clean, Inserted, Updated, Deleted };
+enum class RecordState : std::uint8_t { Clean, Inserted, Updated };
 
 /// The records of one entity in the order of insertion, walked without a list of their own. Good
 /// until the next insertion or deletion.
@@ -46,8 +50,9 @@ private:
 
 /// Owns all records, knows what has changed since the last commit, and tells its observers.
 ///
-/// One thread only. References to records stay good until the commit after their deletion (or the
-/// end of the context). Observers are not owned and must unregister before they go.
+/// One thread only. References to deleted records stay good while the undo history knows them, or
+/// without one until the next commit. Observers are not owned and must unregister before they go.
+/// The records of an entity stand in the order of their serials.
 class Context {
 public:
     /// The model must outlive the context.
@@ -73,6 +78,31 @@ public:
     /// to records that stay are ended at both ends; those among the deleted are left as they are.
     void deleteObject(Record &record);
 
+    /// A record as a file holds it: saved, and nothing to take back. Serials must rise.
+    Record &insertStored(const EntityDescription &entity, std::uint32_t serial);
+    /// Destroys all records and forgets all changes: what a read that failed has left.
+    void clear();
+
+    /// Takes records out and keeps them, without regard to delete rules, as a part of the step
+    /// under way. Links to those that stay are ended, which is registered as well.
+    void withdraw(const RecordList &records);
+    /// Puts back what was taken out within the step under way: in the reverse order.
+    void putBack(Record &record);
+
+    /// What undo stands on; nothing is registered. takeOut() returns the links to records that
+    /// stay, which it has ended; putIn() wants the reverse order and the commitCount() of the
+    /// taking out.
+    std::vector<ValueChange> takeOut(const RecordList &records);
+    void putIn(Record &record, std::uint32_t takenOutAt);
+
+    /// Writes a to-one link and keeps the set at the other end in step; both ends give notice.
+    void writeLink(Record &one, const Property &toOne, Record *target);
+
+    /// The serial that the next record gets.
+    std::uint32_t nextSerial() const { return nextSerial_; }
+    /// Skips to a higher one.
+    void setNextSerial(std::uint32_t serial) { nextSerial_ = std::max(nextSerial_, serial); }
+
     /// The records of an entity in the order of insertion.
     RecordList fetch(std::string_view entityName) const;
     template <class R>
@@ -94,12 +124,14 @@ public:
     }
 
     bool hasChanges() const { return inserted_ + updated_ + deletedSinceCommit_ > 0; }
-    RecordList insertedObjects() const { return inState(RecordState::Inserted); }
-    RecordList updatedObjects() const { return inState(RecordState::Updated); }
-    /// The deleted records that the last commit knew.
-    RecordList deletedObjects() const;
-    /// Takes the present state as the saved one; deleted records are destroyed.
+    /// Takes the present state as the saved one. Deleted records are destroyed unless the undo
+    /// history still needs them.
     void commitChanges();
+    /// How often that has been done.
+    std::uint32_t commitCount() const { return commitCount_; }
+
+    /// Null when nothing can be taken back.
+    UndoManager *undoManager() const { return undoManager_; }
 
     /// Has half-typed input taken over, by whoever holds some; false when that refuses.
     bool commitEditing() { return !endEditing_ || endEditing_(); }
@@ -107,73 +139,81 @@ public:
 
     /// Observers may come and go also while they are told: one that is added hears the next notice,
     /// one that is removed hears no more.
-    void addObserver(ChangeObserver &observer) { observers_.push_back(&observer); }
+    void addObserver(ChangeObserver &observer, Interest interest = {});
     void removeObserver(ChangeObserver &observer);
     bool isObserved() const { return !observers_.empty(); }
 
     void willAccess(const Record &record, std::string_view key) const {
-        if (isObserved()) {
+        if (accessHeard_) {
             tellAccess(record, key, &ChangeObserver::willAccess);
         }
     }
     void didAccess(const Record &record, std::string_view key) const {
-        if (isObserved()) {
+        if (accessHeard_) {
             tellAccess(record, key, &ChangeObserver::didAccess);
         }
     }
-    void willChange(Record &record, std::string_view key) {
-        if (isObserved()) {
-            tellWillChange(record, key);
-        }
-    }
-    void didChange(Record &record, std::string_view key);
+    void willChange(Record &, std::string_view key);
+    void didChange(Record &, std::string_view key);
     void willMutateSet(Record &, std::string_view key, SetMutation, std::span<Record *const>);
     void didMutateSet(Record &, std::string_view key, SetMutation, std::span<Record *const>);
 
 private:
-    struct Deleted {
-        std::unique_ptr<Record> record;
-        bool knownToCommit;
-    };
+    friend class UndoManager;
 
     InsertionList &listOf(const EntityDescription &entity);
     const InsertionList &listOf(const EntityDescription &entity) const;
     void adopt(std::unique_ptr<Record> record, InsertionList &list);
+    void enter(Record &record, InsertionList &list, std::uint32_t serial);
     void collectDoomed(Record &record, RecordList &doomed);
     void endRelationships(Record &record);
     void endOneWayRelationships();
     void discard(Record &record);
     void markUpdated(Record &record);
-    RecordList inState(RecordState state) const;
+    void removeDoomed(const RecordList &doomed);
+    void leave(Record &record);
+    enum class About { Life, Values, Access };
+    bool isHeard(const EntityDescription &entity, About about) const;
     template <class Notice>
-    void tell(Notice notice) const;
+    void tell(const EntityDescription &entity, About about, Notice notice) const;
     void tellAccess(const Record &, std::string_view key,
                     void (ChangeObserver::*notice)(const Record &, std::string_view)) const;
-    void tellWillChange(Record &, std::string_view key);
-    void tellDidChange(Record &, std::string_view key);
+    struct Listening {
+        ChangeObserver *observer; ///< null: removed while being told
+        Interest interest;
+        bool wants(const EntityDescription &entity, About about) const {
+            return observer && (!interest.entity || interest.entity == &entity) &&
+                   (about == About::Life ||
+                    (about == About::Values ? interest.values : interest.access));
+        }
+    };
 
     const Model &model_;
-    std::vector<InsertionList> lists_; ///< one per entity of the model
-    std::vector<Deleted> deleted_;
-    mutable std::vector<ChangeObserver *> observers_; ///< null: removed while being told
-    mutable int telling_ = 0;                         ///< notices under way, one in another
+    std::vector<InsertionList> lists_;             ///< one per entity of the model
+    std::vector<std::unique_ptr<Record>> deleted_; ///< those that no undo history keeps
+    mutable std::vector<Listening> observers_;
+    mutable int telling_ = 0;  ///< notices under way, one in another
+    bool accessHeard_ = false; ///< whether an observer wants to hear of readings
     std::function<bool()> endEditing_;
     std::size_t inserted_ = 0;
     std::size_t updated_ = 0;
-    std::size_t deletedSinceCommit_ = 0;
+    std::size_t deletedSinceCommit_ = 0; ///< of the records that the last commit knew
+    std::uint32_t commitCount_ = 0;
+    std::uint32_t nextSerial_ = 1;
+    UndoManager *undoManager_ = nullptr;
 };
 
 template <class Notice>
-void Context::tell(Notice notice) const {
+void Context::tell(const EntityDescription &entity, About about, Notice notice) const {
     ++telling_;
     const std::size_t present = observers_.size();
     for (std::size_t i = 0; i < present; ++i) {
-        if (ChangeObserver *observer = observers_[i]) {
-            notice(*observer);
+        if (observers_[i].wants(entity, about)) {
+            notice(*observers_[i].observer);
         }
     }
     if (--telling_ == 0) {
-        std::erase(observers_, nullptr);
+        std::erase_if(observers_, [](const Listening &one) { return !one.observer; });
     }
 }
 

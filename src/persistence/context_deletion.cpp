@@ -1,21 +1,10 @@
 #include "persistence/context.h"
 #include "persistence/record.h"
+#include "persistence/undo_manager.h"
+
+#include <cassert>
 
 namespace pinmora {
-
-namespace {
-
-/// The records at the other end of a relationship.
-RecordList othersOf(const Record &record, const Property &relationship) {
-    const Value value = relationship.primitive(record);
-    if (relationship.kind == Property::Kind::ToMany) {
-        return value.toRecordList();
-    }
-    Record *other = value.toRecord();
-    return other ? RecordList{other} : RecordList{};
-}
-
-} // namespace
 
 void Context::deleteObject(Record &record) {
     if (record.context_ != this) {
@@ -23,17 +12,14 @@ void Context::deleteObject(Record &record) {
     }
     RecordList doomed;
     collectDoomed(record, doomed);
-    for (Record *victim : doomed) {
-        tell([&](ChangeObserver &observer) { observer.willDelete(*victim); });
+    removeDoomed(doomed);
+}
+
+void Context::withdraw(const RecordList &records) {
+    for (Record *record : records) {
+        record->doomed_ = true;
     }
-    for (Record *victim : doomed) {
-        endRelationships(*victim);
-    }
-    endOneWayRelationships();
-    for (Record *victim : doomed) {
-        discard(*victim);
-        tell([&](ChangeObserver &observer) { observer.didDelete(*victim); });
-    }
+    removeDoomed(records);
 }
 
 void Context::collectDoomed(Record &record, RecordList &doomed) {
@@ -43,39 +29,49 @@ void Context::collectDoomed(Record &record, RecordList &doomed) {
     record.doomed_ = true;
     doomed.push_back(&record);
     for (const Property &property : record.entity().properties()) {
-        if (property.isRelationship() && property.deleteRule == DeleteRule::Cascade) {
-            for (Record *other : othersOf(record, property)) {
+        if (property.deleteRule != DeleteRule::Cascade) {
+            continue;
+        }
+        if (property.kind == Property::Kind::ToMany) {
+            for (Record *other : property.primitive(record).toRecordList()) {
                 collectDoomed(*other, doomed);
             }
+        } else if (Record *other = property.primitive(record).toRecord()) {
+            collectDoomed(*other, doomed);
         }
     }
 }
 
+void Context::removeDoomed(const RecordList &doomed) {
+    for (Record *victim : doomed) {
+        tell(victim->entity(), About::Life,
+             [&](ChangeObserver &observer) { observer.willDelete(*victim); });
+    }
+    for (Record *victim : doomed) {
+        endRelationships(*victim);
+    }
+    endOneWayRelationships();
+    for (Record *victim : doomed) {
+        discard(*victim);
+        tell(victim->entity(), About::Life,
+             [&](ChangeObserver &observer) { observer.didDelete(*victim); });
+    }
+}
+
+/// Ends the links between a doomed record and those that stay, at the end that holds them.
 void Context::endRelationships(Record &record) {
     for (const Property &property : record.entity().properties()) {
-        if (!property.isRelationship()) {
-            continue;
-        }
-        for (Record *other : othersOf(record, property)) {
-            if (other->doomed_) {
-                continue;
+        if (property.kind == Property::Kind::ToOne) {
+            const Record *other = property.primitive(record).toRecord();
+            if (other && !other->doomed_) {
+                writeLink(record, property, nullptr);
             }
-            // The to-one end holds the link; writing it keeps the set at the other end in step.
-            const bool holdsLink = property.kind == Property::Kind::ToOne;
-            Record &one = holdsLink ? record : *other;
-            Record &many = holdsLink ? *other : record;
-            const std::string_view oneKey = holdsLink ? property.name : property.inverse;
-            const std::string_view manyKey = holdsLink ? property.inverse : property.name;
-            Record *const member = &one;
-            one.willChangeValueForKey(oneKey);
-            if (!manyKey.empty()) {
-                many.willChangeValueForKey(manyKey, SetMutation::Minus, {&member, 1});
+        } else if (property.kind == Property::Kind::ToMany) {
+            for (Record *other : property.primitive(record).toRecordList()) {
+                if (!other->doomed_) {
+                    writeLink(*other, other->entity().property(property.inverse), nullptr);
+                }
             }
-            one.setPrimitiveValue({}, oneKey);
-            if (!manyKey.empty()) {
-                many.didChangeValueForKey(manyKey, SetMutation::Minus, {&member, 1});
-            }
-            one.didChangeValueForKey(oneKey);
         }
     }
 }
@@ -91,28 +87,122 @@ void Context::endOneWayRelationships() {
             for (Record *record = list.first(); record; record = InsertionList::next(*record)) {
                 const Record *target = property.primitive(*record).toRecord();
                 if (target && target->doomed_ && !record->doomed_) {
-                    record->willChangeValueForKey(property.name);
-                    property.setPrimitive(*record, {});
-                    record->didChangeValueForKey(property.name);
+                    writeLink(*record, property, nullptr);
                 }
             }
         }
     }
 }
 
-void Context::discard(Record &record) {
-    const bool knownToCommit = record.state_ != RecordState::Inserted;
-    if (record.state_ == RecordState::Inserted) {
-        --inserted_;
-    } else if (record.state_ == RecordState::Updated) {
-        --updated_;
+void Context::writeLink(Record &one, const Property &toOne, Record *target) {
+    Record *const old = toOne.primitive(one).toRecord();
+    if (old == target) {
+        return;
     }
-    deletedSinceCommit_ += knownToCommit ? 1 : 0;
+    const std::string_view inverse = toOne.inverse;
+    Record *const member = &one;
+    one.willChangeValueForKey(toOne.name);
+    if (old && !inverse.empty()) {
+        old->willChangeValueForKey(inverse, SetMutation::Minus, {&member, 1});
+    }
+    if (target && !inverse.empty()) {
+        target->willChangeValueForKey(inverse, SetMutation::Union, {&member, 1});
+    }
+    toOne.setPrimitive(one, Value(target));
+    if (target && !inverse.empty()) {
+        target->didChangeValueForKey(inverse, SetMutation::Union, {&member, 1});
+    }
+    if (old && !inverse.empty()) {
+        old->didChangeValueForKey(inverse, SetMutation::Minus, {&member, 1});
+    }
+    one.didChangeValueForKey(toOne.name);
+}
+
+/// Takes a record out of its list and out of what counts as changed.
+void Context::leave(Record &record) {
+    switch (record.state_) {
+    case RecordState::Inserted:
+        --inserted_;
+        break;
+    case RecordState::Updated:
+        --updated_;
+        ++deletedSinceCommit_;
+        break;
+    case RecordState::Clean:
+        ++deletedSinceCommit_;
+        break;
+    }
     listOf(record.entity()).remove(record);
     record.doomed_ = false;
-    record.state_ = RecordState::Deleted;
+    record.outside_ = true;
     record.context_ = nullptr;
-    deleted_.push_back({std::unique_ptr<Record>(&record), knownToCommit});
+}
+
+/// The history may stand on a record that goes without being registered, so it goes with it.
+void Context::discard(Record &record) {
+    leave(record);
+    if (undoManager_ && record.entity().isStored()) {
+        if (!undoManager_->registers()) {
+            undoManager_->removeAllActions();
+        }
+        undoManager_->didDelete(record);
+        if (undoManager_->registers()) {
+            return;
+        }
+    }
+    deleted_.emplace_back(&record);
+}
+
+std::vector<ValueChange> Context::takeOut(const RecordList &records) {
+    std::vector<ValueChange> severed;
+    for (Record *record : records) {
+        record->doomed_ = true;
+    }
+    for (Record *record : records) {
+        for (const Property &property : record->entity().properties()) {
+            if (property.kind != Property::Kind::ToOne) {
+                continue;
+            }
+            Record *const target = property.primitive(*record).toRecord();
+            if (target && !target->doomed_) {
+                severed.push_back({record, &property, Value(target), record->changeMark()});
+                writeLink(*record, property, nullptr);
+            }
+        }
+    }
+    for (Record *record : records) {
+        tell(record->entity(), About::Life,
+             [&](ChangeObserver &observer) { observer.willDelete(*record); });
+        leave(*record);
+        tell(record->entity(), About::Life,
+             [&](ChangeObserver &observer) { observer.didDelete(*record); });
+    }
+    return severed;
+}
+
+void Context::putIn(Record &record, std::uint32_t takenOutAt) {
+    if (takenOutAt != commitCount_) {
+        record.state_ = RecordState::Inserted; // that commit saved a library without it
+    } else if (record.state_ != RecordState::Inserted) {
+        --deletedSinceCommit_;
+    }
+    if (record.state_ == RecordState::Clean) {
+        record.state_ = RecordState::Updated;
+    }
+    (record.state_ == RecordState::Inserted ? inserted_ : updated_) += 1;
+    record.outside_ = false;
+    record.context_ = this;
+    listOf(record.entity()).putBack(record);
+    tell(record.entity(), About::Life,
+         [&](ChangeObserver &observer) { observer.didInsert(record); });
+}
+
+void Context::putBack(Record &record) {
+    putIn(record, commitCount_);
+    if (undoManager_) {
+        undoManager_->didInsert(record);
+        record.fresh_ = false;
+    }
 }
 
 } // namespace pinmora

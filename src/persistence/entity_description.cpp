@@ -7,8 +7,8 @@
 namespace pinmora {
 
 EntityDescription::EntityDescription(std::string_view name, Factory factory,
-                                     std::vector<Property> properties)
-    : name_(name), factory_(factory), properties_(std::move(properties)) {}
+                                     std::vector<Property> properties, Lifetime lifetime)
+    : name_(name), factory_(factory), properties_(std::move(properties)), lifetime_(lifetime) {}
 
 std::unique_ptr<Record> EntityDescription::make() const {
     return factory_();

@@ -11,6 +11,7 @@
 
 namespace pinmora {
 
+class EntityDescription;
 class Record;
 
 /// How an attribute's value is stored.
@@ -33,9 +34,10 @@ struct Property {
 
     std::string_view name;
     Kind kind = Kind::Attribute;
-    ValueType type = ValueType::String;          ///< attributes only
-    std::string_view inverse = {};               ///< relationships: the key at the other end
-    DeleteRule deleteRule = DeleteRule::Nullify; ///< relationships
+    ValueType type = ValueType::String;             ///< attributes only
+    std::string_view inverse = {};                  ///< relationships: the key at the other end
+    DeleteRule deleteRule = DeleteRule::Nullify;    ///< relationships
+    const EntityDescription &(*target)() = nullptr; ///< to-one: the entity at the other end
     Value (*get)(const Record &) = nullptr;
     void (*set)(Record &, Value) = nullptr;
     Value (*primitive)(const Record &) = nullptr;
@@ -53,15 +55,21 @@ public:
         : std::logic_error("no such key: " + std::string(entity) + "." + std::string(key)) {}
 };
 
+/// Where an entity's records live: in the library, with everything that keeps a person's work (the
+/// file, undo, recovery), or in memory only, for what the program shows at the moment.
+enum class Lifetime { Library, Memory };
+
 /// The one table that says what a record class holds. Access by key, change notices and the file
 /// format all come from it.
 class EntityDescription {
 public:
     using Factory = std::unique_ptr<Record> (*)();
 
-    EntityDescription(std::string_view name, Factory factory, std::vector<Property> properties);
+    EntityDescription(std::string_view name, Factory factory, std::vector<Property> properties,
+                      Lifetime lifetime = Lifetime::Library);
 
     std::string_view name() const { return name_; }
+    bool isStored() const { return lifetime_ == Lifetime::Library; }
     std::unique_ptr<Record> make() const;
     const std::vector<Property> &properties() const { return properties_; }
 
@@ -77,6 +85,7 @@ private:
     std::string_view name_;
     Factory factory_;
     std::vector<Property> properties_;
+    Lifetime lifetime_;
 };
 
 /// The entities that a context can hold.

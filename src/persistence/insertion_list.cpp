@@ -19,8 +19,16 @@ void InsertionList::append(Record &record) {
 void InsertionList::remove(Record &record) {
     (record.previous_ ? record.previous_->next_ : first_) = record.next_;
     (record.next_ ? record.next_->previous_ : last_) = record.previous_;
-    record.previous_ = record.next_ = nullptr;
+    record.next_ = nullptr;
     --size_;
+}
+
+void InsertionList::putBack(Record &record) {
+    Record *&link = record.previous_ ? record.previous_->next_ : first_;
+    record.next_ = link;
+    link = &record;
+    (record.next_ ? record.next_->previous_ : last_) = &record;
+    ++size_;
 }
 
 } // namespace pinmora

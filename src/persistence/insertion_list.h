@@ -19,7 +19,11 @@ public:
     static Record *next(const Record &record);
 
     void append(Record &record);
+    /// A record that is taken out remembers the one before it.
     void remove(Record &record);
+    /// Puts a record back where it was. The one before it then must be in the list: records are put
+    /// back in the reverse order of their removal.
+    void putBack(Record &record);
 
 private:
     const EntityDescription *entity_;

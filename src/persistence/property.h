@@ -119,6 +119,8 @@ Property toOne(std::string_view name, std::string_view inverse = {}) {
     return {.name = name,
             .kind = Property::Kind::ToOne,
             .inverse = inverse,
+            .target =
+                std::remove_pointer_t<typename detail::Member<decltype(Field)>::Type>::description,
             .get = detail::get<Getter>,
             .set = detail::set<Setter>,
             .primitive = detail::rawGet<Field>,

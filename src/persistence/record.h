@@ -4,6 +4,7 @@
 #include "persistence/context.h"
 #include "persistence/entity_description.h"
 
+#include <cstdint>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -24,6 +25,9 @@ public:
 
     virtual const EntityDescription &entity() const = 0;
     Context *context() const { return context_; }
+    /// The record's number in its context: 1 for the first, higher than all before it, its own also
+    /// in the file and while it is outside the context.
+    std::uint32_t serial() const { return serial_; }
 
     /// Reads by key, through the class's own getter. Throws UnknownKeyError.
     Value valueForKey(std::string_view key) const;
@@ -68,9 +72,18 @@ public:
         }
     }
 
-    bool isInserted() const { return state_ == RecordState::Inserted; }
-    bool isUpdated() const { return state_ == RecordState::Updated; }
-    bool isDeleted() const { return state_ == RecordState::Deleted; }
+    /// What else an edit changes about a record in memory: it is taken back together with the edit.
+    virtual std::uint8_t changeMark() const { return 0; }
+    virtual void setChangeMark(std::uint8_t /*mark*/) {}
+
+    /// What the recovery file holds of the record.
+    enum class InRecovery : std::uint8_t { Unknown, Present, Removed };
+    InRecovery inRecovery() const { return inRecovery_; }
+    void setInRecovery(InRecovery in) { inRecovery_ = in; }
+
+    bool isInserted() const { return !outside_ && state_ == RecordState::Inserted; }
+    bool isUpdated() const { return !outside_ && state_ == RecordState::Updated; }
+    bool isDeleted() const { return outside_; }
 
 protected:
     /// What every plain getter does: a raw read between access notices.
@@ -91,12 +104,18 @@ protected:
 private:
     friend class Context;
     friend class InsertionList;
+    friend class UndoManager;
 
     Context *context_ = nullptr;
     Record *previous_ = nullptr; ///< neighbours in the order of insertion
     Record *next_ = nullptr;
-    RecordState state_ = RecordState::Clean;
-    bool doomed_ = false; ///< part of the deletion under way
+    std::uint32_t serial_ = 0;
+    RecordState state_ = RecordState::Clean; ///< outside the context: what it was inside
+    bool outside_ = false;                   ///< taken out of the context
+    bool doomed_ = false;                    ///< part of the deletion under way
+    bool fresh_ = false;   ///< came in within this part of a step: its values need no registering
+    bool unheard_ = false; ///< fresh, and nobody wants to hear of its values
+    InRecovery inRecovery_ = InRecovery::Unknown;
 };
 
 } // namespace pinmora

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,14 @@ double leadingDouble(std::string_view text);
 
 /// The whole number that a text begins with, read likewise; out of range gives the nearest limit.
 int leadingInt(std::string_view text);
+
+/// The text without the white space around it.
+std::string_view trimmed(std::string_view text);
+
+/// A trimmed text that is a number as a whole: digits with at most one decimal point and perhaps a
+/// sign before them ("-33.8568"), no exponent, no other decimal sign. Nothing when it is anything
+/// else.
+std::optional<double> plainDecimal(std::string_view text);
 
 /// A number as plain decimal text: at most `maxDecimals` decimals, zeros at the end trimmed, never
 /// an exponent ("47.3825", "8.5", "-12"; a rounded zero is "0"). Not finite gives "".

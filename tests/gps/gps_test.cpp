@@ -143,9 +143,9 @@ void GpsTest::whatLooksLikeALog_data() {
     row("any sentence", "# head\n\n$PMGNTRK", true, true);
     row("after a carriage return", "# head\r$GP", true, true);
     row("after a mark", "\xEF\xBB\xBF$GP", true, true);
-    row("at the start of a block", std::string(logBlockSize - 1, 'x') + "\n$", true, true);
+    row("at the start of a block", std::string(inputBlockSize - 1, 'x') + "\n$", true, true);
     row("within a line", "cost: $5\n $GP", false, false);
-    row("within a line over two blocks", std::string(logBlockSize, 'x') + "$", false, false);
+    row("within a line over two blocks", std::string(inputBlockSize, 'x') + "$", false, false);
     row("prose", "Dear diary,\n", false, false);
     row("empty", "", false, false);
 }
@@ -164,7 +164,7 @@ void GpsTest::logsLargerThanABlock() {
     std::string gpx = "<?xml version=\"1.0\"?><gpx><trkseg>";
     std::string nmea;
     std::size_t points = 0;
-    for (; gpx.size() < 3 * logBlockSize || nmea.size() < 3 * logBlockSize; ++points) {
+    for (; gpx.size() < 3 * inputBlockSize || nmea.size() < 3 * inputBlockSize; ++points) {
         gpx += "<trkpt lat='1' lon='2'><time>2008-06-01T09:30:00Z</time></trkpt>\n";
         nmea += "$GPGGA," + std::to_string(points) + ",4807.038,N,01131.000,E,1,08,0.9,545.4,M\n";
     }

@@ -1,4 +1,4 @@
-#include "gps/external_entity.h"
+#include "platform/external_entity.h"
 #include "gps/log_desk.h"
 
 #include <QtTest>

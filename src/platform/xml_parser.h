@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,17 +22,20 @@ public:
     virtual void didEndElement(std::string_view name) = 0;
 };
 
+/// Gives the bytes of an external entity by its system identifier; nothing where there is none, or
+/// where it may not be had.
+using EntityReader = std::function<std::optional<std::string>(std::string_view systemId)>;
+
 /// A streaming XML parser: Expat, with the single-byte encodings that it does not know itself.
 ///
-/// External entities are read as small regular files beside the document and from nowhere else; a
-/// document that asks for another one is malformed. An external DTD is not read; a document that
+/// External entities come from an EntityReader and from nowhere else; a document that asks for one
+/// that it does not give is malformed. An external DTD is not read; a document that
 /// uses what only the DTD explains is malformed, one that merely names it is not. Expat's limits
 /// against the expansion of entities into entities are in force.
 class XmlParser {
 public:
-    /// `folder` is where the document lies; nothing for one that is no file, which then has no
-    /// external entities. `events` must outlive the parser.
-    XmlParser(XmlEvents &events, std::optional<std::filesystem::path> folder);
+    /// Without a reader a document has no external entities. `events` must outlive the parser.
+    explicit XmlParser(XmlEvents &events, EntityReader readEntity = {});
 
     /// Tells the encoding, whatever the document says of itself; before the first bytes.
     void setEncoding(const char *name);
@@ -40,6 +43,13 @@ public:
     /// Takes the next bytes, with `isLast` the last ones; false when the document is malformed, and
     /// from then on.
     bool parse(std::string_view bytes, bool isLast);
+
+    /// Within an event: ends the parsing, and has parse() say false. Events that have begun may
+    /// still come to their end.
+    void stop();
+
+    /// What parse() found malformed, in a few words; "parsing aborted" after stop().
+    std::string fault() const;
 
     /// The line that is being parsed, from 1. Costs a walk over what has come since the last call.
     std::size_t line() const;
@@ -53,7 +63,7 @@ private:
     };
 
     XmlEvents &events_;
-    std::optional<std::filesystem::path> folder_;
+    EntityReader readEntity_;
     std::unique_ptr<XML_ParserStruct, Freer> parser_;
     std::optional<std::string> externalSubset_; ///< system identifier of the external DTD, if any
     std::size_t skippedLines_ = 0;

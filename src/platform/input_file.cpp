@@ -1,11 +1,11 @@
-#include "gps/log_file.h"
+#include "platform/input_file.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 
 namespace pinmora {
 
-std::error_code LogFile::open(const std::filesystem::path &path, int flags) {
+std::error_code InputFile::open(const std::filesystem::path &path, int flags) {
     file_ = FileDescriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | flags));
     struct stat status {};
     if (!file_.isOpen() || ::fstat(file_.get(), &status) != 0) {
@@ -20,7 +20,7 @@ std::error_code LogFile::open(const std::filesystem::path &path, int flags) {
     return {};
 }
 
-std::optional<std::string_view> LogFile::read(std::span<char> buffer) {
+std::optional<std::string_view> InputFile::read(std::span<char> buffer) {
     std::size_t filled = 0;
     while (filled < buffer.size()) {
         const ssize_t got = ::read(file_.get(), buffer.data() + filled, buffer.size() - filled);
@@ -39,18 +39,18 @@ std::optional<std::string_view> LogFile::read(std::span<char> buffer) {
     return std::string_view(buffer.data(), filled);
 }
 
-bool LogFile::readRest(std::string &text) {
+bool InputFile::readRest(std::string &text) {
     struct stat status {};
     if (::fstat(file_.get(), &status) == 0 && status.st_size > 0) {
         // The last block is asked for in full and comes short: room for it, or all would be copied.
-        text.reserve(static_cast<std::size_t>(status.st_size) + logBlockSize);
+        text.reserve(static_cast<std::size_t>(status.st_size) + inputBlockSize);
     }
     for (;;) {
         const std::size_t before = text.size();
-        text.resize(before + logBlockSize);
-        const auto block = read({text.data() + before, logBlockSize});
+        text.resize(before + inputBlockSize);
+        const auto block = read({text.data() + before, inputBlockSize});
         text.resize(before + (block ? block->size() : 0));
-        if (!block || block->size() < logBlockSize) {
+        if (!block || block->size() < inputBlockSize) {
             return block.has_value();
         }
     }

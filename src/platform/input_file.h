@@ -14,10 +14,10 @@ namespace pinmora {
 
 /// The block in which files are read: large enough that the calls cost nothing beside the parsing,
 /// small enough to stay in the processor's cache.
-inline constexpr std::size_t logBlockSize = std::size_t{64} * 1024;
+inline constexpr std::size_t inputBlockSize = std::size_t{64} * 1024;
 
 /// A regular file that is read from its start to its end.
-class LogFile {
+class InputFile {
 public:
     /// Opens for reading, never waiting. Folders, pipes and devices are refused. `flags` are added
     /// to those of ::open().

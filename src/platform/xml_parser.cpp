@@ -1,7 +1,6 @@
-#include "gps/xml_parser.h"
+#include "platform/xml_parser.h"
 
-#include "gps/external_entity.h"
-#include "gps/single_byte_encoding.h"
+#include "platform/single_byte_encoding.h"
 
 #include <algorithm>
 #include <expat.h>
@@ -32,9 +31,7 @@ struct XmlParser::Handlers {
 
     /// A reference that nothing at hand explains, as the DTD that would is not read. Going on would
     /// drop it from the text in silence.
-    static void skippedEntity(void *self, const XML_Char *, int) {
-        XML_StopParser(parser(self).parser_.get(), XML_FALSE);
-    }
+    static void skippedEntity(void *self, const XML_Char *, int) { parser(self).stop(); }
 
     static int encoding(void *, const XML_Char *name, XML_Encoding *encoding) {
         return mapSingleByteEncoding(name, encoding->map) ? XML_STATUS_OK : XML_STATUS_ERROR;
@@ -49,7 +46,7 @@ struct XmlParser::Handlers {
             return XML_STATUS_OK;
         }
         const std::optional<std::string> entity =
-            self.folder_ ? readEntityBeside(*self.folder_, name) : std::nullopt;
+            self.readEntity_ ? self.readEntity_(name) : std::nullopt;
         if (!entity) {
             return XML_STATUS_ERROR;
         }
@@ -64,8 +61,8 @@ void XmlParser::Freer::operator()(XML_ParserStruct *parser) const {
     XML_ParserFree(parser);
 }
 
-XmlParser::XmlParser(XmlEvents &events, std::optional<std::filesystem::path> folder)
-    : events_(events), folder_(std::move(folder)), parser_(XML_ParserCreate(nullptr)) {
+XmlParser::XmlParser(XmlEvents &events, EntityReader readEntity)
+    : events_(events), readEntity_(std::move(readEntity)), parser_(XML_ParserCreate(nullptr)) {
     if (!parser_) {
         throw std::bad_alloc();
     }
@@ -86,7 +83,7 @@ void XmlParser::setEncoding(const char *name) {
 }
 
 bool XmlParser::parse(std::string_view bytes, bool isLast) {
-    constexpr std::size_t most = std::size_t{1} << 20U; // Expat takes the length as an int
+    constexpr std::size_t most = std::size_t{1} << 30U; // Expat takes the length as an int
     for (; bytes.size() > most; bytes.remove_prefix(most)) {
         if (XML_Parse(parser_.get(), bytes.data(), static_cast<int>(most), 0) != XML_STATUS_OK) {
             return false;
@@ -94,6 +91,14 @@ bool XmlParser::parse(std::string_view bytes, bool isLast) {
     }
     return XML_Parse(parser_.get(), bytes.data(), static_cast<int>(bytes.size()), isLast ? 1 : 0) ==
            XML_STATUS_OK;
+}
+
+void XmlParser::stop() {
+    XML_StopParser(parser_.get(), XML_FALSE);
+}
+
+std::string XmlParser::fault() const {
+    return XML_ErrorString(XML_GetErrorCode(parser_.get()));
 }
 
 std::size_t XmlParser::line() const {

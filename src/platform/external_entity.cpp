@@ -1,6 +1,6 @@
-#include "gps/external_entity.h"
+#include "platform/external_entity.h"
 
-#include "gps/log_file.h"
+#include "platform/input_file.h"
 
 #include <fcntl.h>
 
@@ -11,7 +11,7 @@ std::optional<std::string> readEntityBeside(const std::filesystem::path &folder,
     if (systemId.empty() || systemId.find_first_of("/\\") != std::string_view::npos) {
         return std::nullopt;
     }
-    LogFile file;
+    InputFile file;
     if (file.open(folder / systemId, O_NOFOLLOW)) {
         return std::nullopt;
     }

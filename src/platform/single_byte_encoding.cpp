@@ -1,4 +1,4 @@
-#include "gps/single_byte_encoding.h"
+#include "platform/single_byte_encoding.h"
 
 #include <QString>
 #include <QStringDecoder>

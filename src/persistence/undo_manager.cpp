@@ -1,0 +1,239 @@
+#include "persistence/undo_manager.h"
+
+#include "persistence/context.h"
+#include "persistence/record.h"
+#include "platform/end_of_turn.h"
+
+#include <algorithm>
+#include <cassert>
+#include <utility>
+
+namespace pinmora {
+
+UndoManager::UndoManager(Context &context)
+    : context_(context), endOfTurn_(std::make_unique<EndOfTurn>([this] {
+          if (depth_ == 0) {
+              closeStep();
+          } else {
+              closePart();
+          }
+      })) {
+    context_.undoManager_ = this;
+}
+
+UndoManager::~UndoManager() {
+    removeAllActions();
+    context_.undoManager_ = nullptr;
+}
+
+template <class Notice>
+void UndoManager::tell(Notice notice) const {
+    const std::vector<UndoObserver *> present = observers_;
+    for (UndoObserver *observer : present) {
+        notice(*observer);
+    }
+}
+
+void UndoManager::beginGroup(std::string_view name) {
+    if (depth_ == 0) {
+        closeStep();
+        open_.name = name;
+    }
+    ++depth_;
+}
+
+void UndoManager::endGroup() {
+    if (--depth_ == 0) {
+        finish();
+    }
+}
+
+void UndoManager::disableRegistration() {
+    ++disabled_;
+}
+
+/// Told at once, so that a record that came in meanwhile has its later changes registered.
+void UndoManager::enableRegistration() {
+    if (--disabled_ == 0) {
+        closeAside();
+    }
+}
+
+void UndoManager::closeStep() {
+    if (depth_ == 0) {
+        finish();
+    }
+}
+
+/// The part under way, in which changes are registered from now on.
+UndoStep &UndoManager::part() {
+    endOfTurn_->ask();
+    return registers() ? part_ : aside_;
+}
+
+void UndoManager::willChange(Record &record, std::string_view key) {
+    const Property *property = record.entity().find(key);
+    const bool isHeld = property && (property->kind == Property::Kind::Attribute ||
+                                     property->kind == Property::Kind::ToOne);
+    if (!exchanging_ && isHeld && record.entity().isStored()) {
+        part().addChange({&record, property, property->primitive(record), record.changeMark()});
+    }
+}
+
+void UndoManager::didChange(const Record &record, std::string_view key) {
+    if (const Property *property = exchanging_ ? nullptr : record.entity().find(key)) {
+        (registers() ? part_ : aside_).dropChangeIfNone(record, *property);
+    }
+}
+
+void UndoManager::didInsert(Record &record) {
+    if (record.entity().isStored()) {
+        part().addInsertion(record);
+        record.fresh_ = true;
+    }
+}
+
+void UndoManager::didDelete(Record &record) {
+    part().addDeletion(record, context_.commitCount());
+}
+
+/// From now on the changes of the records that have come in are told one by one.
+void UndoManager::endFreshness(const UndoStep &told) {
+    for (const UndoStep::Run &run : told.runs()) {
+        if (const auto *inserted = std::get_if<Insertions>(&run)) {
+            for (Record *record : inserted->records) {
+                record->fresh_ = record->unheard_ = false;
+            }
+        }
+    }
+}
+
+/// Tells of the part under way and adds it to its step.
+void UndoManager::closePart() {
+    if (part_.isEmpty()) {
+        return;
+    }
+    UndoStep told = std::exchange(part_, {});
+    endFreshness(told);
+    tell([&](UndoObserver &observer) { observer.didRecord(told, true); });
+    UndoStep *const earlier = joined_ != 0 ? stepToJoin(joined_) : nullptr;
+    (earlier ? *earlier : open_).append(std::move(told));
+}
+
+void UndoManager::closeAside() {
+    if (aside_.isEmpty()) {
+        return;
+    }
+    UndoStep told = std::exchange(aside_, {});
+    endFreshness(told);
+    tell([&](UndoObserver &observer) { observer.didRecord(told, false); });
+}
+
+/// Makes a step of what is open; what had been undone can then not be done again.
+void UndoManager::finish() {
+    closePart();
+    closeAside();
+    if (open_.isEmpty()) {
+        open_ = {};
+        return;
+    }
+    for (UndoStep &step : undone_) {
+        step.forgetUndone();
+    }
+    undone_.clear();
+    if (open_.id == 0) {
+        open_.id = nextId_++;
+    }
+    done_.push_back(std::exchange(open_, {}));
+    tell([](UndoObserver &observer) { observer.didChangeHistory(); });
+}
+
+bool UndoManager::canUndo() const {
+    return !done_.empty() || !open_.isEmpty() || !part_.isEmpty();
+}
+
+void UndoManager::undo() {
+    closeStep();
+    if (depth_ > 0 || done_.empty()) {
+        return;
+    }
+    undone_.push_back(std::move(done_.back()));
+    done_.pop_back();
+    exchanging_ = true;
+    undone_.back().undo(context_);
+    exchanging_ = false;
+    tell([&](UndoObserver &observer) { observer.didUndo(undone_.back()); });
+    tell([](UndoObserver &observer) { observer.didChangeHistory(); });
+}
+
+void UndoManager::redo() {
+    closeStep();
+    if (depth_ > 0 || undone_.empty()) {
+        return;
+    }
+    done_.push_back(std::move(undone_.back()));
+    undone_.pop_back();
+    exchanging_ = true;
+    done_.back().redo(context_);
+    exchanging_ = false;
+    tell([&](UndoObserver &observer) { observer.didRedo(done_.back()); });
+    tell([](UndoObserver &observer) { observer.didChangeHistory(); });
+}
+
+std::string UndoManager::undoActionName() const {
+    if (!open_.isEmpty() || !part_.isEmpty()) {
+        return open_.name;
+    }
+    return done_.empty() ? std::string() : done_.back().name;
+}
+
+std::string UndoManager::redoActionName() const {
+    return canRedo() ? undone_.back().name : std::string();
+}
+
+void UndoManager::removeAllActions() {
+    finish();
+    for (UndoStep &step : undone_) {
+        step.forgetUndone();
+    }
+    undone_.clear();
+    for (UndoStep &step : done_) {
+        step.forgetDone();
+    }
+    done_.clear();
+    done_.shrink_to_fit();
+    tell([](UndoObserver &observer) { observer.didChangeHistory(); });
+}
+
+std::uint64_t UndoManager::currentStep() {
+    if (open_.id == 0) {
+        open_.id = nextId_++;
+    }
+    return open_.id;
+}
+
+UndoStep *UndoManager::stepToJoin(std::uint64_t id) {
+    if (open_.id == id) {
+        return &open_;
+    }
+    const auto step = std::find_if(done_.rbegin(), done_.rend(),
+                                   [id](const UndoStep &one) { return one.id == id; });
+    return step == done_.rend() ? nullptr : &*step;
+}
+
+bool UndoManager::beginJoining(std::uint64_t step) {
+    assert(joined_ == 0);
+    closePart();
+    if (!stepToJoin(step)) {
+        return false;
+    }
+    joined_ = step;
+    return true;
+}
+
+void UndoManager::endJoining() {
+    closePart();
+    joined_ = 0;
+}
+
+} // namespace pinmora
