@@ -27,6 +27,17 @@ void ProgressSheet::progressWindowIncrement() {
     progressWindow.display();
 }
 
+void ProgressSheet::advance(const std::string &subText) {
+    progressTextSub.text.set(subText);
+    progressIndic.incrementBy(1);
+    const auto now = std::chrono::steady_clock::now();
+    const bool atEnd = progressIndic.value.get() >= progressIndic.maximum.get();
+    if (atEnd || now - advanceDrawn_ >= std::chrono::seconds(1) / 30.0) {
+        advanceDrawn_ = now;
+        progressWindow.display();
+    }
+}
+
 void ProgressSheet::closeProgress() {
     progressIndic.animating.set(false);
     progressWindow.end();

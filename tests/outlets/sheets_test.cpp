@@ -1,7 +1,8 @@
 #include "outlets/error_sheet.h"
 #include "outlets/progress_sheet.h"
 
-#include <QtTest>
+#include <QElapsedTimer>
+#include <QTest>
 
 using namespace pinmora;
 
@@ -12,6 +13,7 @@ private Q_SLOTS:
     void signalsSurviveHandlersThatComeAndGo();
     void aDisabledButtonDoesNothing();
     void theProgressSheetIsDrawnAfterEveryChange();
+    void smallStepsAreDrawnNowAndThenAndAtTheEnd();
     void sheetsHangFromTheWindowOfTheMoment();
 };
 
@@ -65,6 +67,28 @@ void SheetsTest::theProgressSheetIsDrawnAfterEveryChange() {
     sheet.closeProgress();
     sheet.progressWindowIncrement(); // goes to the closed sheet, unseen
     QVERIFY(!sheet.progressWindow.isUp());
+}
+
+void SheetsTest::smallStepsAreDrawnNowAndThenAndAtTheEnd() {
+    Window window;
+    ProgressSheet sheet([&]() -> Window & { return window; });
+    sheet.showProgressWindow("Applying", "", 5'000);
+    int texts = 0;
+    int draws = 0;
+    double drawnAt = 0;
+    const Connection text = sheet.progressTextSub.text.onChange([&](const auto &) { ++texts; });
+    const Connection draw = sheet.progressWindow.displayed.connect([&] {
+        ++draws;
+        drawnAt = sheet.progressIndic.value.get();
+    });
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 1; i <= 5'000; ++i) {
+        sheet.advance(std::to_string(i));
+    }
+    QVERIFY(draws <= 2 + timer.elapsed() * 30 / 1000 + 1);
+    QCOMPARE(texts, 5'000);
+    QCOMPARE(drawnAt, 5'000);
 }
 
 void SheetsTest::sheetsHangFromTheWindowOfTheMoment() {

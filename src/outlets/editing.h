@@ -1,0 +1,31 @@
+#pragma once
+
+#include "outlets/signal.h"
+
+#include <functional>
+#include <utility>
+
+namespace pinmora {
+
+/// Knows who may hold half-typed text, so that it can be taken over before it is needed.
+class Editing {
+public:
+    /// Takes over what has been typed, if anything; false when it is unfit and stays as it is.
+    using EndEditing = std::function<bool()>;
+
+    [[nodiscard]] Connection addEditor(EndEditing endEditing) {
+        return asked_.connect([end = std::move(endEditing)](bool &fine) { fine = fine && end(); });
+    }
+
+    /// Asks all editors, in the order in which they came, until one refuses: then false.
+    bool commitEditing() const {
+        bool fine = true;
+        asked_.emit(fine);
+        return fine;
+    }
+
+private:
+    Signal<bool &> asked_;
+};
+
+} // namespace pinmora
