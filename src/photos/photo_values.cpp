@@ -1,6 +1,7 @@
 #include "photos/photo_values.h"
 
 #include "photos/file_names.h"
+#include "platform/number_text.h"
 #include "store/image.h"
 
 namespace pinmora {
@@ -9,14 +10,6 @@ namespace {
 std::optional<std::string> signedText(std::string_view sign,
                                       const std::optional<std::string> &number) {
     return number ? std::optional(std::string(sign) + *number) : std::nullopt;
-}
-
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(blanks);
-    return first == std::string_view::npos
-               ? std::string_view()
-               : text.substr(first, text.find_last_not_of(blanks) + 1 - first);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "photos/photos.h"
 
-#include "persistence/context.h"
+#include "persistence/undo_group.h"
 #include "photos/file_names.h"
 #include "photos/folder_listing.h"
 #include "photos/log_intake.h"
@@ -51,6 +51,7 @@ void Photos::scanFolder(const std::string &folder, TakeEntry takeEntry) {
 }
 
 void Photos::processThisPath(std::string_view given) {
+    const UndoGroup group(context_, "Add Photos");
     const std::string path = absolutePath(given);
     if (isFolder(path)) {
         scanFolder(path, [this, &path](const std::string &name) {
@@ -70,6 +71,7 @@ void Photos::processThisPath(std::string_view given) {
 }
 
 void Photos::loadPict(std::string_view given) {
+    const UndoGroup group(context_, "Add Photos");
     const std::string path = absolutePath(given);
     if (isFolder(path)) {
         scanFolder(path, [this, &path](const std::string &name) { makePictEntry(name, path); });
