@@ -136,6 +136,9 @@ public:
     void setHasChangesTrue() { hasChanges_ = true; }
     void setHasChangesFalse() { hasChanges_ = false; }
 
+    std::uint8_t changeMark() const override { return hasChanges_ ? 1 : 0; }
+    void setChangeMark(std::uint8_t mark) override { hasChanges_ = mark != 0; }
+
     /// While a new record is being filled, setting its position tells nobody.
     bool loading() const { return loading_; }
     void setLoading(bool loading) { loading_ = loading; }

@@ -11,7 +11,8 @@ const EntityDescription &image_data::description() {
         {
             attribute<&D::name, &D::setName, &D::name_>("name"),
             attribute<&D::data, &D::setImage_data, &D::image_data_>("image_data"),
-        });
+        },
+        Lifetime::Memory);
     return entity;
 }
 
