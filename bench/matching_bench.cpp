@@ -3,7 +3,8 @@
 #include "log_import.h"
 #include "ratio.h"
 
-#include "matching/matcher.h"
+#include "matching/nearest_points.h"
+#include "matching/placing.h"
 #include "store/image.h"
 #include "store/offset.h"
 
@@ -52,9 +53,9 @@ double secondsOfMatching(Context &context, const std::vector<image *> &photos) {
     for (int run = 0; run < 5; ++run) {
         emptyProcessorCache();
         best = std::min(best, bench::seconds([&] {
-                            Matcher matcher(context, noOffset);
+                            NearestPoints points(context);
                             for (const image *photo : photos) {
-                                if (!matcher.getLatLonAlt(*photo)) {
+                                if (!points.inTime(*correctedTime(*photo, noOffset))) {
                                     std::fprintf(stderr, "a photo found no point\n");
                                     std::exit(2);
                                 }

@@ -5,7 +5,6 @@
 #include "options.h"
 #include "surroundings.h"
 
-#include "matching/matcher.h"
 #include "store/offset.h"
 
 #include <vector>

@@ -3,7 +3,8 @@
 #include "loading.h"
 #include "memory_library.h"
 
-#include "matching/matcher.h"
+#include "matching/nearest_points.h"
+#include "matching/placing.h"
 #include "matching/time_distance.h"
 #include "saving/saving.h"
 #include "store/image.h"
@@ -44,22 +45,27 @@ void remark(PhotoLine &line, std::string_view text) {
     }
 }
 
-PhotoLine placePhoto(image &photo, Matcher &matcher, bool hadLogs, LocalZone &zone) {
+/// The points are null when no log was given.
+PhotoLine placePhoto(image &photo, const offset &clockOffset, NearestPoints *points,
+                     LocalZone &zone) {
     PhotoLine line{.file = photo.full_file_path().string()};
-    const std::optional<Date> corrected = matcher.correctedTime(photo);
+    const std::optional<Date> corrected = correctedTime(photo, clockOffset);
     const bool hasTime = corrected && !photo.no_capture_time().value_or(false);
     if (hasTime) {
         line.taken = zone.wallClockAt(*photo.date());
         line.corrected = zone.wallClockAt(*corrected);
     }
     const bool hadAltitude = !photo.alt().view().empty();
-    const track_part *point = hadLogs ? matcher.placeAtNearestPoint(photo) : nullptr;
+    const track_part *const point = points && corrected ? points->inTime(*corrected) : nullptr;
+    if (point) {
+        placeAtWithAltitude(photo, *point);
+    }
     if (point && hasTime) {
         line.secondsApart =
             static_cast<std::int64_t>(wholeSecondsApart(*point->time(), *corrected));
     } else if (point) {
         remark(line, "no capture time: placed by the time of loading");
-    } else if (hadLogs) {
+    } else if (points) {
         line.status = Status::Unmatched;
         remark(line, corrected ? "there is no track point with a time and a position"
                                : "its capture time cannot be read");
@@ -130,10 +136,11 @@ Report runTagJob(const Options &options, const Surroundings &surroundings) {
     Report report{.tracks = library.context.count<track>(),
                   .points = library.context.count<track_part>(),
                   .trouble = loaded.trouble};
-    Matcher matcher(library.context, clockOffset);
+    NearestPoints points(library.context);
     LocalZone zone;
     for (image *photo : loaded.photos) {
-        report.photos.push_back(placePhoto(*photo, matcher, loaded.hadLogs, zone));
+        report.photos.push_back(
+            placePhoto(*photo, clockOffset, loaded.hadLogs ? &points : nullptr, zone));
     }
     if (options.dryRun) {
         for (PhotoLine &line : report.photos) {

@@ -1,74 +1,141 @@
 #include "matching/matcher.h"
 
+#include "matching/clock_offset.h"
+#include "matching/matching_outlets.h"
+#include "matching/placing.h"
+#include "matching/pointer_script.h"
 #include "persistence/context.h"
+#include "persistence/undo_group.h"
+#include "platform/notification_centre.h"
+#include "platform/number_text.h"
 #include "store/image.h"
 #include "store/offset.h"
-#include "store/track_part.h"
 
 namespace pinmora {
 
-Matcher::Matcher(Context &context, const offset &clockOffset)
-    : context_(context), offset_(clockOffset) {}
+namespace {
 
-Matcher::~Matcher() {
-    dropIndex();
-}
+constexpr std::string_view matchAction = "Match Photo";
 
-std::optional<Date> Matcher::correctedTime(const image &photo) const {
-    const std::optional<Date> &taken = photo.date();
-    return taken ? std::optional(*taken + offset_.signedOffset()) : std::nullopt;
+/// While it lives, the flag is set.
+class Running {
+public:
+    explicit Running(bool &flag) : flag_(flag) { flag_ = true; }
+    Running(const Running &) = delete;
+    Running &operator=(const Running &) = delete;
+    ~Running() { flag_ = false; }
+
+private:
+    bool &flag_;
+};
+
+} // namespace
+
+Matcher::Matcher(Context &context, NotificationCentre &notifications, ClockOffset &clockOffset,
+                 MatchingOutlets &outlets)
+    : context_(context), notifications_(notifications), clockOffset_(clockOffset),
+      outlets_(outlets), points_(context) {
+    connections_.push_back(clockOffset.stepped.connect([this] { gpsMatcher(false); }));
+    connections_.push_back(outlets.matchButton.pressed.connect([this] { startGPSMatch(); }));
+    for (Button *button : {&outlets.offsetButton, &outlets.offsetButton2}) {
+        connections_.push_back(button->pressed.connect([this] { guessFromSelectedPhoto(); }));
+    }
 }
 
 track_part *Matcher::getLatLonAlt(const image &photo) {
-    const std::optional<Date> time = correctedTime(photo);
-    if (!time) {
-        return nullptr;
-    }
-    if (!index_) {
-        dropIndex(); // the points are read unobserved
-        index_.emplace(context_.records<track_part>());
-        context_.addObserver(*this);
-        observing_ = true;
-    }
-    return index_->nearest(*time);
+    const offset *const clockOffset = outlets_.offsetObj.content();
+    const std::optional<Date> corrected =
+        clockOffset ? correctedTime(photo, *clockOffset) : std::nullopt;
+    return corrected ? points_.inTime(*corrected) : nullptr;
 }
 
-track_part *Matcher::placeAtNearestPoint(image &photo) {
-    track_part *const point = getLatLonAlt(photo);
-    if (point) {
-        photo.setLat(point->lat());
-        photo.setLon(point->lon());
-        photo.setAlt(point->alt());
-        photo.setZoom(placedZoom);
-        photo.setPosition_source(PositionSource::log);
+void Matcher::gpsMatcher(bool updateFields) {
+    const image *const photo = outlets_.pictureArray.firstSelectedObject();
+    const offset *const clockOffset = outlets_.offsetObj.content();
+    if (!photo || !clockOffset || !photo->date()) {
+        return;
     }
-    return point;
-}
-
-void Matcher::dropIndex() {
-    index_.reset();
-    if (observing_) {
-        context_.removeObserver(*this);
-        observing_ = false;
+    const UndoGroup group(context_, matchAction);
+    clockOffset_.showCorrectedTime(*correctedTime(*photo, *clockOffset));
+    if (track_part *const point = getLatLonAlt(*photo)) {
+        outlets_.bestGPS.setContent(point);
+        clockOffset_.setNewOffset(updateFields);
     }
 }
 
-void Matcher::didChange(Record &record, std::string_view) {
-    forgetIndexOver(record);
+void Matcher::startGPSMatch() {
+    context_.commitEditing();
+    gpsMatcher(true);
 }
 
-void Matcher::didInsert(Record &record) {
-    forgetIndexOver(record);
+void Matcher::guessFromLatLon() {
+    context_.commitEditing();
+    const auto lat = plainDecimal(outlets_.knownLat.text.get());
+    const auto lon = plainDecimal(outlets_.knownLon.text.get());
+    const image *const photo = outlets_.pictureArray.firstSelectedObject();
+    if (!lat || !lon || !photo || !photo->date()) {
+        return;
+    }
+    const UndoGroup group(context_, matchAction);
+    if (track_part *const point = points_.inPlace({.lat = *lat, .lon = *lon})) {
+        outlets_.bestGPS.setContent(point);
+        clockOffset_.setNewOffset(true);
+    }
 }
 
-void Matcher::didDelete(Record &record) {
-    forgetIndexOver(record);
+/// The photo's position may still be half typed.
+void Matcher::guessFromSelectedPhoto() {
+    context_.commitEditing();
+    const image *const photo = outlets_.pictureArray.firstSelectedObject();
+    if (photo && photo->lat_and_lon()) {
+        outlets_.knownLat.text.set(photo->lat().string());
+        outlets_.knownLon.text.set(photo->lon().string());
+        guessFromLatLon();
+    }
 }
 
-/// Observers must not leave in the middle of a notice, so the matcher goes on observing.
-void Matcher::forgetIndexOver(const Record &record) {
-    if (index_ && &record.entity() == &track_part::description()) {
-        index_.reset();
+void Matcher::applyToAllPictures() {
+    // A copy: handlers of the progress sheet may change what is arranged.
+    const bool placedAny = applyTo(std::vector(outlets_.pictureArray.arrangedObjects()));
+    context_.commitEditing();
+    outlets_.offsetText.text.set("");
+    outlets_.offsetText2.text.set("");
+    postSelectedPosition();
+    if (placedAny) {
+        outlets_.nextButtonAppliedAll.enabled.set(true);
+        outlets_.congrats1.visible.set(true);
+        outlets_.congrats2.visible.set(true);
+    }
+}
+
+/// Whether any photo got a place.
+bool Matcher::applyTo(const std::vector<image *> &photos) {
+    const UndoGroup group(context_, "Apply GPS Data to Photos");
+    const Running running(runningApplyToAll_);
+    const std::string total = std::to_string(photos.size());
+    outlets_.progress.showProgressWindow("Applying to GPS data to photos", "",
+                                         static_cast<double>(photos.size()));
+    bool placedAny = false;
+    std::size_t number = 0;
+    for (image *photo : photos) {
+        const track_part *const point = getLatLonAlt(*photo);
+        outlets_.progress.advance("Processing " + std::to_string(++number) + " of " + total);
+        if (point) {
+            placeAtWithAltitude(*photo, *point);
+            placedAny = true;
+        }
+    }
+    outlets_.progress.closeProgress();
+    return placedAny;
+}
+
+/// So that the map shows where the one photo that is looked at has come to.
+void Matcher::postSelectedPosition() const {
+    const auto &selected = outlets_.pictureArray.selectedObjects();
+    if (selected.size() == 1 && selected.front()->lat_and_lon()) {
+        const image &photo = *selected.front();
+        notifications_.post(locationChange,
+                            PositionTexts{photo.lat().string(), photo.lon().string()});
     }
 }
 

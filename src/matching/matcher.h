@@ -1,62 +1,62 @@
 #pragma once
 
-#include "matching/point_index.h"
-#include "persistence/change_observer.h"
-#include "platform/date.h"
+#include "matching/nearest_points.h"
+#include "outlets/signal.h"
 
-#include <cstdint>
-#include <optional>
+#include <cstddef>
+#include <vector>
 
 namespace pinmora {
 
-class Context;
+class ClockOffset;
+class NotificationCentre;
 class image;
-class offset;
 class track_part;
+struct Button;
+struct MatchingOutlets;
 
-/// The map zoom level of a photo that has been placed at a track point.
-inline constexpr std::int32_t placedZoom = 10;
-
-/// Gives photos the places of the track points nearest in time to when they were taken.
-///
-/// The arranged order of the points is the order in which they came into the context. The first
-/// search indexes them. From then on the matcher observes the context, so that the index goes as
-/// soon as a point comes, goes or changes; the next search makes a new one.
-class Matcher : private ChangeObserver {
+/// Gives photos the places of the track points nearest in time to when they were taken, one photo
+/// or all; and finds the point at a known position, from which the clock offset follows.
+class Matcher {
 public:
-    /// The clock offset is read anew for each photo. Both must outlive the matcher.
-    Matcher(Context &context, const offset &clockOffset);
-    ~Matcher() override;
-    Matcher(const Matcher &) = delete;
-    Matcher &operator=(const Matcher &) = delete;
+    /// All must outlive it. Steps of the clock offset match the selected photo anew.
+    Matcher(Context &context, NotificationCentre &notifications, ClockOffset &clockOffset,
+            MatchingOutlets &outlets);
 
-    /// The photo's date with the clock offset applied; nothing for a photo without a date. No
-    /// four-digit year and no offset are too large for it.
-    std::optional<Date> correctedTime(const image &photo) const;
-
-    /// The point nearest to the photo's corrected time (see PointIndex), however far away; null
-    /// for a photo without a date and when there is no point.
+    /// The point nearest in time to the photo's corrected time (NearestPoints), however far away;
+    /// null for a photo without a date and when there is no point.
     track_part *getLatLonAlt(const image &photo);
 
-    /// Gives the photo the latitude, longitude and altitude of its nearest point, texts as they
-    /// are, and returns that point. Null: there is none, and the photo stays as it was.
-    track_part *placeAtNearestPoint(image &photo);
+    /// Matches the first selected photo: shows its corrected time, makes the nearest point the one
+    /// in `bestGPS`, and sets the offset anew. Nothing happens without a photo with a date; without
+    /// a point it is left with the time.
+    void gpsMatcher(bool updateFields);
+    /// Takes half-typed input over, then gpsMatcher() with the offset's fields rewritten.
+    void startGPSMatch();
 
-    /// Forgets the index and stops observing until the next search. Never needed for right answers;
-    /// called before logs are imported it spares each of their points the notices, which would
-    /// take several times as long as filling the records. Not for use inside a notice.
-    void dropIndex();
+    /// Takes half-typed input over, then sets the offset by the first selected photo and the point
+    /// nearest to the position in `knownLat` and `knownLon`. Nothing happens unless both hold a
+    /// number and nothing else.
+    void guessFromLatLon();
+
+    /// Gives all photos, in arranged order, latitude, longitude and altitude of their points; one
+    /// without a point stays as it is. The progress sheet counts them.
+    void applyToAllPictures();
+    /// Whether that is at work: the photos' notices of new positions are then not worth following.
+    const bool &runningApplyToAll() const { return runningApplyToAll_; }
 
 private:
-    void didChange(Record &record, std::string_view key) override;
-    void didInsert(Record &record) override;
-    void didDelete(Record &record) override;
-    void forgetIndexOver(const Record &record);
+    void guessFromSelectedPhoto();
+    bool applyTo(const std::vector<image *> &photos);
+    void postSelectedPosition() const;
 
     Context &context_;
-    const offset &offset_;
-    std::optional<PointIndex> index_;
-    bool observing_ = false;
+    NotificationCentre &notifications_;
+    ClockOffset &clockOffset_;
+    MatchingOutlets &outlets_;
+    NearestPoints points_;
+    bool runningApplyToAll_ = false;
+    std::vector<Connection> connections_;
 };
 
 } // namespace pinmora

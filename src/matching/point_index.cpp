@@ -1,8 +1,8 @@
 #include "matching/point_index.h"
 
+#include "matching/findable_point.h"
 #include "matching/sort_runs.h"
 #include "matching/time_distance.h"
-#include "store/track_part.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -36,13 +36,10 @@ void PointIndex::reserve(std::size_t count) {
 
 /// Of neighbours with the same time only the first can ever be the nearest.
 void PointIndex::keepIfFindable(track_part *point) {
-    const std::optional<Date> &time = point->time();
-    if (!time || point->lat().view().empty() || point->lon().view().empty() ||
-        (!times_.empty() && times_.back() == *time)) {
-        return;
+    if (isFindable(*point) && (times_.empty() || times_.back() != *point->time())) {
+        times_.push_back(*point->time());
+        points_.push_back(point);
     }
-    times_.push_back(*time);
-    points_.push_back(point);
 }
 
 void PointIndex::sortTimesIfNeeded() {

@@ -1,8 +1,7 @@
 #include "matching/matcher.h"
 
-#include "matching/library.h"
-#include "store/image.h"
-#include "store/offset.h"
+#include "matching/desk.h"
+#include "matching/placing.h"
 
 #include <QTest>
 
@@ -11,12 +10,33 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Remembers in which order a photo's position was set.
+/// Remembers in which order a photo's place was set.
 struct SetKeys : ChangeObserver {
     void didChange(Record &, std::string_view key) override {
-        keys += key == "lat" || key == "lon" || key == "alt" ? std::string(key) + " " : "";
+        keys += key == "lat" || key == "lon" || key == "alt" || key == "zoom"
+                    ? std::string(key) + " "
+                    : "";
     }
     std::string keys;
+};
+
+/// A desk with points an hour before the photo, five minutes after it and three days before it.
+struct Outing : Desk {
+    track_part &eleven = addPoint(noon - 1h, "-33.85670", "-070.1", " 12.50 ");
+    track_part &fivePast = addPoint(noon + 5min, "47.3", "8.4", "");
+    track_part &friday = addPoint(noon - 72h, "46.5", "9.5", "100");
+
+    /// All that a batch, a match or a step may write.
+    std::string everything() const {
+        std::string all = storedOffset() + " " + steppedOffset() + " " +
+                          std::to_string(stored.offset_set().value_or(0));
+        for (const image *one : context.records<image>()) {
+            all += " | " + placeOf(*one).substr(0, placeOf(*one).rfind(' ')) +
+                   one->lat_ref().string() + one->lon_ref().string() +
+                   one->position_source().string() + (one->getHasChanges() ? "!" : "");
+        }
+        return all;
+    }
 };
 
 } // namespace
@@ -24,21 +44,8 @@ struct SetKeys : ChangeObserver {
 class MatcherTest : public QObject {
     Q_OBJECT
 
-    struct Desk : Library {
-        offset &clockOffset = context.insert<offset>();
-        Matcher matcher{context, clockOffset};
-        image &photo = context.insert<image>();
-        Date noon;
-
-        Desk() {
-            photo.setDate("2008:05:12 12:00:00");
-            photo.setHasChangesFalse();
-            noon = *photo.date();
-        }
-    };
-
 private Q_SLOTS:
-    void correctedTime_data() {
+    void correctedTimes_data() {
         using Number = std::optional<int>;
         QTest::addColumn<Number>("plus");
         QTest::addColumn<Number>("hours");
@@ -59,7 +66,7 @@ private Q_SLOTS:
             7'861'937'631'667);
     }
 
-    void correctedTime() {
+    void correctedTimes() {
         using Number = std::optional<int>;
         QFETCH(Number, plus);
         QFETCH(Number, hours);
@@ -67,96 +74,209 @@ private Q_SLOTS:
         QFETCH(Number, seconds);
         QFETCH(qint64, added);
         Desk desk;
-        desk.clockOffset.setPlus(plus);
-        desk.clockOffset.setHours(hours);
-        desk.clockOffset.setMinutes(minutes);
-        desk.clockOffset.setSeconds(seconds);
-        QVERIFY(desk.matcher.correctedTime(desk.photo) == desk.noon + std::chrono::seconds(added));
+        desk.stored.setPlus(plus);
+        desk.stored.setHours(hours);
+        desk.stored.setMinutes(minutes);
+        desk.stored.setSeconds(seconds);
+        QVERIFY(correctedTime(desk.photo, desk.stored) == desk.noon + std::chrono::seconds(added));
         desk.photo.setDate("none");
-        QVERIFY(!desk.matcher.correctedTime(desk.photo));
+        QVERIFY(!correctedTime(desk.photo, desk.stored));
     }
 
-    void theOffsetIsReadForEachPhoto() {
-        Desk desk;
-        track_part &elevenOClock = desk.addPoint(desk.noon - 1h);
-        track_part &noon = desk.addPoint(desk.noon);
-        QCOMPARE(desk.matcher.getLatLonAlt(desk.photo), &noon);
-        desk.clockOffset.setHours(1);
-        QCOMPARE(desk.matcher.getLatLonAlt(desk.photo), &elevenOClock);
+    void nearestToTheCorrectedTime() {
+        Outing outing;
+        QCOMPARE(outing.matcher.getLatLonAlt(outing.photo), &outing.fivePast);
+        outing.setOffset(0, 1, 0, 0);
+        QCOMPARE(outing.matcher.getLatLonAlt(outing.photo), &outing.eleven);
+        outing.setOffset(0, 999'999, 59, 59);
+        QCOMPARE(outing.matcher.getLatLonAlt(outing.photo), &outing.friday);
+        image &undated = outing.context.insert<image>();
+        QCOMPARE(outing.matcher.getLatLonAlt(undated), nullptr);
     }
 
-    void placesAPhoto() {
-        Desk desk;
-        desk.photo.updateLatAndLon({"10", "20"});
-        desk.photo.setAlt("5");
-        track_part &point = desk.addPoint(desk.noon - 72h, "-33.85670", "-070.1", " 12.50 ");
-        SetKeys observer;
-        desk.context.addObserver(observer);
-        QCOMPARE(desk.matcher.placeAtNearestPoint(desk.photo), &point);
-        desk.context.removeObserver(observer);
-
-        QVERIFY(desk.photo.lat() == "-33.85670");
-        QVERIFY(desk.photo.lon() == "-070.1");
-        QVERIFY(desk.photo.alt() == " 12.50 ");
-        QVERIFY(desk.photo.lat_ref() == "S");
-        QVERIFY(desk.photo.lon_ref() == "W");
-        QCOMPARE(desk.photo.zoom(), std::optional(10));
-        QVERIFY(desk.photo.position_source() == PositionSource::log);
-        QCOMPARE(observer.keys, "lat lon alt ");
-
-        point.setAlt({});
-        QVERIFY(desk.matcher.placeAtNearestPoint(desk.photo));
-        QVERIFY(!desk.photo.alt().hasValue());
+    void aStepMatchesAndKeepsTheFields() {
+        Outing outing;
+        outing.outlets.stepperHour.stepBy(1);
+        QCOMPARE(outing.outlets.bestGPS.content(), &outing.eleven);
+        QCOMPARE(outing.storedOffset(), std::string("-1:0:0"));
+        outing.outlets.stepperMin.stepBy(20); // nearer to nothing else
+        QCOMPARE(outing.storedOffset(), std::string("-1:20:0"));
+        QCOMPARE(outing.outlets.offsetText.text.get(), std::string("12 May 2008 11:00:00"));
+        outing.outlets.stepperHour.stepBy(-1);
+        outing.outlets.stepperMin.stepBy(-20);
+        outing.outlets.stepperSec.stepBy(1);
+        // The sign follows the point that was found.
+        QCOMPARE(outing.outlets.bestGPS.content(), &outing.fivePast);
+        QCOMPARE(outing.storedOffset(), std::string("+0:0:1"));
     }
 
-    void leavesAPhotoAloneWithoutAPointOrADate() {
+    void matchingRewritesTheFields() {
+        Outing outing;
+        image &later = outing.addPhoto("12:30:00");
+        outing.pictureArray.setSelectedObjects({&later, &outing.photo});
+        outing.context.setEndEditing([&] {
+            outing.stored.setHours(1); // typed, and only now taken over
+            return true;
+        });
+        outing.outlets.matchButton.press();
+        QCOMPARE(outing.outlets.bestGPS.content(), &outing.eleven);
+        QCOMPARE(outing.storedOffset(), std::string("-1:0:0"));
+        QCOMPARE(outing.placeOf(outing.photo), std::string("-33.85670 -070.1 - 10"));
+        QCOMPARE(outing.scripts, std::string("1:movePointer(-33.85670,-70.1,0,'')"));
+        QVERIFY(!later.lat().hasValue());
+    }
+
+    void withoutAPointOnlyTheTimeIsShown() {
         Desk desk;
-        QCOMPARE(desk.matcher.placeAtNearestPoint(desk.photo), nullptr);
         desk.addPoint({});
-        QCOMPARE(desk.matcher.placeAtNearestPoint(desk.photo), nullptr);
-        desk.addPoint(desk.noon);
-        image &undated = desk.context.insert<image>();
-        QCOMPARE(desk.matcher.placeAtNearestPoint(undated), nullptr);
-        for (const image *photo : {&desk.photo, &undated}) {
-            QVERIFY(!photo->getHasChanges());
-            QVERIFY(!photo->lat().hasValue() && !photo->zoom() &&
-                    !photo->position_source().hasValue());
-        }
-    }
-
-    void followsThePoints() {
-        Desk desk;
-        const auto found = [&] { return desk.matcher.getLatLonAlt(desk.photo); };
-        track_part &far = desk.addPoint(desk.noon + 1h);
-        QCOMPARE(found(), &far);
-        track_part &near = desk.addPoint(desk.noon + 1min);
-        QCOMPARE(found(), &near);
-        near.setTimeWithDate(desk.noon + 2h);
-        QCOMPARE(found(), &far);
-        near.setTimeWithDate(desk.noon);
-        QCOMPARE(found(), &near);
-        near.setLon("");
-        QCOMPARE(found(), &far);
-        desk.context.deleteObject(far);
+        desk.setOffset(1, 0, 0, 30);
         desk.context.commitChanges();
-        QCOMPARE(found(), nullptr);
+        desk.matcher.startGPSMatch();
+        desk.matcher.applyToAllPictures();
+        desk.outlets.knownLat.text.set("47");
+        desk.outlets.knownLon.text.set("8");
+        desk.matcher.guessFromLatLon();
+        QVERIFY(!desk.context.hasChanges());
+        desk.matcher.gpsMatcher(true);
+        QCOMPARE(desk.outlets.offsetText2.text.get(), std::string("12 May 2008 12:00:30"));
     }
 
-    void observesOnlyWhileItHasAnIndex() {
-        Desk desk;
-        desk.addPoint(desk.noon + 1h);
-        QVERIFY(!desk.context.isObserved());
-        desk.matcher.getLatLonAlt(desk.photo);
-        desk.matcher.dropIndex();
-        QVERIFY(!desk.context.isObserved());
-        track_part &imported = desk.addPoint(desk.noon);
-        QCOMPARE(desk.matcher.getLatLonAlt(desk.photo), &imported);
-        {
-            Matcher another(desk.context, desk.clockOffset);
-            another.getLatLonAlt(desk.photo);
-        }
-        desk.matcher.dropIndex();
-        QVERIFY(!desk.context.isObserved());
+    void knownPositions_data() {
+        QTest::addColumn<std::string>("lat");
+        QTest::addColumn<std::string>("lon");
+        QTest::addColumn<std::string>("derived");
+
+        const std::string none = "-0:0:0";
+        QTest::newRow("near") << std::string("47") << std::string("8.3") << std::string("+0:5:0");
+        QTest::newRow("blanks") << std::string(" -40 ") << std::string("-70\t")
+                                << std::string("-1:0:0");
+        QTest::newRow("the rest is 0")
+            << std::string("46") << std::string("9.9999") << std::string("-72:0:0");
+        QTest::newRow("empty") << std::string() << std::string("8") << none;
+        QTest::newRow("words") << std::string("47") << std::string("east") << none;
+        QTest::newRow("comma") << std::string("47,3") << std::string("8") << none;
+        QTest::newRow("letter") << std::string("47") << std::string("70 W") << none;
+    }
+
+    void knownPositions() {
+        QFETCH(std::string, lat);
+        QFETCH(std::string, lon);
+        Outing outing;
+        outing.context.setEndEditing([&] {
+            outing.outlets.knownLon.text.set(lon);
+            return true;
+        });
+        outing.outlets.knownLat.text.set(lat);
+        outing.matcher.guessFromLatLon();
+        QTEST(outing.storedOffset(), "derived");
+    }
+
+    void thePhotosOwnPositionCanBeTheKnownOne() {
+        Outing outing;
+        outing.outlets.knownLat.text.set("1");
+        outing.outlets.offsetButton.press(); // the photo has none
+        QCOMPARE(outing.outlets.knownLat.text.get(), std::string("1"));
+        outing.photo.updateLatAndLon({"46.6", "9.4"});
+        outing.outlets.offsetButton2.press();
+        QCOMPARE(outing.outlets.knownLat.text.get(), std::string("46.6"));
+        QCOMPARE(outing.outlets.knownLon.text.get(), std::string("9.4"));
+        QCOMPARE(outing.storedOffset(), std::string("-72:0:0"));
+        QCOMPARE(outing.placeOf(outing.photo), std::string("46.5 9.5 - 10"));
+    }
+
+    void applying() {
+        Outing outing;
+        image &early = outing.addPhoto("10:50:00");
+        early.updateLatAndLon({"1", "2"});
+        early.setAlt("3");
+        image &undated = outing.context.insert<image>();
+        outing.outlets.nextButtonAppliedAll.enabled.set(false);
+        outing.outlets.congrats2.visible.set(false);
+        outing.outlets.offsetText.text.set("old");
+
+        std::string heard;
+        const Connection texts =
+            outing.progress.progressTextSub.text.onChange([&](const std::string &text) {
+                heard += text + (outing.progress.progressWindow.isUp() &&
+                                         outing.matcher.runningApplyToAll()
+                                     ? "; "
+                                     : "?");
+            });
+        const auto positions = outing.notifications.addObserver(locationChange, [&](const auto &) {
+            heard += outing.matcher.runningApplyToAll() ? "" : "moved";
+        });
+        outing.context.setEndEditing([&] { return heard += "edited ", true; });
+        SetKeys keys;
+        outing.context.addObserver(keys);
+        outing.matcher.applyToAllPictures();
+        outing.context.removeObserver(keys);
+
+        QCOMPARE(heard, std::string("Processing 1 of 3; Processing 2 of 3; Processing 3 of 3; "
+                                    "edited moved"));
+        QCOMPARE(keys.keys, std::string("lat lon alt zoom lat lon alt zoom "));
+        QCOMPARE(outing.placeOf(outing.photo), std::string("47.3 8.4  10"));
+        QCOMPARE(outing.placeOf(early), std::string("-33.85670 -070.1  12.50  10"));
+        QVERIFY(early.lat_ref() == "S" && early.lon_ref() == "W");
+        QVERIFY(early.position_source() == PositionSource::log);
+        QCOMPARE(outing.placeOf(undated), std::string("- - - -"));
+        QVERIFY(!undated.getHasChanges());
+        QCOMPARE(outing.progress.progressTextMain.text.get(),
+                 std::string("Applying to GPS data to photos"));
+        QCOMPARE(outing.progress.progressIndic.value.get(), 3);
+        QVERIFY(!outing.progress.progressWindow.isUp());
+        QVERIFY(outing.outlets.offsetText.text.get().empty());
+        QVERIFY(outing.outlets.nextButtonAppliedAll.enabled.get());
+        QVERIFY(outing.outlets.congrats2.visible.get());
+    }
+
+    void theMapIsToldOfOneSelectedPhotoOnly() {
+        Outing outing;
+        image &another = outing.addPhoto("10:50:00");
+        int told = 0;
+        const auto positions = outing.notifications.addObserver(locationChange, [&](const auto &) {
+            told += outing.matcher.runningApplyToAll() ? 0 : 1;
+        });
+        outing.pictureArray.setSelectedObjects({&outing.photo, &another});
+        outing.matcher.applyToAllPictures();
+        QCOMPARE(told, 0);
+        outing.pictureArray.select(&another);
+        outing.matcher.applyToAllPictures();
+        QCOMPARE(told, 1);
+    }
+
+    void eachActionIsOneStepOfUndo_data() {
+        using Action = std::function<void(Outing &)>;
+        QTest::addColumn<Action>("act");
+        QTest::addColumn<std::string>("name");
+        const auto row = [](const char *name, Action act) {
+            QTest::newRow(name) << act << std::string(name);
+        };
+        row("Apply GPS Data to Photos",
+            [](Outing &outing) { outing.matcher.applyToAllPictures(); });
+        row("Match Photo", [](Outing &outing) { outing.outlets.matchButton.press(); });
+        row("Step Clock Offset", [](Outing &outing) { outing.outlets.stepperMin.stepBy(-1); });
+        row("Change Sign of Clock Offset",
+            [](Outing &outing) { outing.outlets.plusMinus1.choose(1); });
+    }
+
+    void eachActionIsOneStepOfUndo() {
+        QFETCH(std::function<void(Outing &)>, act);
+        QFETCH(std::string, name);
+        Outing outing;
+        outing.addPhoto("10:50:00").updateLatAndLon({"1", "2"});
+        outing.setOffset(0, 0, 0, 30);
+        outing.undoManager.closeStep();
+        const std::string before = outing.everything();
+        act(outing);
+        const std::string after = outing.everything();
+        QVERIFY(after != before);
+        QCOMPARE(outing.undoManager.undoActionName(), name);
+        const auto zoom = outing.photo.zoom();
+        outing.undoManager.undo();
+        QCOMPARE(outing.everything(), before);
+        QCOMPARE(outing.photo.zoom(), zoom); // the map's own
+        outing.undoManager.redo();
+        QCOMPARE(outing.everything(), after);
     }
 };
 

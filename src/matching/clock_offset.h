@@ -1,0 +1,69 @@
+#pragma once
+
+#include "outlets/signal.h"
+#include "persistence/change_observer.h"
+#include "platform/date.h"
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace pinmora {
+
+class Context;
+class offset;
+struct MatchingOutlets;
+struct Selector;
+struct Stepper;
+
+/// The camera's clock against the receiver's: how far it is off, as a person steps it or as a photo
+/// and a track point that belong together tell it.
+///
+/// The offset is the record in `offsetObj`; steppers and sign selectors always show what it holds,
+/// also when that is taken back. A point or an offset that is deleted leaves its controller.
+class ClockOffset : private ChangeObserver {
+public:
+    /// Both must outlive it.
+    ClockOffset(Context &context, MatchingOutlets &outlets);
+    ~ClockOffset() override;
+    ClockOffset(const ClockOffset &) = delete;
+    ClockOffset &operator=(const ClockOffset &) = delete;
+
+    /// Sent after a step, and within its undo group: the photo is to be matched anew.
+    Signal<> stepped;
+
+    void stepHour(const Stepper &sender);
+    void stepMin(const Stepper &sender);
+    void stepSec(const Stepper &sender);
+    /// Takes the sign over. It shows its effect only with the next step or match.
+    void changePlusMinu(const Selector &sender);
+    void changeOffset() { updateShownOffset(); }
+    /// Nothing: a changed offset shows its effect with the next step or match.
+    void updateShownOffset() {}
+
+    /// Derives the offset from the first selected photo and the point in `bestGPS`, so that it
+    /// leads from exactly the one to the other, and places the photo at the point. The fields of
+    /// hours, minutes and seconds are rewritten only if asked. Nothing happens without a photo with
+    /// a date and a point with a time.
+    void setNewOffset(bool updateFields);
+
+    /// Shows a capture time with the offset applied.
+    void showCorrectedTime(Date corrected);
+
+private:
+    using Field = void (offset::*)(std::optional<std::int32_t>);
+
+    void didChange(Record &record, std::string_view key) override;
+    void didDelete(Record &record) override;
+    void connectControls();
+    void showStoredOffset();
+    void step(Field field, const Stepper &sender);
+    void storeFields(std::chrono::seconds apart);
+
+    Context &context_;
+    MatchingOutlets &outlets_;
+    std::vector<Connection> connections_;
+};
+
+} // namespace pinmora

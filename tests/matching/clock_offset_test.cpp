@@ -1,0 +1,179 @@
+#include "matching/clock_offset.h"
+
+#include "matching/desk.h"
+#include "matching/pointer_script.h"
+
+#include <QTest>
+
+using namespace pinmora;
+using namespace std::chrono_literals;
+
+class ClockOffsetTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void deriving_data() {
+        QTest::addColumn<qint64>("milliseconds"); // from the photo to the point
+        QTest::addColumn<std::string>("derived");
+        QTest::addColumn<std::string>("shown");
+
+        const auto row = [](const char *name, std::chrono::milliseconds later,
+                            const std::string &derived, const std::string &shown) {
+            QTest::newRow(name) << qint64{later.count()} << derived << shown;
+        };
+        row("earlier, fraction dropped", -89'400ms, "-0:1:29", "12 May 2008 11:58:31");
+        row("later", 2h + 30min + 5s, "+2:30:5", "12 May 2008 14:30:05");
+        row("the same instant", 0ms, "+0:0:0", "12 May 2008 12:00:00");
+        row("a little earlier", -900ms, "-0:0:0", "12 May 2008 12:00:00");
+        row("a little later", 900ms, "+0:0:0", "12 May 2008 12:00:00");
+        row("to the last second", 59min + 59s + 999ms, "+0:59:59", "12 May 2008 12:59:59");
+        row("days", -(75h + 1s), "-75:0:1", "9 May 2008 08:59:59");
+        row("weeks", 504h, "+504:0:0", "2 Jun 2008 12:00:00");
+    }
+
+    void deriving() {
+        QFETCH(qint64, milliseconds);
+        Desk desk;
+        desk.outlets.bestGPS.setContent(
+            &desk.addPoint(desk.noon + std::chrono::milliseconds(milliseconds)));
+        desk.clockOffset.setNewOffset(true);
+        QTEST(desk.storedOffset(), "derived");
+        QTEST(desk.steppedOffset(), "derived");
+        QTEST(desk.outlets.offsetText.text.get(), "shown");
+        QTEST(desk.outlets.offsetText2.text.get(), "shown");
+        QCOMPARE(desk.stored.offset_set(), std::optional(1));
+    }
+
+    void derivingPlacesThePhoto() {
+        Desk desk;
+        desk.photo.setAlt("5");
+        desk.photo.setZoom(14);
+        desk.outlets.offsetButton.enabled.set(false);
+        desk.outlets.bestGPS.setContent(&desk.addPoint(desk.noon, "-33.85670", "151.2", "410"));
+        desk.clockOffset.setNewOffset(true);
+        QCOMPARE(desk.placeOf(desk.photo), std::string("-33.85670 151.2 5 10"));
+        QVERIFY(desk.photo.lat_ref() == "S");
+        QVERIFY(desk.photo.position_source() == PositionSource::log);
+        QCOMPARE(desk.scripts, std::string("1:movePointer(-33.85670,151.2,14,'')"));
+        QCOMPARE(desk.shownDegrees.degree_lat(), std::optional(-33.8567));
+        QCOMPARE(desk.shownDegrees.degree_lon(), std::optional(151.2));
+        QCOMPARE(desk.addRemoveMarker.title.get(), std::string("Remove Marker"));
+        QCOMPARE(desk.addRemoveMarker.tag, 1);
+        QVERIFY(desk.outlets.offsetButton.enabled.get());
+    }
+
+    void derivingCanKeepTheFields() {
+        Desk desk;
+        desk.setOffset(1, 1, 75, 3);
+        desk.inWizard = true;
+        desk.outlets.bestGPS.setContent(&desk.addPoint(desk.noon - 20s));
+        desk.clockOffset.setNewOffset(false);
+        QCOMPARE(desk.storedOffset(), std::string("-1:75:3"));
+        QCOMPARE(desk.stored.offset_set(), std::optional(1));
+        QCOMPARE(desk.outlets.offsetText.text.get(), std::string("12 May 2008 11:59:40"));
+        QCOMPARE(desk.placeOf(desk.photo), std::string("47.1 8.2 - 10"));
+        QCOMPARE(desk.scripts, std::string("2:movePointer(47.1,8.2,0,'')"));
+        QCOMPARE(desk.addRemoveMarker.title.get(), std::string());
+    }
+
+    void derivingNeedsAllThatItStandsOn_data() {
+        using Spoil = std::function<void(Desk &)>;
+        QTest::addColumn<Spoil>("spoil");
+        const auto row = [](const char *name, Spoil spoil) { QTest::newRow(name) << spoil; };
+        row("no photo", [](Desk &desk) { desk.pictureArray.setSelectedObjects({}); });
+        row("no date", [](Desk &desk) { desk.photo.setDate("12/05/2008"); });
+        row("no point", [](Desk &desk) { desk.outlets.bestGPS.setContent(nullptr); });
+        row("no time", [](Desk &desk) { desk.outlets.bestGPS.content()->setTimeWithDate({}); });
+        row("point deleted",
+            [](Desk &desk) { desk.context.deleteObject(*desk.outlets.bestGPS.content()); });
+        row("no offset", [](Desk &desk) { desk.context.deleteObject(desk.stored); });
+    }
+
+    void derivingNeedsAllThatItStandsOn() {
+        QFETCH(std::function<void(Desk &)>, spoil);
+        Desk desk;
+        desk.outlets.bestGPS.setContent(&desk.addPoint(desk.noon + 1h));
+        spoil(desk);
+        desk.context.commitChanges();
+        desk.clockOffset.setNewOffset(true);
+        QVERIFY(!desk.context.hasChanges());
+        QCOMPARE(desk.scripts + desk.outlets.offsetText.text.get(), std::string());
+    }
+
+    void pointerScripts_data() {
+        QTest::addColumn<std::string>("lat");
+        QTest::addColumn<std::string>("lon");
+        QTest::addColumn<std::string>("script");
+
+        const auto row = [](const std::string &lat, const std::string &lon,
+                            const std::string &script) {
+            QTest::addRow("%s, %s", lat.c_str(), lon.c_str()) << lat << lon << script;
+        };
+        const std::string remove = "removePointer()";
+        row("47.0", "8", "movePointer(47.0,8,7,'')");
+        row(" -47.5 ", "+.5", "movePointer(-47.5,+.5,7,'')");
+        row("07.50", "-008.", "movePointer(7.50,-8.,7,'')");
+        row("00.5", "000", "movePointer(0.5,0,7,'')");
+        row("", "8", remove);
+        row("47", "-.", remove);
+        row("4.7.1", "8", remove);
+        row("4 7", "8", remove);
+        row("1e2", "8", remove);
+        row("47,5", "8", remove);
+        row("0x10", "8", remove);
+        row("47", "8);alert(1", remove);
+        row("nan", "inf", remove);
+        row("--1", "1-", remove);
+    }
+
+    void pointerScripts() {
+        QFETCH(std::string, lat);
+        QFETCH(std::string, lon);
+        QTEST(pointerScript(lat, lon, 7), "script");
+    }
+
+    void steppersReachAsFarAsTheyShould() {
+        Desk desk;
+        desk.pictureArray.setSelectedObjects({}); // a step is a step also when nothing is matched
+        desk.outlets.plusMinus2.choose(1);
+        desk.outlets.stepperMin.stepBy(-1);
+        desk.outlets.stepperSec.stepBy(61);
+        desk.outlets.stepperHour.stepBy(-1);
+        QCOMPARE(desk.storedOffset(), std::string("+0:59:1"));
+        desk.outlets.stepperHour.stepBy(2'000'000);
+        QCOMPARE(desk.storedOffset(), std::string("+999999:59:1"));
+        QCOMPARE(desk.steppedOffset(), desk.storedOffset());
+    }
+
+    void theSignAloneMovesNothing() {
+        Desk desk;
+        desk.addPoint(desk.noon + 1h, "1", "2");
+        desk.addPoint(desk.noon - 1h, "3", "4");
+        desk.outlets.plusMinus.choose(1);
+        desk.outlets.stepperHour.stepBy(1);
+        const std::string place = desk.placeOf(desk.photo);
+        desk.outlets.plusMinus3.choose(0);
+        desk.clockOffset.changeOffset();
+        QCOMPARE(desk.storedOffset(), std::string("-1:0:0"));
+        QCOMPARE(desk.steppedOffset(), std::string("-1:0:0"));
+        QCOMPARE(desk.placeOf(desk.photo), place);
+        QCOMPARE(desk.outlets.offsetText.text.get(), std::string("12 May 2008 13:00:00"));
+    }
+
+    void controlsShowTheRecord() {
+        Desk desk;
+        desk.setOffset(7, 1'000'000, 75, 3);
+        QCOMPARE(desk.steppedOffset(), std::string("+1000000:75:3"));
+        offset &another = desk.context.insert<offset>();
+        another.setSeconds(9);
+        desk.outlets.offsetObj.setContent(&another);
+        QCOMPARE(desk.steppedOffset(), std::string("-0:0:9"));
+        desk.stored.setHours(5);
+        QCOMPARE(desk.steppedOffset(), std::string("-0:0:9"));
+        desk.context.deleteObject(another);
+        QCOMPARE(desk.steppedOffset(), std::string("-0:0:0"));
+    }
+};
+
+QTEST_GUILESS_MAIN(ClockOffsetTest)
+#include "clock_offset_test.moc"
