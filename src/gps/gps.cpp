@@ -2,6 +2,7 @@
 
 #include "gps/import_telling.h"
 #include "gps/log_head.h"
+#include "persistence/undo_group.h"
 #include "platform/external_entity.h"
 #include "platform/text_encoding.h"
 #include "platform/zone_scope.h"
@@ -19,10 +20,13 @@ std::chrono::year currentYear() {
     return std::chrono::year_month_day(day).year();
 }
 
+constexpr std::string_view stepName = "Load GPS Data";
+
 } // namespace
 
 Gps::Gps(Context &context, ProgressSheet &progress, ErrorSheet &errors)
-    : errors_(errors), gpx_(context, progress, errors), nmea_(context, progress, errors) {}
+    : context_(context), errors_(errors), gpx_(context, progress, errors),
+      nmea_(context, progress, errors) {}
 
 void Gps::beginLoad() {
     gpx_.elements().setInTrack(false);
@@ -31,6 +35,7 @@ void Gps::beginLoad() {
 }
 
 LogReport Gps::loadLog(const std::filesystem::path &path) {
+    const UndoGroup group(context_, stepName);
     InputFile file;
     if (const std::error_code reason = file.open(path)) {
         return reportUnreadable(path, reason);
@@ -53,6 +58,7 @@ LogReport Gps::loadLog(const std::filesystem::path &path) {
 }
 
 LogReport Gps::parseXMLFile(const std::filesystem::path &path) {
+    const UndoGroup group(context_, stepName);
     InputFile file;
     if (const std::error_code reason = file.open(path)) {
         return reportUnreadable(path, reason);
@@ -61,6 +67,7 @@ LogReport Gps::parseXMLFile(const std::filesystem::path &path) {
 }
 
 LogReport Gps::processNMEAData(std::string_view text) {
+    const UndoGroup group(context_, stepName);
     const ImportFacts facts = factsOf(ImportFacts::Format::Nmea, {});
     const ImportTelling telling(journal_, facts);
     LogReport report = nmea_.read(text, {}, reading_, std::chrono::year(facts.currentYear));

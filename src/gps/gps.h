@@ -15,7 +15,7 @@
 namespace pinmora {
 
 /// Loads GPS logs into tracks. Everything runs at once on the calling thread; what is made stays in
-/// the context, whatever comes after it.
+/// the context, whatever comes after it. A log is one step of undo, or part of the one under way.
 class Gps : public LogImporter {
 public:
     /// All three must outlive it.
@@ -65,6 +65,7 @@ private:
     ImportFacts factsOf(ImportFacts::Format format, const std::filesystem::path &path) const;
     LogReport reportUnreadable(const std::filesystem::path &path, std::error_code reason);
 
+    Context &context_;
     ErrorSheet &errors_;
     GpxReader gpx_;
     NmeaReader nmea_;

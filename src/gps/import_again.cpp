@@ -53,7 +53,6 @@ void Gps::importAgain(Context &context, const ImportFacts &facts, Record *curren
         block = source.next();
     }
     reader.finish();
-    gpx_.elements().countOnFrom(reader.elements());
 }
 
 } // namespace pinmora

@@ -86,8 +86,6 @@ public:
     /// Takes records out and keeps them, without regard to delete rules, as a part of the step
     /// under way. Links to those that stay are ended, which is registered as well.
     void withdraw(const RecordList &records);
-    /// Puts back what was taken out within the step under way: in the reverse order.
-    void putBack(Record &record);
 
     /// What undo stands on; nothing is registered. takeOut() returns the links to records that
     /// stay, which it has ended; putIn() wants the reverse order and the commitCount() of the

@@ -197,12 +197,4 @@ void Context::putIn(Record &record, std::uint32_t takenOutAt) {
          [&](ChangeObserver &observer) { observer.didInsert(record); });
 }
 
-void Context::putBack(Record &record) {
-    putIn(record, commitCount_);
-    if (undoManager_) {
-        undoManager_->didInsert(record);
-        record.fresh_ = false;
-    }
-}
-
 } // namespace pinmora

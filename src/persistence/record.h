@@ -76,11 +76,6 @@ public:
     virtual std::uint8_t changeMark() const { return 0; }
     virtual void setChangeMark(std::uint8_t /*mark*/) {}
 
-    /// What the recovery file holds of the record.
-    enum class InRecovery : std::uint8_t { Unknown, Present, Removed };
-    InRecovery inRecovery() const { return inRecovery_; }
-    void setInRecovery(InRecovery in) { inRecovery_ = in; }
-
     bool isInserted() const { return !outside_ && state_ == RecordState::Inserted; }
     bool isUpdated() const { return !outside_ && state_ == RecordState::Updated; }
     bool isDeleted() const { return outside_; }
@@ -115,7 +110,6 @@ private:
     bool doomed_ = false;                    ///< part of the deletion under way
     bool fresh_ = false;   ///< came in within this part of a step: its values need no registering
     bool unheard_ = false; ///< fresh, and nobody wants to hear of its values
-    InRecovery inRecovery_ = InRecovery::Unknown;
 };
 
 } // namespace pinmora

@@ -153,30 +153,26 @@ bool UndoManager::canUndo() const {
 }
 
 void UndoManager::undo() {
-    closeStep();
-    if (depth_ > 0 || done_.empty()) {
-        return;
-    }
-    undone_.push_back(std::move(done_.back()));
-    done_.pop_back();
-    exchanging_ = true;
-    undone_.back().undo(context_);
-    exchanging_ = false;
-    tell([&](UndoObserver &observer) { observer.didUndo(undone_.back()); });
-    tell([](UndoObserver &observer) { observer.didChangeHistory(); });
+    exchange(done_, undone_, &UndoStep::undo, &UndoObserver::didUndo);
 }
 
 void UndoManager::redo() {
+    exchange(undone_, done_, &UndoStep::redo, &UndoObserver::didRedo);
+}
+
+void UndoManager::exchange(std::vector<UndoStep> &from, std::vector<UndoStep> &to,
+                           void (UndoStep::*act)(Context &),
+                           void (UndoObserver::*notice)(const UndoStep &)) {
     closeStep();
-    if (depth_ > 0 || undone_.empty()) {
+    if (depth_ > 0 || from.empty()) {
         return;
     }
-    done_.push_back(std::move(undone_.back()));
-    undone_.pop_back();
+    to.push_back(std::move(from.back()));
+    from.pop_back();
     exchanging_ = true;
-    done_.back().redo(context_);
+    (to.back().*act)(context_);
     exchanging_ = false;
-    tell([&](UndoObserver &observer) { observer.didRedo(done_.back()); });
+    tell([&](UndoObserver &observer) { (observer.*notice)(to.back()); });
     tell([](UndoObserver &observer) { observer.didChangeHistory(); });
 }
 

@@ -75,6 +75,8 @@ private:
     void closePart();
     void closeAside();
     void finish();
+    void exchange(std::vector<UndoStep> &from, std::vector<UndoStep> &to,
+                  void (UndoStep::*act)(Context &), void (UndoObserver::*notice)(const UndoStep &));
     template <class Notice>
     void tell(Notice notice) const;
     UndoStep *stepToJoin(std::uint64_t id);

@@ -34,7 +34,8 @@ std::map<std::string, Rooms> allowedArrows() {
     }
     arrows["matching"].insert("coords");
     arrows["saving"].insert("photos");
-    arrows["shell"] = records + subsystems;
+    arrows["recovery"] = records;
+    arrows["shell"] = records + subsystems + Rooms{"recovery"};
     arrows["ui"] = arrows["shell"] + Rooms{"shell"};
     arrows["apps/pinmora-tag"] = arrows["ui"] + Rooms{"services"};
     arrows["apps/pinmora"] = arrows["apps/pinmora-tag"] + Rooms{"ui"};

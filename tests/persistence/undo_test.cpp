@@ -140,7 +140,7 @@ private:
 
 void UndoTest::anythingCanBeTakenBackAndDoneAgain_data() {
     QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 60; ++seed) {
+    for (unsigned seed = 1; seed <= 30; ++seed) {
         QTest::addRow("seed %u", seed) << seed;
     }
 }

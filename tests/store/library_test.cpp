@@ -4,6 +4,7 @@
 #include "store/degrees.h"
 #include "store/image_data.h"
 #include "store/offset.h"
+#include "store/start_records.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -113,10 +114,11 @@ void LibraryTest::everythingIsMadeWhenItIsFirstAskedFor() {
 void LibraryTest::aLibraryOutlivesTheProgram() {
     {
         Run run;
-        run.context().insert<degrees>();
-        run.context().insert<image_data>().setName("shown");
-        auto &clock = run.context().insert<offset>();
-        clock.setHours(2);
+        const StartRecords start = makeStartRecords(run.context());
+        start.currentPicture.setName("shown");
+        start.shownPosition.setDegree_lat(47.5);
+        QVERIFY(!run.library.windowWillReturnUndoManager(run.window).canUndo());
+        start.clockOffset.setHours(2);
         run.addTrack(3);
         auto &photo = run.context().insert<image>();
         photo.updateLatAndLon({"47.1", "8.50"});
@@ -128,7 +130,8 @@ void LibraryTest::aLibraryOutlivesTheProgram() {
     }
     Run run;
     QCOMPARE(run.context().count<degrees>() + run.context().count<image_data>(), 0u);
-    QVERIFY((*run.context().records<offset>().begin())->hours() == 2);
+    QVERIFY(makeStartRecords(run.context()).clockOffset.hours() == 2);
+    QCOMPARE(run.context().count<offset>(), 1u);
     const image &photo = **run.context().records<image>().begin();
     QVERIFY(photo.lon() == "8.50" && !photo.city().hasValue() && !photo.getHasChanges());
     std::vector<std::int32_t> order;
