@@ -7,11 +7,6 @@
 
 namespace pinmora {
 
-const AxisKind latitudeKind{"lat", "latitude", 90, &degrees::negative_lat,
-                            &degrees::setNegative_lat};
-const AxisKind longitudeKind{"lon", "longitude", 180, &degrees::negative_lon,
-                             &degrees::setNegative_lon};
-
 namespace {
 
 constexpr int positionDecimals = 6; // a tenth of a metre on the ground
@@ -100,14 +95,14 @@ void AxisFields::show(const degrees *record) {
 
 std::optional<TypedAngle> AxisFields::readDecimal() {
     const std::string text(d.typedText());
-    const degrees::Number number = plainDecimal(text);
-    if (!text.empty() && !(number && std::abs(*number) <= kind_.limit)) {
-        const std::string limit = std::to_string(kind_.limit);
-        d.problem.set("The " + std::string(kind_.name) + " is a number from -" + limit + " to " +
-                      limit + ", such as 47.3825.");
+    if (text.empty()) {
+        return TypedAngle{text, {}, false, {{recordKey("degree_"), {}}}};
+    }
+    const std::optional<double> number = readDegrees(d, kind_);
+    if (!number) {
         return std::nullopt;
     }
-    return TypedAngle{text, number, number.value_or(0) < 0, {{recordKey("degree_"), number}}};
+    return TypedAngle{text, number, *number < 0, {{recordKey("degree_"), number}}};
 }
 
 std::optional<TypedAngle> AxisFields::readParts(Notation notation, const degrees &record) {

@@ -2,6 +2,7 @@
 
 #include "coords/angle_parts.h"
 #include "coords/coordinate_field.h"
+#include "coords/degree_text.h"
 #include "outlets/selector.h"
 #include "store/degrees.h"
 
@@ -12,17 +13,6 @@
 #include <vector>
 
 namespace pinmora {
-
-/// What the fields of latitude or longitude have to know to be theirs.
-struct AxisKind {
-    std::string_view key;  ///< the photo's; the keys of `degrees` end in it
-    std::string_view name; ///< in sentences
-    int limit;             ///< degrees
-    bool (degrees::*negative)() const;
-    void (degrees::*setNegative)(bool);
-};
-extern const AxisKind latitudeKind;
-extern const AxisKind longitudeKind;
 
 /// What a person has typed, read.
 struct TypedAngle {

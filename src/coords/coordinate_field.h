@@ -12,9 +12,7 @@ namespace pinmora {
 /// A field for a part of a coordinate. What a person types stands in `text` at once and is taken
 /// over when the field is `finished`; until then, and when it is refused, it differs from what the
 /// field shows.
-struct CoordinateField : TextField {
-    /// Why the text cannot be taken over, as a sentence; "" when nothing is wrong.
-    Observable<std::string> problem;
+struct CoordinateField : CheckedField {
     /// The field has been left, or Return pressed.
     Signal<> finished;
 

@@ -2,6 +2,7 @@
 
 #include "persistence/undo_group.h"
 #include "platform/number_text.h"
+#include "platform/scoped_flag.h"
 
 #include <utility>
 
@@ -124,7 +125,7 @@ void CoordinateFields::takeOverEdited(AxisFields &axis) {
 }
 
 void CoordinateFields::apply(AxisFields &axis, const TypedAngle &typed) {
-    writing_ = true;
+    const ScopedFlag writing(writing_);
     if (degrees *record = shownRecord()) {
         axis.write(typed, *record);
     }
@@ -133,7 +134,6 @@ void CoordinateFields::apply(AxisFields &axis, const TypedAngle &typed) {
     for (image *photo : photos) {
         setCoordinate(*photo, axis, typed.text);
     }
-    writing_ = false;
     show(axis);
 }
 
@@ -145,7 +145,7 @@ void CoordinateFields::chooseHemisphere(AxisFields &axis) {
     if (!record || (record->*axis.kind().negative)() == negative) {
         return;
     }
-    writing_ = true;
+    const ScopedFlag writing(writing_);
     axis.setNegative(negative, *record);
     const Text held = photo_->valueForKey(axis.kind().key).toText();
     std::string_view text = trimmed(held.view());
@@ -154,7 +154,6 @@ void CoordinateFields::chooseHemisphere(AxisFields &axis) {
         const UndoGroup group(context_, stepName);
         setCoordinate(*photo_, axis, std::string(negative ? "-" : "").append(text));
     }
-    writing_ = false;
     show(axis);
 }
 

@@ -53,6 +53,7 @@ void Gps::importAgain(Context &context, const ImportFacts &facts, Record *curren
         block = source.next();
     }
     reader.finish();
+    gpx_.elements().countOnFrom(reader.elements());
 }
 
 } // namespace pinmora

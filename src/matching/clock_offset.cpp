@@ -26,11 +26,17 @@ ClockOffset::ClockOffset(Context &context, MatchingOutlets &outlets)
     connectControls();
     context.addObserver(*this, {.entity = &offset::description()});
     context.addObserver(*this, {.entity = &track_part::description(), .values = false});
+    if (UndoManager *undo = context.undoManager()) {
+        undo->addObserver(*this);
+    }
     showStoredOffset();
 }
 
 ClockOffset::~ClockOffset() {
     context_.removeObserver(*this);
+    if (UndoManager *undo = context_.undoManager()) {
+        undo->removeObserver(*this);
+    }
 }
 
 void ClockOffset::connectControls() {
@@ -139,6 +145,19 @@ void ClockOffset::storeFields(std::chrono::seconds apart) {
     outlets_.addRemoveMarker.title.set("Remove Marker");
     outlets_.addRemoveMarker.tag = 1;
     outlets_.offsetButton.enabled.set(true);
+}
+
+/// Only one photo's time against a log tells anything.
+void ClockOffset::showSelectedTime() {
+    const auto &selected = outlets_.pictureArray.selectedObjects();
+    const offset *const stored = outlets_.offsetObj.content();
+    if (selected.size() == 1 && selected.front()->date() && stored &&
+        context_.count<track_part>() > 0) {
+        showCorrectedTime(*correctedTime(*selected.front(), *stored));
+    } else {
+        outlets_.offsetText.text.set("");
+        outlets_.offsetText2.text.set("");
+    }
 }
 
 void ClockOffset::showCorrectedTime(Date corrected) {

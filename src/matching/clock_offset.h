@@ -2,6 +2,7 @@
 
 #include "outlets/signal.h"
 #include "persistence/change_observer.h"
+#include "persistence/undo_observer.h"
 #include "platform/date.h"
 
 #include <chrono>
@@ -21,8 +22,9 @@ struct Stepper;
 /// and a track point that belong together tell it.
 ///
 /// The offset is the record in `offsetObj`; steppers and sign selectors always show what it holds,
-/// also when that is taken back. A point or an offset that is deleted leaves its controller.
-class ClockOffset : private ChangeObserver {
+/// also when that is taken back, and the corrected time is then the selected photo's. A point or an
+/// offset that is deleted leaves its controller.
+class ClockOffset : private ChangeObserver, private UndoObserver {
 public:
     /// Both must outlive it.
     ClockOffset(Context &context, MatchingOutlets &outlets);
@@ -56,6 +58,9 @@ private:
 
     void didChange(Record &record, std::string_view key) override;
     void didDelete(Record &record) override;
+    void didUndo(const UndoStep &) override { showSelectedTime(); }
+    void didRedo(const UndoStep &) override { showSelectedTime(); }
+    void showSelectedTime();
     void connectControls();
     void showStoredOffset();
     void step(Field field, const Stepper &sender);

@@ -1,5 +1,6 @@
 #include "matching/matcher.h"
 
+#include "coords/degree_text.h"
 #include "matching/clock_offset.h"
 #include "matching/matching_outlets.h"
 #include "matching/placing.h"
@@ -7,7 +8,7 @@
 #include "persistence/context.h"
 #include "persistence/undo_group.h"
 #include "platform/notification_centre.h"
-#include "platform/number_text.h"
+#include "platform/scoped_flag.h"
 #include "store/image.h"
 #include "store/offset.h"
 
@@ -16,18 +17,6 @@ namespace pinmora {
 namespace {
 
 constexpr std::string_view matchAction = "Match Photo";
-
-/// While it lives, the flag is set.
-class Running {
-public:
-    explicit Running(bool &flag) : flag_(flag) { flag_ = true; }
-    Running(const Running &) = delete;
-    Running &operator=(const Running &) = delete;
-    ~Running() { flag_ = false; }
-
-private:
-    bool &flag_;
-};
 
 } // namespace
 
@@ -64,14 +53,17 @@ void Matcher::gpsMatcher(bool updateFields) {
 }
 
 void Matcher::startGPSMatch() {
-    context_.commitEditing();
-    gpsMatcher(true);
+    if (context_.commitEditing()) {
+        gpsMatcher(true);
+    }
 }
 
 void Matcher::guessFromLatLon() {
-    context_.commitEditing();
-    const auto lat = plainDecimal(outlets_.knownLat.text.get());
-    const auto lon = plainDecimal(outlets_.knownLon.text.get());
+    if (!context_.commitEditing()) {
+        return;
+    }
+    const std::optional<double> lat = readDegrees(outlets_.knownLat, latitudeKind);
+    const std::optional<double> lon = readDegrees(outlets_.knownLon, longitudeKind);
     const image *const photo = outlets_.pictureArray.firstSelectedObject();
     if (!lat || !lon || !photo || !photo->date()) {
         return;
@@ -85,7 +77,9 @@ void Matcher::guessFromLatLon() {
 
 /// The photo's position may still be half typed.
 void Matcher::guessFromSelectedPhoto() {
-    context_.commitEditing();
+    if (!context_.commitEditing()) {
+        return;
+    }
     const image *const photo = outlets_.pictureArray.firstSelectedObject();
     if (photo && photo->lat_and_lon()) {
         outlets_.knownLat.text.set(photo->lat().string());
@@ -95,6 +89,9 @@ void Matcher::guessFromSelectedPhoto() {
 }
 
 void Matcher::applyToAllPictures() {
+    if (!context_.commitEditing()) {
+        return; // what is half typed would be taken over later, on top of the matched positions
+    }
     // A copy: handlers of the progress sheet may change what is arranged.
     const bool placedAny = applyTo(std::vector(outlets_.pictureArray.arrangedObjects()));
     context_.commitEditing();
@@ -111,7 +108,7 @@ void Matcher::applyToAllPictures() {
 /// Whether any photo got a place.
 bool Matcher::applyTo(const std::vector<image *> &photos) {
     const UndoGroup group(context_, "Apply GPS Data to Photos");
-    const Running running(runningApplyToAll_);
+    const ScopedFlag running(runningApplyToAll_);
     const std::string total = std::to_string(photos.size());
     outlets_.progress.showProgressWindow("Applying to GPS data to photos", "",
                                          static_cast<double>(photos.size()));

@@ -31,12 +31,13 @@ public:
     /// in `bestGPS`, and sets the offset anew. Nothing happens without a photo with a date; without
     /// a point it is left with the time.
     void gpsMatcher(bool updateFields);
-    /// Takes half-typed input over, then gpsMatcher() with the offset's fields rewritten.
+    /// Takes half-typed input over, then gpsMatcher() with the offset's fields rewritten. Like the
+    /// other actions of a person it does nothing when some of that input is unfit.
     void startGPSMatch();
 
     /// Takes half-typed input over, then sets the offset by the first selected photo and the point
-    /// nearest to the position in `knownLat` and `knownLon`. Nothing happens unless both hold a
-    /// number and nothing else.
+    /// nearest to the position in `knownLat` and `knownLon`. Nothing happens unless both hold
+    /// such a number and nothing else; the field that does not tells why.
     void guessFromLatLon();
 
     /// Gives all photos, in arranged order, latitude, longitude and altitude of their points; one

@@ -41,8 +41,8 @@ struct MatchingOutlets {
     Button offsetButton{}; ///< takes the selected photo's position for the known one
     Button offsetButton2{};
     Button matchButton{};
-    TextField knownLat{}; ///< signed decimal degrees
-    TextField knownLon{};
+    CheckedField knownLat{}; ///< signed decimal degrees
+    CheckedField knownLon{};
 
     // What the wizard offers once the photos have their places.
     Button nextButtonAppliedAll{};

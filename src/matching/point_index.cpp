@@ -1,8 +1,8 @@
 #include "matching/point_index.h"
 
-#include "matching/findable_point.h"
 #include "matching/sort_runs.h"
 #include "matching/time_distance.h"
+#include "store/track_part.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -14,6 +14,11 @@
 namespace pinmora {
 
 namespace {
+
+/// Whether a photo can be given the point's place.
+bool isFindable(const track_part &point) {
+    return point.time() && !point.lat().view().empty() && !point.lon().view().empty();
+}
 
 /// The end of the stretch, from `begin` on, of elements that belong. Looked for in steps that
 /// double, because it is near as a rule.

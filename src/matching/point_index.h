@@ -13,8 +13,8 @@ class track_part;
 /// Finds the track point nearest in time to an instant, as a walk over all points would.
 ///
 /// Near is told in whole seconds (wholeSecondsApart()), however many; of several points at the same
-/// distance the earliest in the arranged order is the nearest. Points that are not findable
-/// (isFindable()) are left out.
+/// distance the earliest in the arranged order is the nearest. Points without a time, a
+/// latitude or a longitude are left out.
 ///
 /// Building sorts the points by time, which is no work where they are in that order already, as
 /// logs are; a search is logarithmic and allocates nothing. The points are looked at only while

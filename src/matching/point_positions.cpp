@@ -1,7 +1,7 @@
 #include "matching/point_positions.h"
 
-#include "matching/findable_point.h"
 #include "platform/number_text.h"
+#include "store/track_part.h"
 
 namespace pinmora {
 
@@ -11,9 +11,10 @@ void PointPositions::reserve(std::size_t count) {
 }
 
 void PointPositions::keepIfFindable(track_part *point) {
-    if (isFindable(*point)) {
-        positions_.push_back(
-            {leadingDouble(point->lat().view()), leadingDouble(point->lon().view())});
+    const std::optional<double> lat = plainDecimal(point->lat().view());
+    const std::optional<double> lon = plainDecimal(point->lon().view());
+    if (point->time() && lat && lon) {
+        positions_.push_back({*lat, *lon});
         points_.push_back(point);
     }
 }

@@ -17,7 +17,7 @@ struct Position {
 ///
 /// Near is told by the sum of the squares of both differences in plain degrees, whatever a degree
 /// of longitude measures there; of several points at the same distance the earliest in the arranged
-/// order is the nearest. Points that are not findable (isFindable()) are left out.
+/// order is the nearest. Points without a time, or whose position is no number, are left out.
 ///
 /// Building reads the positions out of their texts; a search walks over plain numbers. The points
 /// are looked at only while building.

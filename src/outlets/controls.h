@@ -19,6 +19,12 @@ struct TextField : Control {
     Observable<std::string> text;
 };
 
+/// A field whose text can be unfit.
+struct CheckedField : TextField {
+    /// Why the text cannot be taken over, as a sentence; "" when nothing is wrong.
+    Observable<std::string> problem;
+};
+
 struct Button : Control {
     Observable<std::string> title;
     Signal<> pressed;

@@ -37,6 +37,8 @@ public:
     void enableRegistration();
     /// Ends the step that the present turn has made, if it has made one; nothing within a group.
     void closeStep();
+    /// Tells of what has come until now, also within a group; the step goes on.
+    void closePart();
     /// Names the step under way.
     void setActionName(std::string_view name) { open_.name = name; }
 
@@ -72,7 +74,6 @@ private:
     bool registers() const { return disabled_ == 0; }
     static void endFreshness(const UndoStep &told);
     UndoStep &part();
-    void closePart();
     void closeAside();
     void finish();
     void exchange(std::vector<UndoStep> &from, std::vector<UndoStep> &to,

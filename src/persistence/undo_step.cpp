@@ -92,6 +92,14 @@ void destroyHeld(std::vector<UndoStep::Run> &runs) {
 
 } // namespace
 
+void UndoStep::addChange(ValueChange change) {
+    if (markedBefore_ == change.record) {
+        change.otherMark = markBefore_;
+    }
+    markedBefore_ = nullptr;
+    last<Changes>().push_back(std::move(change));
+}
+
 void UndoStep::addDeletion(Record &record, std::uint32_t commitCount) {
     auto &deletions = last<Deletions>();
     deletions.records.push_back(&record);
@@ -106,6 +114,8 @@ void UndoStep::dropChangeIfNone(const Record &record, const Property &property) 
     const ValueChange &latest = changes->back();
     if (latest.record == &record && latest.property == &property &&
         latest.other == property.primitive(record)) {
+        markedBefore_ = &record;
+        markBefore_ = latest.otherMark;
         changes->pop_back();
         if (changes->empty()) {
             runs_.pop_back();

@@ -49,10 +49,11 @@ public:
     bool isEmpty() const { return runs_.empty(); }
     const std::vector<Run> &runs() const { return runs_; }
 
-    void addChange(ValueChange change) { last<Changes>().push_back(std::move(change)); }
+    void addChange(ValueChange change);
     void addInsertion(Record &record) { last<Insertions>().records.push_back(&record); }
     void addDeletion(Record &record, std::uint32_t commitCount);
-    /// Takes the latest change back out if the record has the same value again.
+    /// Takes the latest change back out if the record has the same value again. Its mark counts for
+    /// the record's next change: what drew the mark on may be both of them.
     void dropChangeIfNone(const Record &record, const Property &property);
     /// Adds what a later part of the same action has done.
     void append(UndoStep later);
@@ -74,6 +75,8 @@ private:
     }
 
     std::vector<Run> runs_;
+    const Record *markedBefore_ = nullptr; ///< whose latest change was none
+    std::uint8_t markBefore_ = 0;          ///< and the mark that it had then
 };
 
 } // namespace pinmora

@@ -1,6 +1,7 @@
 #include "store/degrees.h"
 
 #include "persistence/property.h"
+#include "platform/number_text.h"
 
 namespace pinmora {
 
@@ -67,9 +68,7 @@ void degrees::showPosition(const Text &latitude, const Text &longitude) {
 }
 
 degrees::Number degrees::numberIn(const Value &value) {
-    const Text text = value.toText();
-    const bool hasDigit = text.view().find_first_of("0123456789") != std::string_view::npos;
-    return hasDigit ? value.toNumber() : std::nullopt;
+    return plainDecimal(value.toText().view()) ? value.toNumber() : std::nullopt;
 }
 
 void degrees::setDegree(const Axis &axis, Number value) {

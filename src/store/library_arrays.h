@@ -8,7 +8,8 @@
 namespace pinmora {
 
 /// The lists of the library that windows show and actions work on. Points stand in the order in
-/// which they were imported, also after a restart.
+/// which they were imported, also after a restart: searches among them walk in that order, so this
+/// list is never sorted or filtered.
 struct LibraryArrays {
     explicit LibraryArrays(Context &context)
         : pictureArray(context), gpsTrackArrayController(context), gpsArray(context) {}

@@ -1,5 +1,5 @@
-#include "platform/external_entity.h"
 #include "gps/log_desk.h"
+#include "platform/external_entity.h"
 
 #include <QtTest>
 

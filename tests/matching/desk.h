@@ -14,7 +14,7 @@ namespace pinmora {
 
 /// What a person has in front of them: a library with one photo, taken at noon and selected, and
 /// the controls around it.
-struct Desk : Library {
+struct Desk : PointLibrary {
     offset &stored = context.insert<offset>();
     degrees &shownDegrees = context.insert<degrees>();
     image &photo = addPhoto("12:00:00");

@@ -8,7 +8,7 @@
 namespace pinmora {
 
 /// A library in memory, and verbs to fill it with points.
-struct Library {
+struct PointLibrary {
     NotificationCentre notifications;
     LibraryModel model{notifications};
     Context context{model};

@@ -156,6 +156,7 @@ private Q_SLOTS:
         QTest::newRow("words") << std::string("47") << std::string("east") << none;
         QTest::newRow("comma") << std::string("47,3") << std::string("8") << none;
         QTest::newRow("letter") << std::string("47") << std::string("70 W") << none;
+        QTest::newRow("beyond") << std::string("90.1") << std::string("8") << none;
     }
 
     void knownPositions() {
@@ -169,6 +170,9 @@ private Q_SLOTS:
         outing.outlets.knownLat.text.set(lat);
         outing.matcher.guessFromLatLon();
         QTEST(outing.storedOffset(), "derived");
+        QCOMPARE(outing.outlets.knownLat.problem.get() + outing.outlets.knownLon.problem.get() !=
+                     "",
+                 outing.storedOffset() == "-0:0:0");
     }
 
     void thePhotosOwnPositionCanBeTheKnownOne() {
@@ -211,8 +215,9 @@ private Q_SLOTS:
         outing.matcher.applyToAllPictures();
         outing.context.removeObserver(keys);
 
-        QCOMPARE(heard, std::string("Processing 1 of 3; Processing 2 of 3; Processing 3 of 3; "
-                                    "edited moved"));
+        QCOMPARE(heard,
+                 std::string("edited Processing 1 of 3; Processing 2 of 3; Processing 3 of 3; "
+                             "edited moved"));
         QCOMPARE(keys.keys, std::string("lat lon alt zoom lat lon alt zoom "));
         QCOMPARE(outing.placeOf(outing.photo), std::string("47.3 8.4  10"));
         QCOMPARE(outing.placeOf(early), std::string("-33.85670 -070.1  12.50  10"));
@@ -244,6 +249,18 @@ private Q_SLOTS:
         QCOMPARE(told, 1);
     }
 
+    void unfitInputStopsEachAction() {
+        Outing outing;
+        outing.photo.updateLatAndLon({"46", "9.4"});
+        outing.context.setEndEditing([] { return false; });
+        const std::string before = outing.everything();
+        outing.outlets.matchButton.press();
+        outing.outlets.offsetButton.press();
+        outing.matcher.guessFromLatLon();
+        outing.matcher.applyToAllPictures();
+        QCOMPARE(outing.everything(), before);
+    }
+
     void eachActionIsOneStepOfUndo_data() {
         using Action = std::function<void(Outing &)>;
         QTest::addColumn<Action>("act");
@@ -254,6 +271,9 @@ private Q_SLOTS:
         row("Apply GPS Data to Photos",
             [](Outing &outing) { outing.matcher.applyToAllPictures(); });
         row("Match Photo", [](Outing &outing) { outing.outlets.matchButton.press(); });
+        QTest::newRow("by place") << Action([](Outing &outing) {
+            outing.outlets.offsetButton.press();
+        }) << std::string("Match Photo");
         row("Step Clock Offset", [](Outing &outing) { outing.outlets.stepperMin.stepBy(-1); });
         row("Change Sign of Clock Offset",
             [](Outing &outing) { outing.outlets.plusMinus1.choose(1); });
@@ -263,6 +283,8 @@ private Q_SLOTS:
         QFETCH(std::function<void(Outing &)>, act);
         QFETCH(std::string, name);
         Outing outing;
+        outing.photo.updateLatAndLon({"46", "9.4"}); // in the hemispheres of the points
+        outing.photo.setHasChangesFalse();
         outing.addPhoto("10:50:00").updateLatAndLon({"1", "2"});
         outing.setOffset(0, 0, 0, 30);
         outing.undoManager.closeStep();
@@ -275,6 +297,7 @@ private Q_SLOTS:
         outing.undoManager.undo();
         QCOMPARE(outing.everything(), before);
         QCOMPARE(outing.photo.zoom(), zoom); // the map's own
+        QCOMPARE(outing.outlets.offsetText.text.get(), std::string("12 May 2008 11:59:30"));
         outing.undoManager.redo();
         QCOMPARE(outing.everything(), after);
     }

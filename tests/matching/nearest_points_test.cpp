@@ -16,7 +16,7 @@ namespace {
 constexpr Date start{std::chrono::seconds(1'210'593'600)};
 
 /// What a search must find, found the plain way.
-track_part *walk(const Library &library, Position known) {
+track_part *walk(const PointLibrary &library, Position known) {
     track_part *best = nullptr;
     double least = 0;
     for (track_part *point : library.context.records<track_part>()) {
@@ -62,7 +62,7 @@ private Q_SLOTS:
         QFETCH(double, lat);
         QFETCH(double, lon);
         QFETCH(int, place);
-        Library library;
+        PointLibrary library;
         std::vector<track_part *> added;
         for (const auto &[pointLat, pointLon] : points) {
             added.push_back(&library.addPoint(start, pointLat, pointLon));
@@ -75,7 +75,7 @@ private Q_SLOTS:
         std::mt19937 random{20080512};
         const auto below = [&](unsigned bound) { return static_cast<int>(random() % bound); };
         for (int round = 0; round < 300; ++round) {
-            Library library;
+            PointLibrary library;
             const bool crowded = below(2) == 0; // few places, so that many distances tie
             const auto degree = [&] { return std::to_string(below(crowded ? 3 : 9) - 4) + ".5"; };
             for (int i = below(40); i > 0; --i) {
@@ -92,7 +92,7 @@ private Q_SLOTS:
     }
 
     void answersFollowThePoints() {
-        Library library;
+        PointLibrary library;
         NearestPoints points(library.context);
         const auto found = [&] {
             track_part *const near = points.inTime(start);
@@ -118,7 +118,7 @@ private Q_SLOTS:
     }
 
     void observesOnlyWhatItHasGathered() {
-        Library library;
+        PointLibrary library;
         track_part &point = library.addPoint(start);
         {
             NearestPoints points(library.context);

@@ -115,7 +115,7 @@ private Q_SLOTS:
         QFETCH(Milliseconds, points);
         QFETCH(int, target);
         QFETCH(int, place);
-        Library library;
+        PointLibrary library;
         for (int time : points) {
             library.addPoint(start + std::chrono::milliseconds(time));
         }
@@ -127,7 +127,7 @@ private Q_SLOTS:
     }
 
     void pointsThatCannotBeFound() {
-        Library library;
+        PointLibrary library;
         library.addPoint({});
         library.addPoint(start, "");
         library.addPoint(start, {});
@@ -139,7 +139,7 @@ private Q_SLOTS:
     }
 
     void theEndsOfTime() {
-        Library library;
+        PointLibrary library;
         track_part &last = library.addPoint(Date::max());
         track_part &first = library.addPoint(Date::min());
         const PointIndex index(library.context.fetch<track_part>());
@@ -152,7 +152,7 @@ private Q_SLOTS:
     }
 
     void findsWhatAWalkFinds() {
-        Library library;
+        PointLibrary library;
         for (int i = 0; i < 300; ++i) {
             library.addPoint({});
         }
