@@ -12,7 +12,7 @@ namespace {
 constexpr int positionDecimals = 6; // a tenth of a metre on the ground
 
 std::optional<double> plainWhole(std::string_view text) {
-    return text.find('.') == text.npos ? plainDecimal(text) : std::nullopt;
+    return text.find('.') == std::string_view::npos ? plainDecimal(text) : std::nullopt;
 }
 
 } // namespace

@@ -33,6 +33,7 @@ public:
     explicit ArrayController(Content content) : content_(std::move(content)) {}
     ArrayController(const ArrayController &) = delete;
     ArrayController &operator=(const ArrayController &) = delete;
+    ~ArrayController() = default;
 
     /// Sent when the arrangement has become another one, once until somebody looks at it.
     Signal<> arrangementChanged;

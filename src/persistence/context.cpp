@@ -4,6 +4,8 @@
 #include "persistence/undo_manager.h"
 
 #include <cassert>
+#include <limits>
+#include <stdexcept>
 
 namespace pinmora {
 
@@ -55,6 +57,9 @@ Record &Context::insertNewObjectForEntityForName(std::string_view name) {
 
 void Context::enter(Record &record, InsertionList &list, std::uint32_t serial) {
     assert(serial >= nextSerial_);
+    if (serial == std::numeric_limits<std::uint32_t>::max()) {
+        throw std::length_error("a library cannot number any more records");
+    }
     record.context_ = this;
     record.serial_ = serial;
     nextSerial_ = serial + 1;
@@ -95,6 +100,7 @@ RecordList Context::fetch(std::string_view entityName) const {
 void Context::commitChanges() {
     if (undoManager_) {
         undoManager_->closeStep();
+        undoManager_->closePart(); // within a group: what comes counts from this commit
     }
     for (const InsertionList &list : lists_) {
         for (Record *record = list.first(); record; record = InsertionList::next(*record)) {

@@ -164,8 +164,10 @@ private:
     void adopt(std::unique_ptr<Record> record, InsertionList &list);
     void enter(Record &record, InsertionList &list, std::uint32_t serial);
     void collectDoomed(Record &record, RecordList &doomed);
-    void endRelationships(Record &record);
-    void endOneWayRelationships();
+    template <class Visit>
+    void forEachLinkToStaying(Record &record, Visit visit);
+    template <class Visit>
+    void forEachOneWayLinkToDoomed(Visit visit);
     void discard(Record &record);
     void markUpdated(Record &record);
     void removeDoomed(const RecordList &doomed);

@@ -6,6 +6,44 @@
 
 namespace pinmora {
 
+/// Calls with each link between a doomed record and one that stays, at the end that holds it.
+template <class Visit>
+void Context::forEachLinkToStaying(Record &record, Visit visit) {
+    for (const Property &property : record.entity().properties()) {
+        if (property.kind == Property::Kind::ToOne) {
+            Record *const other = property.primitive(record).toRecord();
+            if (other && !other->doomed_) {
+                visit(record, property, other);
+            }
+        } else if (property.kind == Property::Kind::ToMany) {
+            for (Record *other : property.primitive(record).toRecordList()) {
+                if (!other->doomed_) {
+                    visit(*other, other->entity().property(property.inverse), &record);
+                }
+            }
+        }
+    }
+}
+
+/// Links that the other end does not know of are found by looking at every record that could hold
+/// one.
+template <class Visit>
+void Context::forEachOneWayLinkToDoomed(Visit visit) {
+    for (const InsertionList &list : lists_) {
+        for (const Property &property : list.entity().properties()) {
+            if (property.kind != Property::Kind::ToOne || !property.inverse.empty()) {
+                continue;
+            }
+            for (Record *record = list.first(); record; record = InsertionList::next(*record)) {
+                Record *const target = property.primitive(*record).toRecord();
+                if (target && target->doomed_ && !record->doomed_) {
+                    visit(*record, property, target);
+                }
+            }
+        }
+    }
+}
+
 void Context::deleteObject(Record &record) {
     if (record.context_ != this) {
         return;
@@ -47,50 +85,17 @@ void Context::removeDoomed(const RecordList &doomed) {
         tell(victim->entity(), About::Life,
              [&](ChangeObserver &observer) { observer.willDelete(*victim); });
     }
+    const auto end = [this](Record &one, const Property &toOne, Record *) {
+        writeLink(one, toOne, nullptr);
+    };
     for (Record *victim : doomed) {
-        endRelationships(*victim);
+        forEachLinkToStaying(*victim, end);
     }
-    endOneWayRelationships();
+    forEachOneWayLinkToDoomed(end);
     for (Record *victim : doomed) {
         discard(*victim);
         tell(victim->entity(), About::Life,
              [&](ChangeObserver &observer) { observer.didDelete(*victim); });
-    }
-}
-
-/// Ends the links between a doomed record and those that stay, at the end that holds them.
-void Context::endRelationships(Record &record) {
-    for (const Property &property : record.entity().properties()) {
-        if (property.kind == Property::Kind::ToOne) {
-            const Record *other = property.primitive(record).toRecord();
-            if (other && !other->doomed_) {
-                writeLink(record, property, nullptr);
-            }
-        } else if (property.kind == Property::Kind::ToMany) {
-            for (Record *other : property.primitive(record).toRecordList()) {
-                if (!other->doomed_) {
-                    writeLink(*other, other->entity().property(property.inverse), nullptr);
-                }
-            }
-        }
-    }
-}
-
-/// Links that the other end does not know of are found by looking at every record that could hold
-/// one.
-void Context::endOneWayRelationships() {
-    for (const InsertionList &list : lists_) {
-        for (const Property &property : list.entity().properties()) {
-            if (property.kind != Property::Kind::ToOne || !property.inverse.empty()) {
-                continue;
-            }
-            for (Record *record = list.first(); record; record = InsertionList::next(*record)) {
-                const Record *target = property.primitive(*record).toRecord();
-                if (target && target->doomed_ && !record->doomed_) {
-                    writeLink(*record, property, nullptr);
-                }
-            }
-        }
     }
 }
 
@@ -143,7 +148,7 @@ void Context::discard(Record &record) {
     leave(record);
     if (undoManager_ && record.entity().isStored()) {
         if (!undoManager_->registers()) {
-            undoManager_->removeAllActions();
+            undoManager_->forget();
         }
         undoManager_->didDelete(record);
         if (undoManager_->registers()) {
@@ -155,21 +160,17 @@ void Context::discard(Record &record) {
 
 std::vector<ValueChange> Context::takeOut(const RecordList &records) {
     std::vector<ValueChange> severed;
+    const auto sever = [&](Record &one, const Property &toOne, Record *target) {
+        severed.push_back({&one, &toOne, Value(target), one.changeMark()});
+        writeLink(one, toOne, nullptr);
+    };
     for (Record *record : records) {
         record->doomed_ = true;
     }
     for (Record *record : records) {
-        for (const Property &property : record->entity().properties()) {
-            if (property.kind != Property::Kind::ToOne) {
-                continue;
-            }
-            Record *const target = property.primitive(*record).toRecord();
-            if (target && !target->doomed_) {
-                severed.push_back({record, &property, Value(target), record->changeMark()});
-                writeLink(*record, property, nullptr);
-            }
-        }
+        forEachLinkToStaying(*record, sever);
     }
+    forEachOneWayLinkToDoomed(sever);
     for (Record *record : records) {
         tell(record->entity(), About::Life,
              [&](ChangeObserver &observer) { observer.willDelete(*record); });

@@ -8,6 +8,7 @@ namespace pinmora {
 
 void Context::addObserver(ChangeObserver &observer, Interest interest) {
     if (undoManager_) {
+        undoManager_->closeAside();
         undoManager_->closePart(); // records that came in unheard are heard from now on
     }
     observers_.push_back({&observer, interest});

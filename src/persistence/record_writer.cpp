@@ -72,7 +72,7 @@ void RecordWriter::writeChanges(const Record &record, std::span<const Property *
 }
 
 void RecordWriter::writeLink(const Property &link, const Record *target, std::string &none) {
-    if (target) {
+    if (target && !target->isDeleted()) {
         appendAttribute(out_, link.name, target->serial());
     } else {
         addName(none, link.name);

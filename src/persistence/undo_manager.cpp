@@ -3,6 +3,7 @@
 #include "persistence/context.h"
 #include "persistence/record.h"
 #include "platform/end_of_turn.h"
+#include "platform/scoped_flag.h"
 
 #include <algorithm>
 #include <cassert>
@@ -30,7 +31,9 @@ template <class Notice>
 void UndoManager::tell(Notice notice) const {
     const std::vector<UndoObserver *> present = observers_;
     for (UndoObserver *observer : present) {
-        notice(*observer);
+        if (std::find(observers_.begin(), observers_.end(), observer) != observers_.end()) {
+            notice(*observer);
+        }
     }
 }
 
@@ -43,6 +46,7 @@ void UndoManager::beginGroup(std::string_view name) {
 }
 
 void UndoManager::endGroup() {
+    assert(depth_ > 0);
     if (--depth_ == 0) {
         finish();
     }
@@ -75,13 +79,16 @@ void UndoManager::willChange(Record &record, std::string_view key) {
     const Property *property = record.entity().find(key);
     const bool isHeld = property && (property->kind == Property::Kind::Attribute ||
                                      property->kind == Property::Kind::ToOne);
-    if (!exchanging_ && isHeld && record.entity().isStored()) {
+    if (std::exchange(exchanged_, nullptr) == &record) {
+        return;
+    }
+    if (isHeld && record.entity().isStored()) {
         part().addChange({&record, property, property->primitive(record), record.changeMark()});
     }
 }
 
 void UndoManager::didChange(const Record &record, std::string_view key) {
-    if (const Property *property = exchanging_ ? nullptr : record.entity().find(key)) {
+    if (const Property *property = record.entity().find(key)) {
         (registers() ? part_ : aside_).dropChangeIfNone(record, *property);
     }
 }
@@ -111,17 +118,21 @@ void UndoManager::endFreshness(const UndoStep &told) {
 /// Tells of the part under way and adds it to its step.
 void UndoManager::closePart() {
     if (part_.isEmpty()) {
+        part_ = {};
         return;
     }
     UndoStep told = std::exchange(part_, {});
     endFreshness(told);
     tell([&](UndoObserver &observer) { observer.didRecord(told, true); });
-    UndoStep *const earlier = joined_ != 0 ? stepToJoin(joined_) : nullptr;
-    (earlier ? *earlier : open_).append(std::move(told));
+    if (joined_ != 0) {
+        join(std::move(told));
+    } else {
+        open_.append(std::move(told));
+    }
 }
 
 void UndoManager::closeAside() {
-    if (aside_.isEmpty()) {
+    if (aside_.isEmpty() || exchanging_) {
         return;
     }
     UndoStep told = std::exchange(aside_, {});
@@ -131,9 +142,15 @@ void UndoManager::closeAside() {
 
 /// Makes a step of what is open; what had been undone can then not be done again.
 void UndoManager::finish() {
+    if (exchanging_) {
+        return;
+    }
     closePart();
     closeAside();
     if (open_.isEmpty()) {
+        if (open_.id != 0) {
+            cameToNothing_.push_back(open_.id);
+        }
         open_ = {};
         return;
     }
@@ -169,10 +186,15 @@ void UndoManager::exchange(std::vector<UndoStep> &from, std::vector<UndoStep> &t
     }
     to.push_back(std::move(from.back()));
     from.pop_back();
-    exchanging_ = true;
-    (to.back().*act)(context_);
-    exchanging_ = false;
+    {
+        const ScopedFlag exchanging(exchanging_);
+        (to.back().*act)(context_);
+    }
     tell([&](UndoObserver &observer) { (observer.*notice)(to.back()); });
+    closeAside();
+    if (std::exchange(forgets_, false)) {
+        removeAllActions();
+    }
     tell([](UndoObserver &observer) { observer.didChangeHistory(); });
 }
 
@@ -185,6 +207,15 @@ std::string UndoManager::undoActionName() const {
 
 std::string UndoManager::redoActionName() const {
     return canRedo() ? undone_.back().name : std::string();
+}
+
+/// Something that is not registered has gone, and the history may stand on it.
+void UndoManager::forget() {
+    if (exchanging_) {
+        forgets_ = true;
+    } else {
+        removeAllActions();
+    }
 }
 
 void UndoManager::removeAllActions() {
@@ -208,23 +239,42 @@ std::uint64_t UndoManager::currentStep() {
     return open_.id;
 }
 
-UndoStep *UndoManager::stepToJoin(std::uint64_t id) {
-    if (open_.id == id) {
-        return &open_;
-    }
+/// Its place among the steps that are done; their number when it is none of them.
+std::size_t UndoManager::stepToJoin(std::uint64_t id) const {
     const auto step = std::find_if(done_.rbegin(), done_.rend(),
                                    [id](const UndoStep &one) { return one.id == id; });
-    return step == done_.rend() ? nullptr : &*step;
+    return step == done_.rend() ? done_.size() : static_cast<std::size_t>(done_.rend() - step) - 1;
 }
 
 bool UndoManager::beginJoining(std::uint64_t step) {
     assert(joined_ == 0);
     closePart();
-    if (!stepToJoin(step)) {
+    const auto nothing = std::find(cameToNothing_.begin(), cameToNothing_.end(), step);
+    if (open_.id == step || nothing != cameToNothing_.end()) {
+        return true;
+    }
+    if (stepToJoin(step) == done_.size()) {
         return false;
     }
     joined_ = step;
     return true;
+}
+
+/// Each value goes to the last step that has written it, or to the one that is joined.
+void UndoManager::join(UndoStep told) {
+    const std::size_t joined = stepToJoin(joined_);
+    for (const UndoStep::Run &run : told.runs()) {
+        const auto *changes = std::get_if<UndoStep::Changes>(&run);
+        assert(changes);
+        for (const ValueChange &change : *changes) {
+            std::size_t at = done_.size();
+            bool isOpen = open_.changes(*change.record, *change.property);
+            while (!isOpen && --at > joined &&
+                   !done_[at].changes(*change.record, *change.property)) {
+            }
+            (isOpen ? open_ : done_[at]).addChange(change);
+        }
+    }
 }
 
 void UndoManager::endJoining() {

@@ -54,10 +54,15 @@ public:
 
     /// The step that changes are going to now; a later answer can be joined to it.
     std::uint64_t currentStep();
-    /// Registers what is written until endJoining() as part of an earlier step: values only. False
-    /// when the step has been taken back or forgotten: then write nothing.
+    /// Registers what is written until endJoining() as part of an earlier step: values only. What a
+    /// later step has written since is registered with that one, so that all comes back in the
+    /// right order; a step that came to nothing leaves it a step of its own. False when the step
+    /// has been taken back or forgotten: then write nothing.
     bool beginJoining(std::uint64_t step);
     void endJoining();
+
+    /// Says that the next will-change of a record is the exchange's own.
+    void expectExchange(const Record &record) { exchanged_ = &record; }
 
     void addObserver(UndoObserver &observer) { observers_.push_back(&observer); }
     void removeObserver(UndoObserver &observer) { std::erase(observers_, &observer); }
@@ -70,8 +75,10 @@ private:
     void didChange(const Record &record, std::string_view key);
     void didInsert(Record &record);
     void didDelete(Record &record);
+    void forget();
 
-    bool registers() const { return disabled_ == 0; }
+    /// What happens in answer to undo is not registered: the step that comes back stays as it is.
+    bool registers() const { return disabled_ == 0 && !exchanging_; }
     static void endFreshness(const UndoStep &told);
     UndoStep &part();
     void closeAside();
@@ -80,7 +87,8 @@ private:
                   void (UndoStep::*act)(Context &), void (UndoObserver::*notice)(const UndoStep &));
     template <class Notice>
     void tell(Notice notice) const;
-    UndoStep *stepToJoin(std::uint64_t id);
+    std::size_t stepToJoin(std::uint64_t id) const;
+    void join(UndoStep told);
 
     Context &context_;
     std::vector<UndoStep> done_;
@@ -90,9 +98,12 @@ private:
     UndoStep aside_; ///< what is not registered and has not been told
     std::uint64_t nextId_ = 1;
     std::uint64_t joined_ = 0; ///< the step that the part belongs to; 0: the one under way
+    std::vector<std::uint64_t> cameToNothing_; ///< steps whose number was given out
     int depth_ = 0;
     int disabled_ = 0;
     bool exchanging_ = false;
+    bool forgets_ = false;              ///< once the exchange is over
+    const Record *exchanged_ = nullptr; ///< whose value the exchange is about to write
     std::vector<UndoObserver *> observers_;
     std::unique_ptr<EndOfTurn> endOfTurn_;
 };

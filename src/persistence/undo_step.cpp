@@ -2,6 +2,7 @@
 
 #include "persistence/context.h"
 #include "persistence/record.h"
+#include "persistence/undo_manager.h"
 
 #include <algorithm>
 #include <span>
@@ -14,6 +15,7 @@ void exchange(Context &context, ValueChange &change) {
     Record &record = *change.record;
     const Property &property = *change.property;
     Value now = property.primitive(record);
+    context.undoManager()->expectExchange(record);
     if (property.kind == Property::Kind::ToOne) {
         context.writeLink(record, property, change.other.toRecord());
     } else {
@@ -121,6 +123,16 @@ void UndoStep::dropChangeIfNone(const Record &record, const Property &property) 
             runs_.pop_back();
         }
     }
+}
+
+bool UndoStep::changes(const Record &record, const Property &property) const {
+    return std::any_of(runs_.begin(), runs_.end(), [&](const Run &run) {
+        const auto *changes = std::get_if<Changes>(&run);
+        return changes &&
+               std::any_of(changes->begin(), changes->end(), [&](const ValueChange &one) {
+                   return one.record == &record && one.property == &property;
+               });
+    });
 }
 
 void UndoStep::append(UndoStep later) {

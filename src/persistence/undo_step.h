@@ -55,6 +55,8 @@ public:
     /// Takes the latest change back out if the record has the same value again. Its mark counts for
     /// the record's next change: what drew the mark on may be both of them.
     void dropChangeIfNone(const Record &record, const Property &property);
+    /// Whether a key of a record is among the changes.
+    bool changes(const Record &record, const Property &property) const;
     /// Adds what a later part of the same action has done.
     void append(UndoStep later);
 

@@ -113,7 +113,9 @@ std::optional<StoreError> XmlStore::write(const Context &context, std::string_vi
 std::optional<StoreError> XmlStore::read(Context &context) {
     InputFile file;
     if (const std::error_code error = file.open(path_)) {
-        if (error == std::errc::no_such_file_or_directory) {
+        std::error_code none;
+        if (error == std::errc::no_such_file_or_directory &&
+            !std::filesystem::is_symlink(path_, none)) {
             state_ = emptyStoreState;
             return std::nullopt;
         }

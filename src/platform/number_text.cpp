@@ -104,8 +104,9 @@ int leadingInt(std::string_view text) {
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view blanks = " \t\n\v\f\r";
     const std::size_t first = text.find_first_not_of(blanks);
-    return first == text.npos ? std::string_view()
-                              : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    return first == std::string_view::npos
+               ? std::string_view()
+               : text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
 std::optional<double> plainDecimal(std::string_view text) {
@@ -114,8 +115,8 @@ std::optional<double> plainDecimal(std::string_view text) {
     if (digits.starts_with('-') || digits.starts_with('+')) {
         digits.remove_prefix(1);
     }
-    const bool plain = digits.find_first_of("0123456789") != digits.npos &&
-                       digits.find_first_not_of("0123456789.") == digits.npos &&
+    const bool plain = digits.find_first_of("0123456789") != std::string_view::npos &&
+                       digits.find_first_not_of("0123456789.") == std::string_view::npos &&
                        std::count(digits.begin(), digits.end(), '.') <= 1;
     return plain ? std::optional(leadingDouble(text)) : std::nullopt;
 }

@@ -44,8 +44,8 @@ StoreCoordinator &Library::persistentStoreCoordinator() {
 }
 
 Context &Library::managedObjectContext() {
-    if (!undo_) {
-        persistentStoreCoordinator();
+    persistentStoreCoordinator();
+    if (!undo_) { // looking at what was just presented may have made it
         undo_ = std::make_unique<UndoManager>(*context_);
         arrays_ = std::make_unique<LibraryArrays>(*context_);
     }

@@ -7,19 +7,20 @@ namespace pinmora {
 std::optional<StoreError> StoreCoordinator::addPersistentStore(const std::filesystem::path &file,
                                                                Context &context) {
     file_ = file;
-    std::filesystem::path lockFile = file;
-    lockFile.replace_extension(".lock");
-    const std::error_code error = lock_.acquire(lockFile);
-    // Some network file systems know no locks: better an unguarded library than none.
-    isOurs_ = !error || error == std::errc::not_supported ||
-              error == std::errc::operation_not_supported || error == std::errc::no_lock_available;
-    if (!isOurs_) {
-        const bool isHeld = error == std::errc::operation_would_block;
-        return StoreError{.path = isHeld ? file : lockFile,
-                          .reason =
-                              isHeld ? "another Pinmora has this library open" : error.message(),
-                          .code = error};
+    // Two links to one file are one library.
+    std::error_code none;
+    std::filesystem::path lockFile = std::filesystem::weakly_canonical(file, none);
+    if (none) {
+        lockFile = file;
     }
+    const std::error_code error = lock_.acquire(lockFile.replace_extension(".lock"));
+    isOurs_ = error != std::errc::operation_would_block;
+    if (!isOurs_) {
+        return StoreError{
+            .path = file, .reason = "another Pinmora has this library open", .code = error};
+    }
+    // Any other error: some file systems know no locks, others may only be read. Better an
+    // unguarded library than none.
     store_.emplace(file, files_);
     auto unreadable = store_->read(context);
     if (unreadable) {
@@ -46,11 +47,14 @@ std::optional<StoreError> StoreCoordinator::empty() {
     if (!store_) {
         return std::nullopt;
     }
-    if (const std::error_code error = writeAtomically(file_, {}, files_)) {
-        return StoreError{.path = file_, .reason = error.message(), .code = error};
+    const std::error_code error = writeAtomically(file_, {}, files_);
+    std::error_code none;
+    if (std::filesystem::file_size(file_, none) == 0) {
+        store_.emplace(file_, files_);
     }
-    store_.emplace(file_, files_);
-    return std::nullopt;
+    return error
+               ? std::optional(StoreError{.path = file_, .reason = error.message(), .code = error})
+               : std::nullopt;
 }
 
 } // namespace pinmora

@@ -102,11 +102,16 @@ private:
 
 /// Counts what it is told.
 struct Listener : UndoObserver {
+    explicit Listener(UndoManager &undo) : manager(undo) { manager.addObserver(*this); }
+    Listener(const Listener &) = delete;
+    Listener &operator=(const Listener &) = delete;
+    ~Listener() override { manager.removeObserver(*this); }
     void didRecord(const UndoStep &, bool registered) override { ++(registered ? parts : asides); }
     void didChangeHistory() override { ++histories; }
     int parts = 0;
     int asides = 0;
     int histories = 0;
+    UndoManager &manager;
 };
 
 } // namespace
@@ -131,6 +136,9 @@ private Q_SLOTS:
     void whatTheProgramDoesIsNoStepAndIsTold();
     void aNewStepForgetsWhatWasUndone();
     void laterAnswersJoinTheirStep();
+    void aStepThatCameToNothingLetsItsAnswerBeOne();
+    void answersToUndoAreToldAndNotRegistered();
+    void linksToWhatWasTakenBackEnd();
     void commitsDoNotForgetAndChangesCountFromThem();
 
 private:
@@ -149,8 +157,7 @@ void UndoTest::anythingCanBeTakenBackAndDoneAgain_data() {
 void UndoTest::anythingCanBeTakenBackAndDoneAgain() {
     QFETCH(unsigned, seed);
     Gardener gardener(forest->context, seed);
-    Listener listener;
-    undo->addObserver(listener);
+    Listener listener(*undo);
     std::vector<std::string> states{contentsOf(forest->context)};
     std::size_t now = 0;
     for (int action = 0; action < 400; ++action) {
@@ -191,7 +198,6 @@ void UndoTest::anythingCanBeTakenBackAndDoneAgain() {
         undo->redo();
         QCOMPARE(contentsOf(forest->context), states[now + 1]);
     }
-    undo->removeObserver(listener);
 }
 
 void UndoTest::aTurnIsAStepAndAGroupIsOneHoweverManyTurns() {
@@ -206,8 +212,7 @@ void UndoTest::aTurnIsAStepAndAGroupIsOneHoweverManyTurns() {
     undo->undo();
     QVERIFY(!leaf.colour().hasValue());
 
-    Listener listener;
-    undo->addObserver(listener);
+    Listener listener(*undo);
     undo->beginGroup("Drag");
     for (const char *colour : {"yellow", "orange"}) {
         leaf.setColour(colour);
@@ -224,7 +229,6 @@ void UndoTest::aTurnIsAStepAndAGroupIsOneHoweverManyTurns() {
     undo->undo();
     QVERIFY(!leaf.colour().hasValue());
     QCOMPARE(undo->redoActionName(), std::string("Drag"));
-    undo->removeObserver(listener);
 }
 
 void UndoTest::whatChangesNothingIsNoStep() {
@@ -244,8 +248,7 @@ void UndoTest::whatChangesNothingIsNoStep() {
 }
 
 void UndoTest::whatTheProgramDoesIsNoStepAndIsTold() {
-    Listener listener;
-    undo->addObserver(listener);
+    Listener listener(*undo);
     Leaf *leaf = nullptr;
     {
         const UnregisteredChanges own(forest->context);
@@ -263,7 +266,6 @@ void UndoTest::whatTheProgramDoesIsNoStepAndIsTold() {
         forest->context.deleteObject(*leaf);
     }
     QVERIFY(!undo->canUndo() && !undo->canRedo()); // what it stood on is gone
-    undo->removeObserver(listener);
 }
 
 void UndoTest::aNewStepForgetsWhatWasUndone() {
@@ -301,12 +303,98 @@ void UndoTest::laterAnswersJoinTheirStep() {
     QVERIFY(!asking.colour().hasValue() && !asking.tree());
     undo->redo();
     QVERIFY(asking.colour() == "brown" && asking.tree());
+    QVERIFY(undo->beginJoining(step));
+    asking.setColour("grey");
+    undo->endJoining();
+    asking.setColour("typed");
+    undo->closeStep();
+    QVERIFY(undo->beginJoining(step));
+    asking.setColour("late");
+    undo->endJoining();
     undo->undo();
+    QVERIFY(asking.colour() == "grey");
+    undo->undo();
+    QVERIFY(!asking.colour().hasValue());
     QVERIFY(!undo->beginJoining(step)); // taken back: nobody asks any more
+}
+
+void UndoTest::aStepThatCameToNothingLetsItsAnswerBeOne() {
+    auto &leaf = forest->context.insert<Leaf>();
+    leaf.setColour("red");
+    undo->closeStep();
+    leaf.setColour("red");
+    const std::uint64_t step = undo->currentStep();
+    undo->closeStep();
+    QVERIFY(undo->beginJoining(step));
+    leaf.setColour("brown");
+    undo->endJoining();
+    undo->undo();
+    QVERIFY(leaf.colour() == "red");
+}
+
+/// An observer that keeps every leaf of a kind green.
+void UndoTest::answersToUndoAreToldAndNotRegistered() {
+    struct Painter : ChangeObserver {
+        void didChange(Record &record, std::string_view key) override {
+            auto &leaf = static_cast<Leaf &>(record);
+            if (key == "tree" && !leaf.tree() && active) {
+                leaf.setColour("green");
+                const UndoGroup group(*leaf.context(), "in answer");
+                leaf.context()->insert<Bird>();
+            }
+        }
+        bool active = false;
+    } painter;
+    auto &leaf = forest->context.insert<Leaf>();
+    undo->closeStep();
+    leaf.setTree(&forest->context.insert<Tree>());
+    undo->closeStep();
+    forest->context.addObserver(painter, {.entity = &Leaf::description()});
+    Listener listener(*undo);
+    painter.active = true;
+    undo->undo();
+    painter.active = false;
+    QCOMPARE(listener.asides, 1);
+    QVERIFY(leaf.colour() == "green" && forest->context.count<Bird>() == 1);
+    QVERIFY(undo->canRedo());
+    undo->redo();
+    QVERIFY(leaf.tree() && leaf.colour() == "green");
+    forest->context.removeObserver(painter);
+}
+
+void UndoTest::linksToWhatWasTakenBackEnd() {
+    Leaf *leaf = nullptr;
+    Bird *bird = nullptr;
+    auto &tree = forest->context.insert<Tree>();
+    undo->closeStep();
+    {
+        const UnregisteredChanges own(forest->context);
+        leaf = &forest->context.insert<Leaf>();
+        leaf->setTree(&tree);
+        bird = &forest->context.insert<Bird>();
+        bird->setNest(&tree);
+    }
+    undo->undo();
+    QVERIFY(!leaf->tree() && !bird->nest());
+    undo->redo();
+    QVERIFY(leaf->tree() == &tree && bird->nest() == &tree);
 }
 
 void UndoTest::commitsDoNotForgetAndChangesCountFromThem() {
     Context &context = forest->context;
+    {
+        const UndoGroup group(context, "saves in between");
+        auto &early = context.insert<Bird>();
+        auto &late = context.insert<Bird>();
+        context.commitChanges();
+        context.deleteObject(early);
+        context.commitChanges();
+        context.deleteObject(late);
+    }
+    undo->undo();
+    undo->removeAllActions();
+    context.commitChanges();
+    QVERIFY(!context.hasChanges() && context.count<Bird>() == 0);
     auto &tree = context.insert<Tree>();
     auto &leaf = context.insert<Leaf>();
     leaf.setTree(&tree);

@@ -86,7 +86,9 @@ private Q_SLOTS:
     void aLibraryOutlivesTheProgram();
     void whatCannotBeReadIsToldOnceAndNeverWrittenOver_data();
     void whatCannotBeReadIsToldOnceAndNeverWrittenOver();
+    void lookingAtTheLibraryWhileItsFaultIsTold();
     void aSecondProcessIsKeptAway();
+    void linksLeadToTheLibrary();
     void aSaveThatFailsLosesNothing();
     void gpsDataIsRemovedAndComesBack();
     void emptyingTheFileLeavesTheWorkInMemory();
@@ -167,6 +169,41 @@ void LibraryTest::whatCannotBeReadIsToldOnceAndNeverWrittenOver() {
     run.library.deleteTempStore();
     run.library.emptyTempStore();
     QCOMPARE(contents(file), damage);
+}
+
+void LibraryTest::lookingAtTheLibraryWhileItsFaultIsTold() {
+    fs::create_directories(file); // a folder is no library
+    Run run;
+    UndoManager *seen = nullptr;
+    const Connection looking = run.errors.opened.connect(
+        [&] { seen = &run.library.windowWillReturnUndoManager(run.window); });
+    Context &context = run.context();
+    QVERIFY(seen && context.undoManager() == seen);
+}
+
+void LibraryTest::linksLeadToTheLibrary() {
+    const fs::path disk = file.parent_path().parent_path() / "disk";
+    fs::create_directories(file.parent_path());
+    fs::create_symlink(disk / "Pinmora.xml", file);
+    {
+        Run away; // the disk is not there
+        away.context();
+        QCOMPARE(away.messages.size(), 1u);
+        QVERIFY(!away.library.saveAction());
+    }
+    fs::create_directory(disk);
+    std::ofstream(disk / "Pinmora.xml").flush();
+    Run run;
+    run.addTrack(1);
+    QVERIFY(run.library.saveAction());
+    QVERIFY(fs::is_symlink(file) && fs::file_size(disk / "Pinmora.xml") > 0);
+    const fs::path other = file.parent_path().parent_path() / "other" / "Pinmora";
+    fs::create_directories(other);
+    fs::create_symlink(disk / "Pinmora.xml", other / "Pinmora.xml");
+    qputenv("XDG_DATA_HOME", other.parent_path().c_str());
+    Run second;
+    second.context();
+    QCOMPARE(second.messages.size(), 1u); // it is the same library
 }
 
 void LibraryTest::aSecondProcessIsKeptAway() {
