@@ -26,6 +26,8 @@ public:
     /// All of them must outlive the fields.
     CoordinateFields(Context &context, ObjectController<degrees> &degreeObj,
                      ArrayController<image> &pictureArray, Editing &editing);
+    CoordinateFields(const CoordinateFields &) = delete;
+    CoordinateFields &operator=(const CoordinateFields &) = delete;
     ~CoordinateFields() override;
 
     AxisFields lat{latitudeKind};

@@ -125,7 +125,7 @@ void UndoManager::closePart() {
     endFreshness(told);
     tell([&](UndoObserver &observer) { observer.didRecord(told, true); });
     if (joined_ != 0) {
-        join(std::move(told));
+        join(told);
     } else {
         open_.append(std::move(told));
     }
@@ -261,7 +261,7 @@ bool UndoManager::beginJoining(std::uint64_t step) {
 }
 
 /// Each value goes to the last step that has written it, or to the one that is joined.
-void UndoManager::join(UndoStep told) {
+void UndoManager::join(const UndoStep &told) {
     const std::size_t joined = stepToJoin(joined_);
     for (const UndoStep::Run &run : told.runs()) {
         const auto *changes = std::get_if<UndoStep::Changes>(&run);

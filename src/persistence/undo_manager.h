@@ -88,7 +88,7 @@ private:
     template <class Notice>
     void tell(Notice notice) const;
     std::size_t stepToJoin(std::uint64_t id) const;
-    void join(UndoStep told);
+    void join(const UndoStep &told);
 
     Context &context_;
     std::vector<UndoStep> done_;

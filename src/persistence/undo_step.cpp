@@ -30,9 +30,8 @@ void exchange(Context &context, ValueChange &change) {
 }
 
 void undo(Context &context, UndoStep::Changes &changes) {
-    for (auto change = changes.rbegin(); change != changes.rend(); ++change) {
-        exchange(context, *change);
-    }
+    std::for_each(changes.rbegin(), changes.rend(),
+                  [&](ValueChange &change) { exchange(context, change); });
 }
 
 void redo(Context &context, UndoStep::Changes &changes) {
@@ -52,16 +51,15 @@ void redo(Context &context, Insertions &inserted) {
     for (Record *record : inserted.records) {
         context.putIn(*record, inserted.withdrawnAt);
     }
-    for (auto link = inserted.severed.rbegin(); link != inserted.severed.rend(); ++link) {
-        context.writeLink(*link->record, *link->property, link->other.toRecord());
-    }
+    std::for_each(inserted.severed.rbegin(), inserted.severed.rend(), [&](const ValueChange &link) {
+        context.writeLink(*link.record, *link.property, link.other.toRecord());
+    });
     inserted.severed.clear();
 }
 
 void undo(Context &context, Deletions &deleted) {
-    for (auto record = deleted.records.rbegin(); record != deleted.records.rend(); ++record) {
-        context.putIn(**record, deleted.withdrawnAt);
-    }
+    std::for_each(deleted.records.rbegin(), deleted.records.rend(),
+                  [&](Record *record) { context.putIn(*record, deleted.withdrawnAt); });
 }
 
 /// The links to records that stay have been ended by changes of the same step.
@@ -146,9 +144,9 @@ void UndoStep::append(UndoStep later) {
 }
 
 void UndoStep::undo(Context &context) {
-    for (auto run = runs_.rbegin(); run != runs_.rend(); ++run) {
-        std::visit([&](auto &part) { pinmora::undo(context, part); }, *run);
-    }
+    std::for_each(runs_.rbegin(), runs_.rend(), [&](Run &run) {
+        std::visit([&](auto &part) { pinmora::undo(context, part); }, run);
+    });
 }
 
 void UndoStep::redo(Context &context) {

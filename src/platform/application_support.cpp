@@ -17,7 +17,7 @@ std::filesystem::path folderFrom(const char *variable) {
 } // namespace
 
 std::filesystem::path applicationSupportBase() {
-    if (const auto data = folderFrom("XDG_DATA_HOME"); !data.empty()) {
+    if (auto data = folderFrom("XDG_DATA_HOME"); !data.empty()) {
         return data;
     }
     if (const auto home = folderFrom("HOME"); !home.empty()) {

@@ -19,7 +19,6 @@ public:
     void ask();
 
 private:
-    std::function<void()> handler_;
     std::unique_ptr<QObject> receiver_; ///< events to it die with it
     bool asked_ = false;
 };

@@ -63,6 +63,11 @@ std::error_code FileSystem::remove(const std::filesystem::path &path) {
     return errorOf(::unlink(path.c_str()));
 }
 
+std::error_code FileSystem::link(const std::filesystem::path &file,
+                                 const std::filesystem::path &newName) {
+    return errorOf(::linkat(AT_FDCWD, file.c_str(), AT_FDCWD, newName.c_str(), AT_SYMLINK_FOLLOW));
+}
+
 std::error_code FileSystem::syncFolder(const std::filesystem::path &folder) {
     const FileDescriptor opened{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
     if (!opened.isOpen()) {

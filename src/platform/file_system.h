@@ -31,6 +31,10 @@ public:
     virtual std::error_code rename(const std::filesystem::path &from,
                                    const std::filesystem::path &to);
     virtual std::error_code remove(const std::filesystem::path &path);
+    /// Gives a file, or the one that a symbolic link leads to, a second name; what is later renamed
+    /// over the first does not touch it.
+    virtual std::error_code link(const std::filesystem::path &file,
+                                 const std::filesystem::path &newName);
     /// Returns when the names in the folder are on the disk, as far as the file system can do that.
     virtual std::error_code syncFolder(const std::filesystem::path &folder);
 };

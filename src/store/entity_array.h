@@ -19,6 +19,8 @@ public:
           context_(context) {
         context_.addObserver(*this, {.entity = &R::description(), .values = false});
     }
+    EntityArray(const EntityArray &) = delete;
+    EntityArray &operator=(const EntityArray &) = delete;
     ~EntityArray() override { context_.removeObserver(*this); }
 
 private:

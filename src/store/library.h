@@ -23,6 +23,8 @@ public:
     /// All must outlive the library. Files are written through `files`.
     Library(NotificationCentre &notifications, ErrorSheet &errors,
             FileSystem &files = realFileSystem());
+    Library(const Library &) = delete;
+    Library &operator=(const Library &) = delete;
     ~Library();
 
     std::filesystem::path applicationSupportFolder() const;

@@ -1,0 +1,75 @@
+#include "recovery/script.h"
+#include "recovery/test_files.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace pinmora;
+using namespace pinmora::test;
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+} // namespace
+
+/// Work at random, cut off at random: what is brought back is what there was.
+class WorkTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void workComesBackAsItWas_data();
+    void workComesBackAsItWas();
+};
+
+void WorkTest::workComesBackAsItWas_data() {
+    QTest::addColumn<unsigned>("seed");
+    QTest::addColumn<bool>("inOrder");
+    for (unsigned seed = 1; seed <= 40; ++seed) {
+        QTest::addRow("seed %u", seed) << seed << (seed % 2 == 0);
+    }
+}
+
+void WorkTest::workComesBackAsItWas() {
+    QFETCH(unsigned, seed);
+    QFETCH(bool, inOrder);
+    const QTemporaryDir folder;
+    qputenv("XDG_DATA_HOME", folder.path().toUtf8());
+    QuickFiles files;
+    Script script(seed, folder.path().toStdString());
+    if (inOrder) {
+        script.forgetAtSaves();
+    }
+    const auto library = [inOrder](Session &session) {
+        Lines lines = described(session.context());
+        if (!inOrder) { // a photo that was deleted in the store file comes back behind the others
+            std::sort(lines.begin(), lines.end());
+        }
+        return lines;
+    };
+    Lines before; // when the run before ended
+    for (int run = 0; run < 10; ++run) {
+        Session session(files);
+        const std::vector<RecoveryOffer> offers = session.offers();
+        QVERIFY(offers.size() <= 1);
+        const Lines atStart = library(session);
+        if (offers.empty() && run > 0) {
+            QCOMPARE(difference(withoutZoom(atStart), withoutZoom(before)), QString());
+        } else if (!offers.empty()) {
+            QCOMPARE(session.recovered().bringBack(offers.front()).value_or(""), "");
+            QCOMPARE(difference(library(session), before), QString());
+            session.undoManager().undo();
+            QCOMPARE(difference(library(session), atStart), QString());
+            session.undoManager().redo();
+            QCOMPARE(difference(library(session), before), QString());
+            QVERIFY(session.offers().empty());
+        }
+        for (unsigned steps = script.number(30); steps > 0; --steps) {
+            script.act(session);
+        }
+        before = library(session);
+    }
+}
+
+QTEST_GUILESS_MAIN(WorkTest)
+#include "work_test.moc"
