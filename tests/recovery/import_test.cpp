@@ -1,4 +1,4 @@
-#include "recovery/session.h"
+#include "recovery/program_run.h"
 #include "recovery/test_files.h"
 
 #include <QTemporaryDir>
@@ -70,14 +70,14 @@ private:
     std::vector<std::string> broughtBack() {
         liveIn("JST-9");
         fs::remove_all(logs());
-        Session session(files_);
-        for (const RecoveryOffer &offer : session.offers()) {
-            const auto error = session.recovered().bringBack(offer);
+        ProgramRun program(files_);
+        for (const RecoveryOffer &offer : program.offers()) {
+            const auto error = program.recovered().bringBack(offer);
             if (error) {
                 return {*error};
             }
         }
-        return session.messages.empty() ? described(session.context()) : session.messages;
+        return program.messages.empty() ? described(program.context()) : program.messages;
     }
     fs::path logs() const { return fs::path(folder_->path().toStdString()) / "logs"; }
 
@@ -133,12 +133,12 @@ void ImportTest::logsAreReadAgainAsTheyWere() {
     std::vector<std::string> before;
     writeFile(this->logs() / "height.xml", "412.5");
     {
-        Session session(files_);
-        session.addPhoto("something that a person did");
+        ProgramRun program(files_);
+        program.addPhoto("something that a person did");
         for (const std::string &log : logs) {
-            session.import(writeFile(this->logs() / "log", log), reading);
+            program.import(writeFile(this->logs() / "log", log), reading);
         }
-        before = described(session.context());
+        before = described(program.context());
     }
     QCOMPARE(difference(broughtBack(), before), QString());
 }
@@ -146,12 +146,12 @@ void ImportTest::logsAreReadAgainAsTheyWere() {
 void ImportTest::textsThatWereNoFiles() {
     std::vector<std::string> before;
     {
-        Session session(files_);
-        session.step([&] { session.gps.processNMEAData("\xE9\r\n" + logText(4, 3)); });
-        session.gps.setActiveLog(true);
-        session.step([&] { session.gps.parseXMLFile(writeFile(logs() / "log", logText(1, 3))); });
-        QCOMPARE(session.context().count<track_part>(), std::size_t(6));
-        before = described(session.context());
+        ProgramRun program(files_);
+        program.step([&] { program.gps.processNMEAData("\xE9\r\n" + logText(4, 3)); });
+        program.gps.setActiveLog(true);
+        program.step([&] { program.gps.parseXMLFile(writeFile(logs() / "log", logText(1, 3))); });
+        QCOMPARE(program.context().count<track_part>(), std::size_t(6));
+        before = described(program.context());
     }
     QCOMPARE(difference(broughtBack(), before), QString());
 }
@@ -159,23 +159,23 @@ void ImportTest::textsThatWereNoFiles() {
 void ImportTest::whatHappensToPointsInTheStepThatMadeThem() {
     std::vector<std::string> before;
     {
-        Session session(files_);
-        const auto points = [&] { return session.context().fetch<track_part>(); };
+        ProgramRun program(files_);
+        const auto points = [&] { return program.context().fetch<track_part>(); };
         {
-            const UndoGroup group(session.context(), "Import");
-            session.import(writeFile(logs() / "log", logText(1, 4)));
+            const UndoGroup group(program.context(), "Import");
+            program.import(writeFile(logs() / "log", logText(1, 4)));
             points()[1]->setLat("changed");
             {
-                const UnregisteredChanges isThePrograms(session.context());
-                session.context().insert<image>().setZoom(3);
+                const UnregisteredChanges isThePrograms(program.context());
+                program.context().insert<image>().setZoom(3);
             }
-            session.context().deleteObject(*points()[2]);
-            session.import(writeFile(logs() / "log", logText(2, 4)));
+            program.context().deleteObject(*points()[2]);
+            program.import(writeFile(logs() / "log", logText(2, 4)));
             points()[4]->setTrack(nullptr);
         }
-        session.undoManager().undo();
-        session.undoManager().redo();
-        before = described(session.context());
+        program.undoManager().undo();
+        program.undoManager().redo();
+        before = described(program.context());
     }
     QCOMPARE(difference(broughtBack(), before), QString());
 }
@@ -183,33 +183,33 @@ void ImportTest::whatHappensToPointsInTheStepThatMadeThem() {
 void ImportTest::aTurnOfTheEventLoopWhileALogIsRead() {
     std::vector<std::string> before;
     {
-        Session session(files_);
-        image &photo = session.addPhoto("a");
-        const Connection drawn = session.progress.progressIndic.animating.onChange([&](bool) {
+        ProgramRun program(files_);
+        image &photo = program.addPhoto("a");
+        const Connection drawn = program.progress.progressIndic.animating.onChange([&](bool) {
             photo.setComments(photo.comments().string() + "!");
-            session.undoManager().closePart();
+            program.undoManager().closePart();
         });
-        session.progress.showProgressWindow("Loading", "", 1);
-        session.import(writeFile(logs() / "log", logText(4, 3)));
-        session.undoManager().undo();
-        QCOMPARE(session.context().count<track_part>(), std::size_t(0));
-        session.undoManager().redo();
-        before = described(session.context());
+        program.progress.showProgressWindow("Loading", "", 1);
+        program.import(writeFile(logs() / "log", logText(4, 3)));
+        program.undoManager().undo();
+        QCOMPARE(program.context().count<track_part>(), std::size_t(0));
+        program.undoManager().redo();
+        before = described(program.context());
     }
     QCOMPARE(difference(broughtBack(), before), QString());
 }
 
 void ImportTest::countingGoesOn() {
     {
-        Session session(files_);
-        session.import(writeFile(logs() / "log", logText(1, 4)));
-        session.import(writeFile(logs() / "log", logText(2, 4)));
+        ProgramRun program(files_);
+        program.import(writeFile(logs() / "log", logText(1, 4)));
+        program.import(writeFile(logs() / "log", logText(2, 4)));
     }
-    Session session(files_);
-    QVERIFY(!session.recovered().bringBack(session.offers().front()));
-    session.import(writeFile(logs() / "log", logText(3, 1)));
-    QCOMPARE(session.context().fetch<track>().back()->track_id(), std::optional(3));
-    QCOMPARE(session.context().fetch<track_part>().back()->point_id(), std::optional(9));
+    ProgramRun program(files_);
+    QVERIFY(!program.recovered().bringBack(program.offers().front()));
+    program.import(writeFile(logs() / "log", logText(3, 1)));
+    QCOMPARE(program.context().fetch<track>().back()->track_id(), std::optional(3));
+    QCOMPARE(program.context().fetch<track_part>().back()->point_id(), std::optional(9));
 }
 
 void ImportTest::yearsAreThoseOfTheTime() {
@@ -219,23 +219,23 @@ void ImportTest::yearsAreThoseOfTheTime() {
         std::string_view next() override { return given = std::exchange(bytes, {}); }
         std::optional<std::string> entity(std::string_view) override { return std::nullopt; }
     };
-    Session session(files_);
+    ProgramRun program(files_);
     ImportFacts facts;
     facts.format = ImportFacts::Format::Nmea;
     facts.currentYear = 2007; // when "08" was still 1908
     Bytes source;
-    session.gps.importAgain(session.context(), facts, nullptr, source);
-    const Date date = session.context().fetch<track_part>().front()->time().value();
+    program.gps.importAgain(program.context(), facts, nullptr, source);
+    const Date date = program.context().fetch<track_part>().front()->time().value();
     QVERIFY(date < std::chrono::sys_days(std::chrono::year(1909) / 1 / 1));
 }
 
 void ImportTest::anImportIsKeptAsItsBytesOnly() {
-    Session session(files_);
+    ProgramRun program(files_);
     const std::string log = manyPoints();
-    session.import(writeFile(logs() / "log", log));
-    session.undoManager().undo();
-    session.undoManager().redo();
-    QVERIFY(session.keeper.recorder().flush());
+    program.import(writeFile(logs() / "log", log));
+    program.undoManager().undo();
+    program.undoManager().redo();
+    QVERIFY(program.keeper.recorder().flush());
     QVERIFY(fs::file_size(currentJournal()) < log.size() + 1000);
 }
 

@@ -65,7 +65,7 @@ void KillTest::workSurvivesAKill() {
     qputenv("XDG_DATA_HOME", home.path().toUtf8() + "/model");
     std::vector<Lines> states; // after each step
     {
-        Session model(files);
+        ProgramRun model(files);
         Script script(seed, folder);
         script.forgetAtSaves();
         states.push_back(withoutZoom(described(model.context())));
@@ -81,11 +81,11 @@ void KillTest::workSurvivesAKill() {
         fs::remove_all(folder / "Pinmora");
         end = runWorker(folder, "work", seed, calls);
         kills += end.wasKilled ? 1 : 0;
-        Session session(files);
-        for (const RecoveryOffer &offer : session.offers()) {
-            QCOMPARE(session.recovered().bringBack(offer).value_or(""), std::string());
+        ProgramRun program(files);
+        for (const RecoveryOffer &offer : program.offers()) {
+            QCOMPARE(program.recovered().bringBack(offer).value_or(""), std::string());
         }
-        const Lines found = withoutZoom(described(session.context()));
+        const Lines found = withoutZoom(described(program.context()));
         const auto from = states.begin() + static_cast<std::ptrdiff_t>(end.safe);
         const auto to = states.begin() + static_cast<std::ptrdiff_t>(end.begun) + 1;
         QVERIFY2(std::find(from, to, found) != to,
@@ -104,12 +104,12 @@ void KillTest::settingAsideAndBringingBackSurviveKills() {
     QuickFiles files;
     Lines before;
     {
-        Session session(files);
-        session.addPhoto("saved");
-        QVERIFY(session.library.saveAction());
-        session.addPhoto("unsaved");
-        session.import(writeFile(folder / "log", logText(1, 5)));
-        before = described(session.context());
+        ProgramRun program(files);
+        program.addPhoto("saved");
+        QVERIFY(program.library.saveAction());
+        program.addPhoto("unsaved");
+        program.import(writeFile(folder / "log", logText(1, 5)));
+        before = described(program.context());
     }
     fs::copy(folder / "Pinmora", folder / "work", fs::copy_options::recursive);
     bool wasKilled[2] = {true, true};
@@ -118,12 +118,12 @@ void KillTest::settingAsideAndBringingBackSurviveKills() {
         fs::copy(folder / "work", folder / "Pinmora", fs::copy_options::recursive);
         wasKilled[0] = runWorker(folder, "start", 0, calls).wasKilled;
         wasKilled[1] = runWorker(folder, "back", 0, calls).wasKilled;
-        Session session(files);
+        ProgramRun program(files);
         // Killed before the old folder went, both have the work: the later one is whole.
-        const std::vector<RecoveryOffer> offers = session.offers();
+        const std::vector<RecoveryOffer> offers = program.offers();
         QVERIFY(offers.size() == 1 || offers.size() == 2);
-        QCOMPARE(session.recovered().bringBack(offers.back()).value_or(""), std::string());
-        QCOMPARE(difference(described(session.context()), before), QString());
+        QCOMPARE(program.recovered().bringBack(offers.back()).value_or(""), std::string());
+        QCOMPARE(difference(described(program.context()), before), QString());
     }
 }
 

@@ -1,4 +1,4 @@
-#include "recovery/session.h"
+#include "recovery/program_run.h"
 #include "recovery/test_files.h"
 
 #include "persistence/xml_store.h"
@@ -13,17 +13,17 @@ namespace fs = std::filesystem;
 namespace {
 
 /// The names of the photos, with their comments.
-QString photos(Session &session) {
+QString photos(ProgramRun &program) {
     std::string names;
-    for (const image *photo : session.context().records<image>()) {
+    for (const image *photo : program.context().records<image>()) {
         names += (names.empty() ? "" : " ") + photo->image_name().string();
         names += photo->comments().hasValue() ? "=" + photo->comments().string() : "";
     }
     return QString::fromStdString(names);
 }
 
-image &photo(Session &session, std::string_view name) {
-    for (image *one : session.context().records<image>()) {
+image &photo(ProgramRun &program, std::string_view name) {
+    for (image *one : program.context().records<image>()) {
         if (one->image_name() == name) {
             return *one;
         }
@@ -31,10 +31,10 @@ image &photo(Session &session, std::string_view name) {
     throw std::runtime_error("no photo " + std::string(name));
 }
 
-QString bringBackAll(Session &session) {
+QString bringBackAll(ProgramRun &program) {
     std::string errors;
-    for (const RecoveryOffer &offer : session.offers()) {
-        errors += session.recovered().bringBack(offer).value_or("");
+    for (const RecoveryOffer &offer : program.offers()) {
+        errors += program.recovered().bringBack(offer).value_or("");
     }
     return QString::fromStdString(errors);
 }
@@ -83,121 +83,121 @@ void RecoveredWorkTest::init() {
 
 void RecoveredWorkTest::withoutWorkNothingIsKept() {
     {
-        Session session;
-        const UnregisteredChanges isThePrograms(session.context());
-        session.context().insert<image>().setZoom(3);
+        ProgramRun program;
+        const UnregisteredChanges isThePrograms(program.context());
+        program.context().insert<image>().setZoom(3);
     }
     QVERIFY(!fs::exists(currentJournal()));
     {
-        Session session;
-        session.addPhoto("a");
-        QVERIFY(session.keeper.recorder().flush());
+        ProgramRun program;
+        program.addPhoto("a");
+        QVERIFY(program.keeper.recorder().flush());
         QVERIFY(fs::exists(currentJournal()));
-        session.keeper.forget();
+        program.keeper.forget();
         QVERIFY(!fs::exists(currentJournal()));
     }
-    Session session;
-    QVERIFY(session.offers().empty());
+    ProgramRun program;
+    QVERIFY(program.offers().empty());
     QCOMPARE(filesIn(libraryFolder() / "recovery"), std::size_t(0));
 }
 
 void RecoveredWorkTest::whatWasSavedIsNotOffered() {
     {
-        Session session;
-        session.addPhoto("a");
+        ProgramRun program;
+        program.addPhoto("a");
         // The program is killed between the renaming of the store file and the end of the save.
-        session.keeper.willSave("0123");
+        program.keeper.willSave("0123");
         XmlStore store(libraryFolder() / "Pinmora.xml");
-        QVERIFY(!store.write(session.context(), "0123"));
+        QVERIFY(!store.write(program.context(), "0123"));
     }
     {
-        Session session;
-        QVERIFY(session.offers().empty());
-        QCOMPARE(photos(session), QString::fromUtf8("a"));
-        session.keeper.willSave("4567");
-        session.comment(photo(session, "a"), "later");
-        session.addPhoto("b");
-        session.keeper.willSave("89ab");
+        ProgramRun program;
+        QVERIFY(program.offers().empty());
+        QCOMPARE(photos(program), QString::fromUtf8("a"));
+        program.keeper.willSave("4567");
+        program.comment(photo(program, "a"), "later");
+        program.addPhoto("b");
+        program.keeper.willSave("89ab");
         XmlStore store(libraryFolder() / "Pinmora.xml");
-        QVERIFY(!store.write(session.context(), "89ab"));
-        session.comment(photo(session, "b"), "after the save");
+        QVERIFY(!store.write(program.context(), "89ab"));
+        program.comment(photo(program, "b"), "after the save");
     }
-    Session session;
-    QCOMPARE(photos(session), QString::fromUtf8("a=later b"));
-    QCOMPARE(session.offers().size(), std::size_t(1));
-    QCOMPARE(session.offers().front().photos, std::size_t(1));
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(photos(session), QString::fromUtf8("a=later b=after the save"));
+    ProgramRun program;
+    QCOMPARE(photos(program), QString::fromUtf8("a=later b"));
+    QCOMPARE(program.offers().size(), std::size_t(1));
+    QCOMPARE(program.offers().front().photos, std::size_t(1));
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(photos(program), QString::fromUtf8("a=later b=after the save"));
 }
 
 void RecoveredWorkTest::aSaveThatFailedKeepsTheWork() {
     {
-        Session session;
-        session.addPhoto("a");
-        session.keeper.willSave("0123");
-        session.addPhoto("b");
+        ProgramRun program;
+        program.addPhoto("a");
+        program.keeper.willSave("0123");
+        program.addPhoto("b");
     }
-    Session session;
-    QCOMPARE(photos(session), QString::fromUtf8(""));
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(photos(session), QString::fromUtf8("a b"));
-    QVERIFY(photo(session, "a").getHasChanges());
-    QCOMPARE(session.undoManager().undoActionName(), std::string("Bring Back Unsaved Work"));
+    ProgramRun program;
+    QCOMPARE(photos(program), QString::fromUtf8(""));
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(photos(program), QString::fromUtf8("a b"));
+    QVERIFY(photo(program, "a").getHasChanges());
+    QCOMPARE(program.undoManager().undoActionName(), std::string("Bring Back Unsaved Work"));
 }
 
 void RecoveredWorkTest::workOnTheStoreFileJoinsWhatHasBeenDoneSince() {
     {
-        Session session;
+        ProgramRun program;
         for (const char *name : {"a", "b", "c", "d"}) {
-            session.addPhoto(name);
+            program.addPhoto(name);
         }
-        QVERIFY(session.library.saveAction());
-        session.comment(photo(session, "a"), "recovered");
-        session.comment(photo(session, "b"), "recovered");
-        session.step([&] { session.context().deleteObject(photo(session, "c")); });
-        session.addPhoto("new");
+        QVERIFY(program.library.saveAction());
+        program.comment(photo(program, "a"), "recovered");
+        program.comment(photo(program, "b"), "recovered");
+        program.step([&] { program.context().deleteObject(photo(program, "c")); });
+        program.addPhoto("new");
     }
-    Session session;
-    QCOMPARE(photos(session), QString::fromUtf8("a b c d"));
-    session.comment(photo(session, "a"), "of today");
-    session.step([&] { session.context().deleteObject(photo(session, "b")); });
-    session.comment(photo(session, "d"), "of today");
-    session.addPhoto("newer");
-    QVERIFY(session.library.saveAction()); // the records are the same as before
-    const RecoveryOffer offer = session.offers().front();
+    ProgramRun program;
+    QCOMPARE(photos(program), QString::fromUtf8("a b c d"));
+    program.comment(photo(program, "a"), "of today");
+    program.step([&] { program.context().deleteObject(photo(program, "b")); });
+    program.comment(photo(program, "d"), "of today");
+    program.addPhoto("newer");
+    QVERIFY(program.library.saveAction()); // the records are the same as before
+    const RecoveryOffer offer = program.offers().front();
     QCOMPARE(offer.photos, std::size_t(3));
     QVERIFY(std::chrono::system_clock::now() - offer.time < std::chrono::minutes(10));
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(photos(session), QString::fromUtf8("a=recovered d=of today newer new"));
-    session.undoManager().undo();
-    QCOMPARE(photos(session), QString::fromUtf8("a=of today c d=of today newer"));
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(photos(program), QString::fromUtf8("a=recovered d=of today newer new"));
+    program.undoManager().undo();
+    QCOMPARE(photos(program), QString::fromUtf8("a=of today c d=of today newer"));
 }
 
 void RecoveredWorkTest::workOnAnotherLibraryTakesThePlaceOfTheLoadedOne() {
     {
-        Session session;
-        session.addPhoto("a");
-        session.import(writeFile(libraryFolder() / "log", logText(1, 3)));
-        session.library.deleteTempStore();
-        session.comment(photo(session, "a"), "on the base");
+        ProgramRun program;
+        program.addPhoto("a");
+        program.import(writeFile(libraryFolder() / "log", logText(1, 3)));
+        program.library.deleteTempStore();
+        program.comment(photo(program, "a"), "on the base");
     }
     QCOMPARE(fs::file_size(libraryFolder() / "Pinmora.xml"), std::uintmax_t(0));
     {
-        Session session; // the offer is not answered
-        session.addPhoto("saved");
-        QVERIFY(session.library.saveAction());
+        ProgramRun program; // the offer is not answered
+        program.addPhoto("saved");
+        QVERIFY(program.library.saveAction());
     }
-    Session session;
-    session.addPhoto("since");
-    QCOMPARE(photos(session), QString::fromUtf8("saved since"));
-    QCOMPARE(session.offers().size(), std::size_t(1));
-    QCOMPARE(session.offers().front().photos, std::size_t(1));
-    QCOMPARE(session.offers().front().points, std::size_t(3));
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(photos(session), QString::fromUtf8("since a=on the base"));
-    QCOMPARE(session.context().count<track_part>(), std::size_t(3));
-    session.undoManager().undo();
-    QCOMPARE(photos(session), QString::fromUtf8("saved since"));
+    ProgramRun program;
+    program.addPhoto("since");
+    QCOMPARE(photos(program), QString::fromUtf8("saved since"));
+    QCOMPARE(program.offers().size(), std::size_t(1));
+    QCOMPARE(program.offers().front().photos, std::size_t(1));
+    QCOMPARE(program.offers().front().points, std::size_t(3));
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(photos(program), QString::fromUtf8("since a=on the base"));
+    QCOMPARE(program.context().count<track_part>(), std::size_t(3));
+    program.undoManager().undo();
+    QCOMPARE(photos(program), QString::fromUtf8("saved since"));
 }
 
 void RecoveredWorkTest::workOutlivesManyStartsAndSaves_data() {
@@ -215,142 +215,141 @@ void RecoveredWorkTest::workOutlivesManyStartsAndSaves() {
     files.hasLinks = hasLinks;
     if (storeIsLink) {
         fs::create_directory(libraryFolder());
-        fs::create_symlink(libraryFolder().parent_path() / "elsewhere.xml",
+        fs::create_symlink(writeFile(libraryFolder().parent_path() / "elsewhere.xml", ""),
                            libraryFolder() / "Pinmora.xml");
     }
     {
-        Session session(files);
-        session.addPhoto("first");
-        const bool saved = session.library.saveAction(); for(auto&m:session.messages) qDebug()<<m.c_str();
-        QVERIFY(saved);
-        session.comment(photo(session, "first"), "unsaved");
-        session.addPhoto("unsaved");
+        ProgramRun program(files);
+        program.addPhoto("first");
+        QVERIFY(program.library.saveAction());
+        program.comment(photo(program, "first"), "unsaved");
+        program.addPhoto("unsaved");
     }
     for (const char *name : {"second", "third"}) {
-        Session session(files);
-        QCOMPARE(session.offers().size(), std::size_t(1));
-        session.addPhoto(name);
-        QVERIFY(session.library.saveAction());
+        ProgramRun program(files);
+        QCOMPARE(program.offers().size(), std::size_t(1));
+        program.addPhoto(name);
+        QVERIFY(program.library.saveAction());
     }
     {
-        Session session(files);
-        QCOMPARE(photos(session), QString::fromUtf8("first second third"));
-        QCOMPARE(bringBackAll(session), QString());
-        QCOMPARE(photos(session), QString::fromUtf8("first=unsaved unsaved"));
+        ProgramRun program(files);
+        QCOMPARE(photos(program), QString::fromUtf8("first second third"));
+        QCOMPARE(bringBackAll(program), QString());
+        QCOMPARE(photos(program), QString::fromUtf8("first=unsaved unsaved"));
     }
-    Session session(files); // what was brought back is unsaved work of that run
-    QCOMPARE(session.offers().size(), std::size_t(1));
-    QVERIFY(!session.recovered().discard(session.offers().front()));
-    QVERIFY(session.offers().empty());
-    QCOMPARE(photos(session), QString::fromUtf8("first second third"));
+    ProgramRun program(files); // what was brought back is unsaved work of that run
+    QCOMPARE(program.offers().size(), std::size_t(1));
+    QVERIFY(!program.recovered().discard(program.offers().front()));
+    QVERIFY(program.offers().empty());
+    QCOMPARE(photos(program), QString::fromUtf8("first second third"));
 }
 
 void RecoveredWorkTest::aStoreFileOfBeforeMayComeBack() {
     const fs::path store = libraryFolder() / "Pinmora.xml";
     const fs::path backup = libraryFolder() / "backup.xml";
     {
-        Session session;
-        session.addPhoto("a");
-        QVERIFY(session.library.saveAction());
+        ProgramRun program;
+        program.addPhoto("a");
+        QVERIFY(program.library.saveAction());
         fs::copy(store, backup);
-        session.addPhoto("b");
-        session.keeper.willSave("0123");
-        QVERIFY(!XmlStore(store).write(session.context(), "0123"));
-        session.comment(photo(session, "a"), "unsaved");
+        program.addPhoto("b");
+        program.keeper.willSave("0123");
+        QVERIFY(!XmlStore(store).write(program.context(), "0123"));
+        program.comment(photo(program, "a"), "unsaved");
     }
-    { Session session; } // the work is set aside, on the later file
+    { ProgramRun program; } // the work is set aside, on the later file
     fs::rename(backup, store);
-    Session session;
-    QCOMPARE(photos(session), QString::fromUtf8("a"));
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(photos(session), QString::fromUtf8("a=unsaved b"));
+    ProgramRun program;
+    QCOMPARE(photos(program), QString::fromUtf8("a"));
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(photos(program), QString::fromUtf8("a=unsaved b"));
 }
 
 void RecoveredWorkTest::workThatCannotBeSetAsideStays() {
     {
-        Session session;
-        session.addPhoto("a");
+        ProgramRun program;
+        program.addPhoto("a");
     }
     FailingFiles files;
     {
         files.callsLeft = 0;
-        Session session(files);
-        QVERIFY(session.offers().empty());
+        ProgramRun program(files);
+        QVERIFY(program.offers().empty());
         files.callsLeft = 1'000'000;
-        session.addPhoto("b");
+        program.addPhoto("b");
     }
-    Session session;
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(photos(session), QString::fromUtf8("a b"));
+    ProgramRun program;
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(photos(program), QString::fromUtf8("a b"));
 }
 
 void RecoveredWorkTest::twoPiecesOfWorkAreBothKept() {
     for (const char *name : {"a", "b"}) {
-        Session session;
-        session.addPhoto(name);
+        ProgramRun program;
+        program.addPhoto(name);
     }
-    Session session;
-    QCOMPARE(session.offers().size(), std::size_t(2));
-    QVERIFY(session.offers()[0].time <= session.offers()[1].time);
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(photos(session), QString::fromUtf8("a b"));
+    ProgramRun program;
+    QCOMPARE(program.offers().size(), std::size_t(2));
+    QVERIFY(program.offers()[0].time <= program.offers()[1].time);
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(photos(program), QString::fromUtf8("a b"));
 }
 
 void RecoveredWorkTest::thereIsOneOffset() {
-    const auto hours = [](Session &session) {
+    const auto hours = [](ProgramRun &program) {
         std::string all;
-        for (const offset *one : session.context().records<offset>()) {
+        for (const offset *one : program.context().records<offset>()) {
             all += std::to_string(one->hours().value_or(-1)) + " ";
         }
         return all;
     };
     {
-        Session session;
-        session.step([&] { session.context().fetch<offset>().front()->setHours(2); });
-        session.library.deleteTempStore();
+        ProgramRun program;
+        program.step([&] { program.context().fetch<offset>().front()->setHours(2); });
+        program.library.deleteTempStore();
     }
-    Session session;
-    QCOMPARE(hours(session), std::string("-1 "));
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(hours(session), std::string("2 "));
-    session.undoManager().undo();
-    QCOMPARE(hours(session), std::string("-1 "));
+    ProgramRun program;
+    QCOMPARE(hours(program), std::string("-1 "));
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(hours(program), std::string("2 "));
+    program.undoManager().undo();
+    QCOMPARE(hours(program), std::string("-1 "));
 }
 
 void RecoveredWorkTest::aJournalCutAnywhereGivesTheStepsBefore() {
-    const auto state = [](Session &session) {
-        return photos(session) +
-               QString::fromUtf8(", %1").arg(session.context().count<track_part>());
+    const auto state = [](ProgramRun &program) {
+        return photos(program) +
+               QString::fromUtf8(", %1").arg(program.context().count<track_part>());
     };
     std::vector<QString> states;
     {
-        Session session;
-        const auto note = [&] { states.push_back(state(session)); };
+        ProgramRun program;
+        const auto note = [&] { states.push_back(state(program)); };
         note();
-        image &first = session.addPhoto("a");
+        image &first = program.addPhoto("a");
         note();
-        session.step([&] {
+        program.step([&] {
             first.setComments("1");
-            session.context().insert<image>().setImage_name("b");
+            program.context().insert<image>().setImage_name("b");
         });
         note();
         {
-            const UndoGroup group(session.context(), "Everything");
-            session.context().insert<image>().setImage_name("c");
+            const UndoGroup group(program.context(), "Everything");
+            program.context().insert<image>().setImage_name("c");
             note();
-            session.import(writeFile(libraryFolder() / "log", logText(1, 2)));
+            program.import(writeFile(libraryFolder() / "log", logText(1, 2)));
             note();
             {
-                const UnregisteredChanges isThePrograms(session.context());
-                session.context().insert<image>().setImage_name("d");
+                const UnregisteredChanges isThePrograms(program.context());
+                program.context().insert<image>().setImage_name("d");
             }
             note();
-            session.context().insert<image>().setImage_name("e");
+            program.context().insert<image>().setImage_name("e");
         }
         note();
-        session.undoManager().undo();
+        program.undoManager().undo();
         note();
-        session.undoManager().undo();
+        program.undoManager().undo();
         note();
     }
     const std::string whole = readFile(currentJournal());
@@ -360,17 +359,17 @@ void RecoveredWorkTest::aJournalCutAnywhereGivesTheStepsBefore() {
     for (std::size_t size = 0; size <= whole.size(); size += size + 3 < whole.size() ? 3 : 1) {
         fs::create_directories(currentJournal().parent_path());
         writeFile(currentJournal(), whole.substr(0, size));
-        Session session(files);
-        for (const RecoveryOffer &offer : session.offers()) {
+        ProgramRun program(files);
+        for (const RecoveryOffer &offer : program.offers()) {
             if (offer.fault.empty()) {
-                QCOMPARE(session.recovered().bringBack(offer).value_or(""), std::string());
+                QCOMPARE(program.recovered().bringBack(offer).value_or(""), std::string());
             }
-            session.recovered().discard(offer);
+            program.recovered().discard(offer);
         }
         // Each comes in its turn, and none is left out.
-        reached += reached + 1 < states.size() && state(session) == states[reached + 1] ? 1 : 0;
-        QCOMPARE(state(session), states[reached]);
-        session.keeper.forget();
+        reached += reached + 1 < states.size() && state(program) == states[reached + 1] ? 1 : 0;
+        QCOMPARE(state(program), states[reached]);
+        program.keeper.forget();
     }
     QCOMPARE(reached, states.size() - 1);
 }
@@ -390,10 +389,10 @@ void RecoveredWorkTest::whatCannotBeBroughtBackStays() {
     QFETCH(std::string, damaged);
     QFETCH(std::string, words);
     {
-        Session session;
-        session.addPhoto("a");
-        session.library.deleteTempStore();
-        session.addPhoto("b");
+        ProgramRun program;
+        program.addPhoto("a");
+        program.library.deleteTempStore();
+        program.addPhoto("b");
     }
     for (const auto &entry : fs::directory_iterator(currentJournal().parent_path())) {
         const bool isBase = entry.path().extension() == ".xml";
@@ -403,89 +402,89 @@ void RecoveredWorkTest::whatCannotBeBroughtBackStays() {
             fs::remove(entry.path());
         }
     }
-    Session session;
-    const RecoveryOffer offer = session.offers().front();
+    ProgramRun program;
+    const RecoveryOffer offer = program.offers().front();
     QCOMPARE(offer.fault.empty(), damaged == "base");
-    const std::string error = session.recovered().bringBack(offer).value_or("");
+    const std::string error = program.recovered().bringBack(offer).value_or("");
     QVERIFY2(error.find(words) != std::string::npos, error.c_str());
-    QCOMPARE(photos(session), QString::fromUtf8(""));
-    QVERIFY(!session.undoManager().canUndo());
-    QCOMPARE(session.offers().size(), std::size_t(1));
+    QCOMPARE(photos(program), QString::fromUtf8(""));
+    QVERIFY(!program.undoManager().canUndo());
+    QCOMPARE(program.offers().size(), std::size_t(1));
 }
 
 void RecoveredWorkTest::aDiskThatIsFullIsToldOnceAndTriedAgain() {
     FailingFiles files;
     {
-        Session session(files);
-        RecoveryRecorder &recorder = session.keeper.recorder();
+        ProgramRun program(files);
+        RecoveryRecorder &recorder = program.keeper.recorder();
         recorder.setRetryInterval(std::chrono::milliseconds(0));
         std::vector<std::string> told;
         const Connection heard =
             recorder.failed.connect([&](const std::string &reason) { told.push_back(reason); });
-        session.addPhoto("a");
+        program.addPhoto("a");
         QVERIFY(recorder.flush());
         files.callsLeft = 0;
-        session.addPhoto("b");
+        program.addPhoto("b");
         QVERIFY(!recorder.flush());
-        session.addPhoto("c");
-        session.addPhoto("d");
+        program.addPhoto("c");
+        program.addPhoto("d");
         QCOMPARE(told.size(), std::size_t(1));
         QVERIFY2(told.front().find("No space left") != std::string::npos, told.front().c_str());
         files.callsLeft = 1'000'000;
-        session.addPhoto("e");
+        program.addPhoto("e");
         QVERIFY(recorder.flush());
-        session.addPhoto("f");
+        program.addPhoto("f");
         QCOMPARE(told.size(), std::size_t(1));
     }
-    Session session;
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(photos(session), QString::fromUtf8("a b c d e f"));
+    ProgramRun program;
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(photos(program), QString::fromUtf8("a b c d e f"));
 }
 
 void RecoveredWorkTest::workThatCannotBeKeptAgainStays() {
     {
-        Session session;
-        session.addPhoto("a");
+        ProgramRun program;
+        program.addPhoto("a");
     }
     FailingFiles files;
     bool isKept = false;
     for (int calls = 0; !isKept; ++calls) {
         QVERIFY(calls < 100);
         files.callsLeft = 1'000'000;
-        Session session(files);
-        QCOMPARE(session.offers().size(), std::size_t(1));
+        ProgramRun program(files);
+        QCOMPARE(program.offers().size(), std::size_t(1));
         files.callsLeft = calls;
-        isKept = bringBackAll(session).isEmpty();
-        QCOMPARE(photos(session), QString::fromUtf8("a"));
+        isKept = bringBackAll(program).isEmpty();
+        QCOMPARE(photos(program), QString::fromUtf8("a"));
         if (!isKept) {
-            QVERIFY(session.undoManager().canUndo());
+            QVERIFY(program.undoManager().canUndo());
             files.callsLeft = 1'000'000;
-            session.keeper.forget();
+            program.keeper.forget();
         }
     }
-    Session session;
-    QCOMPARE(session.offers().size(), std::size_t(1));
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(photos(session), QString::fromUtf8("a"));
+    ProgramRun program;
+    QCOMPARE(program.offers().size(), std::size_t(1));
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(photos(program), QString::fromUtf8("a"));
 }
 
 void RecoveredWorkTest::theStoreFileStaysWhenNoBaseCanBeWritten() {
     FailingFiles files;
     {
-        Session session(files);
-        session.addPhoto("a");
-        QVERIFY(session.library.saveAction());
-        session.addPhoto("b");
-        QVERIFY(session.keeper.recorder().flush());
+        ProgramRun program(files);
+        program.addPhoto("a");
+        QVERIFY(program.library.saveAction());
+        program.addPhoto("b");
+        QVERIFY(program.keeper.recorder().flush());
         files.callsLeft = 0;
-        session.library.deleteTempStore();
+        program.library.deleteTempStore();
         files.callsLeft = 1'000'000;
-        session.addPhoto("c");
+        program.addPhoto("c");
     }
-    Session session;
-    QCOMPARE(photos(session), QString::fromUtf8("a"));
-    QCOMPARE(bringBackAll(session), QString());
-    QCOMPARE(photos(session), QString::fromUtf8("a b c"));
+    ProgramRun program;
+    QCOMPARE(photos(program), QString::fromUtf8("a"));
+    QCOMPARE(bringBackAll(program), QString());
+    QCOMPARE(photos(program), QString::fromUtf8("a b c"));
 }
 
 void RecoveredWorkTest::aBaseThatCannotBeReplacedStays() {
@@ -494,40 +493,40 @@ void RecoveredWorkTest::aBaseThatCannotBeReplacedStays() {
     for (int calls = 0; !isReplaced; ++calls) {
         QVERIFY(calls < 100);
         {
-            Session session(files);
-            session.addPhoto("a");
-            QVERIFY(!session.keeper.recorder().writeBase());
-            session.addPhoto("b");
-            QVERIFY(session.keeper.recorder().flush());
+            ProgramRun program(files);
+            program.addPhoto("a");
+            QVERIFY(!program.keeper.recorder().writeBase());
+            program.addPhoto("b");
+            QVERIFY(program.keeper.recorder().flush());
             files.callsLeft = calls;
-            isReplaced = !session.keeper.recorder().writeBase();
+            isReplaced = !program.keeper.recorder().writeBase();
             files.callsLeft = 1'000'000;
         }
-        Session session(files);
-        QCOMPARE(bringBackAll(session), QString());
-        QCOMPARE(photos(session), QString::fromUtf8("a b"));
-        session.keeper.forget();
+        ProgramRun program(files);
+        QCOMPARE(bringBackAll(program), QString());
+        QCOMPARE(photos(program), QString::fromUtf8("a b"));
+        program.keeper.forget();
     }
 }
 
 void RecoveredWorkTest::whatIsDiscardedGoesAsAWhole() {
     FailingFiles files;
     {
-        Session session(files);
-        session.addPhoto("a");
-        session.library.deleteTempStore();
+        ProgramRun program(files);
+        program.addPhoto("a");
+        program.library.deleteTempStore();
     }
-    Session session(files);
+    ProgramRun program(files);
     bool isGone = false;
     for (int calls = 0; !isGone; ++calls) {
         QVERIFY(calls < 10);
-        const RecoveryOffer offer = session.offers().front();
+        const RecoveryOffer offer = program.offers().front();
         QVERIFY(offer.fault.empty());
         files.callsLeft = calls;
-        isGone = !session.recovered().discard(offer);
+        isGone = !program.recovered().discard(offer);
         files.callsLeft = 1'000'000;
     }
-    QVERIFY(session.offers().empty());
+    QVERIFY(program.offers().empty());
     QCOMPARE(filesIn(libraryFolder() / "recovery"), std::size_t(0));
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recovery/session.h"
+#include "recovery/program_run.h"
 
 #include <random>
 #include <regex>
@@ -26,40 +26,40 @@ public:
     void forgetAtSaves() { forgetsAtSaves_ = true; }
 
     /// Does the next thing.
-    void act(Session &session) {
+    void act(ProgramRun &program) {
         switch (number(20)) {
         case 0:
         case 1:
         case 2:
-            session.addPhoto("photo " + std::to_string(number(1000)));
+            program.addPhoto("photo " + std::to_string(number(1000)));
             return;
         case 3:
-            return session.step([&] { remove(session.context().fetch<image>()); });
+            return program.step([&] { remove(program.context().fetch<image>()); });
         case 4:
         case 5:
-            return import(session);
+            return import(program);
         case 6:
-            return session.step([&] { remove(session.context().fetch<track>()); });
+            return program.step([&] { remove(program.context().fetch<track>()); });
         case 7:
-            return session.step([&] { remove(session.context().fetch<track_part>()); });
+            return program.step([&] { remove(program.context().fetch<track_part>()); });
         case 8:
-            return session.step([&] { setOffset(session); });
+            return program.step([&] { setOffset(program); });
         case 9:
-            return number(2) == 0 ? session.library.removeAllGPSData() : several(session);
+            return number(2) == 0 ? program.library.removeAllGPSData() : several(program);
         case 10:
         case 11:
         case 12:
-            return session.undoManager().undo();
+            return program.undoManager().undo();
         case 13:
-            return session.undoManager().redo();
+            return program.undoManager().redo();
         case 14:
-            return number(3) == 0 ? save(session) : zoom(session);
+            return number(3) == 0 ? save(program) : zoom(program);
         case 15:
-            return number(6) == 0 ? session.library.deleteTempStore() : zoom(session);
+            return number(6) == 0 ? program.library.deleteTempStore() : zoom(program);
         default:
-            return session.step([&] {
+            return program.step([&] {
                 for (unsigned i = number(3) + 1; i > 0; --i) {
-                    edit(session.context().fetch<image>());
+                    edit(program.context().fetch<image>());
                 }
             });
         }
@@ -91,55 +91,55 @@ private:
                        : photo->setComments({});
         }
     }
-    void save(Session &session) {
-        session.library.saveAction();
+    void save(ProgramRun &program) {
+        program.library.saveAction();
         if (forgetsAtSaves_) {
-            session.undoManager().removeAllActions();
+            program.undoManager().removeAllActions();
         }
     }
     /// One action that takes several turns of the event loop.
-    void several(Session &session) {
-        const UndoGroup group(session.context(), "Several");
+    void several(ProgramRun &program) {
+        const UndoGroup group(program.context(), "Several");
         for (unsigned i = number(5); i > 0; --i) {
             switch (number(6)) {
             case 0:
-                session.context().insert<image>().setImage_name("of several");
+                program.context().insert<image>().setImage_name("of several");
                 break;
             case 1:
-                remove(session.context().fetch<image>());
+                remove(program.context().fetch<image>());
                 break;
             case 2:
-                remove(session.context().fetch<track>());
+                remove(program.context().fetch<track>());
                 break;
             case 3:
-                remove(session.context().fetch<track_part>());
+                remove(program.context().fetch<track_part>());
                 break;
             case 4:
-                import(session);
+                import(program);
                 break;
             default:
-                edit(session.context().fetch<image>());
+                edit(program.context().fetch<image>());
             }
             if (number(2) == 0) {
-                session.undoManager().closePart();
+                program.undoManager().closePart();
             }
         }
     }
-    void zoom(Session &session) {
-        const UnregisteredChanges isThePrograms(session.context());
-        if (image *photo = one(session.context().fetch<image>())) {
+    void zoom(ProgramRun &program) {
+        const UnregisteredChanges isThePrograms(program.context());
+        if (image *photo = one(program.context().fetch<image>())) {
             photo->setZoom(std::optional(static_cast<std::int32_t>(number(20))));
         }
     }
-    void setOffset(Session &session) {
-        for (offset *one : session.context().records<offset>()) {
+    void setOffset(ProgramRun &program) {
+        for (offset *one : program.context().records<offset>()) {
             one->setHours(static_cast<std::int32_t>(number(24)));
         }
     }
-    void import(Session &session) {
+    void import(ProgramRun &program) {
         const unsigned salt = number(100);
         const auto log = writeFile(logs_ / "log", logText(salt, static_cast<int>(number(5))));
-        session.import(log, number(2) == 0 ? LogReading::Exact : LogReading::Tolerant);
+        program.import(log, number(2) == 0 ? LogReading::Exact : LogReading::Tolerant);
     }
 
     std::mt19937 random_;

@@ -40,8 +40,8 @@ void WorkTest::workComesBackAsItWas() {
     if (inOrder) {
         script.forgetAtSaves();
     }
-    const auto library = [inOrder](Session &session) {
-        Lines lines = described(session.context());
+    const auto library = [inOrder](ProgramRun &program) {
+        Lines lines = described(program.context());
         if (!inOrder) { // a photo that was deleted in the store file comes back behind the others
             std::sort(lines.begin(), lines.end());
         }
@@ -49,25 +49,25 @@ void WorkTest::workComesBackAsItWas() {
     };
     Lines before; // when the run before ended
     for (int run = 0; run < 10; ++run) {
-        Session session(files);
-        const std::vector<RecoveryOffer> offers = session.offers();
+        ProgramRun program(files);
+        const std::vector<RecoveryOffer> offers = program.offers();
         QVERIFY(offers.size() <= 1);
-        const Lines atStart = library(session);
+        const Lines atStart = library(program);
         if (offers.empty() && run > 0) {
             QCOMPARE(difference(withoutZoom(atStart), withoutZoom(before)), QString());
         } else if (!offers.empty()) {
-            QCOMPARE(session.recovered().bringBack(offers.front()).value_or(""), "");
-            QCOMPARE(difference(library(session), before), QString());
-            session.undoManager().undo();
-            QCOMPARE(difference(library(session), atStart), QString());
-            session.undoManager().redo();
-            QCOMPARE(difference(library(session), before), QString());
-            QVERIFY(session.offers().empty());
+            QCOMPARE(program.recovered().bringBack(offers.front()).value_or(""), "");
+            QCOMPARE(difference(library(program), before), QString());
+            program.undoManager().undo();
+            QCOMPARE(difference(library(program), atStart), QString());
+            program.undoManager().redo();
+            QCOMPARE(difference(library(program), before), QString());
+            QVERIFY(program.offers().empty());
         }
         for (unsigned steps = script.number(30); steps > 0; --steps) {
-            script.act(session);
+            script.act(program);
         }
-        before = library(session);
+        before = library(program);
     }
 }
 

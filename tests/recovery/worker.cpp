@@ -73,11 +73,11 @@ void say(const char *word, unsigned step) {
     std::fflush(stdout);
 }
 
-void work(Session &session, Script script, unsigned steps) {
+void work(ProgramRun &program, Script script, unsigned steps) {
     for (unsigned step = 1; step <= steps; ++step) {
         say("step", step);
-        script.act(session);
-        if (step % 5 == 0 && session.keeper.recorder().flush()) {
+        script.act(program);
+        if (step % 5 == 0 && program.keeper.recorder().flush()) {
             say("safe", step);
         }
     }
@@ -91,14 +91,14 @@ int main(int argc, char **argv) {
     const std::string mode = argv[2];
     qputenv("XDG_DATA_HOME", argv[1]);
     DeadlyFiles files(std::atoi(argv[4]));
-    Session session(files);
+    ProgramRun program(files);
     if (mode == "work") {
         Script script(static_cast<unsigned>(std::atoi(argv[3])), folder);
         script.forgetAtSaves();
-        work(session, script, 40);
+        work(program, script, 40);
     } else if (mode == "back") {
-        for (const RecoveryOffer &offer : session.offers()) {
-            static_cast<void>(session.recovered().bringBack(offer));
+        for (const RecoveryOffer &offer : program.offers()) {
+            static_cast<void>(program.recovered().bringBack(offer));
         }
     }
     return 0;

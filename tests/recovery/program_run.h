@@ -24,8 +24,8 @@ namespace pinmora::test {
 
 /// A run of the program on the library in XDG_DATA_HOME, as far as its records go. Its end is that
 /// of a program that quits without saving and without a word.
-struct Session {
-    explicit Session(FileSystem &files = realFileSystem())
+struct ProgramRun {
+    explicit ProgramRun(FileSystem &files = realFileSystem())
         : library(notifications, errors, files), gps(context(), progress, errors),
           keeper(library, gps, files) {
         gps.setImportJournal(&keeper.recorder());
