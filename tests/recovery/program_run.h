@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -159,6 +160,39 @@ inline std::filesystem::path writeFile(const std::filesystem::path &path, std::s
 inline std::string readFile(const std::filesystem::path &path) {
     std::ifstream stream(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// The names of the photos, with their comments.
+inline QString photos(ProgramRun &program) {
+    std::string names;
+    for (const image *photo : program.context().records<image>()) {
+        names += (names.empty() ? "" : " ") + photo->image_name().string();
+        names += photo->comments().hasValue() ? "=" + photo->comments().string() : "";
+    }
+    return QString::fromStdString(names);
+}
+
+inline image &photo(ProgramRun &program, std::string_view name) {
+    for (image *one : program.context().records<image>()) {
+        if (one->image_name() == name) {
+            return *one;
+        }
+    }
+    throw std::runtime_error("no photo " + std::string(name));
+}
+
+inline QString bringBackAll(ProgramRun &program) {
+    std::string errors;
+    for (const RecoveryOffer &offer : program.offers()) {
+        errors += program.recovered().bringBack(offer).value_or("");
+    }
+    return QString::fromStdString(errors);
+}
+
+inline std::size_t filesIn(const std::filesystem::path &folder) {
+    std::error_code none;
+    return static_cast<std::size_t>(
+        std::distance(std::filesystem::directory_iterator(folder, none), {}));
 }
 
 } // namespace pinmora::test
