@@ -47,21 +47,31 @@ function(pinmora_library name)
     target_link_libraries(pinmora_${name} PUBLIC pinmora_options ${arg_USES})
 endfunction()
 
-# pinmora_test(NAME SOURCES file... USES target...): one Qt Test program, run by CTest in a home of
-# its own, so that no test reads or writes a person's settings, data or cache. Qt's headers are
-# compiled once for all tests, which saves most of a test's compile time; that needs the same macros
-# in all of them, so each links Qt6::Gui, and Qt's folder for test data, which differs, is left out.
+# pinmora_test(NAME [WIDGETS] SOURCES file... USES target...): one Qt Test program, run by CTest in a
+# home of its own, so that no test reads or writes a person's settings, data or cache. Qt's headers
+# are compiled once for all tests, and once more for those with WIDGETS, which saves most of a test's
+# compile time; that needs the same macros in all of them, so each links the same of Qt, and Qt's
+# folder for test data, which differs, is left out.
 function(pinmora_test name)
-    cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
-    if(NOT TARGET pinmora_test_headers)
+    cmake_parse_arguments(arg "WIDGETS" "" "SOURCES;USES" ${ARGN})
+    if(arg_WIDGETS)
+        set(shared pinmora_widget_test_headers)
+        set(qt Qt6::Svg Qt6::WebEngineWidgets Qt6::Widgets Qt6::Test)
+        set(headers <QtWidgets>)
+    else()
+        set(shared pinmora_test_headers)
+        set(qt Qt6::Network Qt6::Gui Qt6::Test)
+        set(headers <QObject> <QTemporaryDir>)
+    endif()
+    if(NOT TARGET ${shared})
         get_target_property(macros Qt6::Test INTERFACE_COMPILE_DEFINITIONS)
         list(FILTER macros EXCLUDE REGEX QT_TESTCASE_)
         set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS "${macros}")
-        add_executable(pinmora_test_headers "${CMAKE_SOURCE_DIR}/cmake/test_headers.cpp")
-        target_link_libraries(pinmora_test_headers PRIVATE pinmora_options Qt6::Gui Qt6::Test)
-        target_precompile_headers(pinmora_test_headers PRIVATE
-            <QObject> <QTemporaryDir> <QTest> <filesystem> <fstream> <string> <vector>)
-        set_target_properties(pinmora_test_headers PROPERTIES
+        add_executable(${shared} "${CMAKE_SOURCE_DIR}/cmake/test_headers.cpp")
+        target_link_libraries(${shared} PRIVATE pinmora_options ${qt})
+        target_precompile_headers(${shared} PRIVATE
+            ${headers} <QTest> <filesystem> <fstream> <string> <vector>)
+        set_target_properties(${shared} PROPERTIES
             RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     endif()
     add_executable(${name} ${arg_SOURCES})
@@ -69,8 +79,8 @@ function(pinmora_test name)
         AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}/tests")
     target_compile_definitions(${name} PRIVATE PINMORA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
-    target_link_libraries(${name} PRIVATE pinmora_options ${arg_USES} Qt6::Gui Qt6::Test)
-    target_precompile_headers(${name} REUSE_FROM pinmora_test_headers)
+    target_link_libraries(${name} PRIVATE pinmora_options ${arg_USES} ${qt})
+    target_precompile_headers(${name} REUSE_FROM ${shared})
     add_test(NAME ${name} COMMAND ${name})
     set(home "${CMAKE_BINARY_DIR}/tests/home/${name}")
     file(MAKE_DIRECTORY "${home}")

@@ -128,7 +128,7 @@ void ClockOffset::setNewOffset(bool updateFields) {
     stored->setPlus(isEarlier ? 0 : 1);
     showCorrectedTime(isEarlier ? taken - apart : taken + apart);
 
-    const MapView &map = outlets_.inWizard ? outlets_.webView2 : outlets_.webView1;
+    MapView &map = outlets_.inWizard ? outlets_.webView2 : outlets_.webView1;
     map.evaluate(pointerScript(point->lat().view(), point->lon().view(), zoom));
     placeAt(*photo, *point);
     if (degrees *const shown = outlets_.degreeObj.content()) {

@@ -16,14 +16,49 @@ std::string withoutLeadingZeros(std::string_view number) {
     return std::string(number.substr(0, sign)).append(size);
 }
 
-} // namespace
+/// A text as a script holds it between single quotes. Line ends in it, also those beyond ASCII,
+/// would end the script's line; "<" could end the script in a page.
+std::string quoted(std::string_view text) {
+    std::string script = "'";
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if (text.substr(i, 2) == "\xE2\x80" && (text.substr(i, 3).back() & 0xFE) == 0xA8) {
+            script += text[i + 2] == '\xA8' ? "\\u2028" : "\\u2029";
+            i += 2;
+        } else if (byte < 0x20 || byte == '\'' || byte == '"' || byte == '\\' || byte == '<') {
+            static constexpr std::string_view digits = "0123456789abcdef";
+            script.append("\\x") += digits[byte / 16];
+            script += digits[byte % 16];
+        } else {
+            script += text[i];
+        }
+    }
+    return script + "'";
+}
 
-std::string pointerScript(std::string_view lat, std::string_view lon, int zoom) {
+/// "FUNCTION(LAT,LON" and what follows.
+std::string scriptFor(std::string_view function, std::string_view lat, std::string_view lon,
+                      const std::string &rest) {
     if (!plainDecimal(lat) || !plainDecimal(lon)) {
         return "removePointer()";
     }
-    return "movePointer(" + withoutLeadingZeros(trimmed(lat)) + "," +
-           withoutLeadingZeros(trimmed(lon)) + "," + std::to_string(zoom) + ",'')";
+    return std::string(function) + "(" + withoutLeadingZeros(trimmed(lat)) + "," +
+           withoutLeadingZeros(trimmed(lon)) + "," + rest + ")";
+}
+
+} // namespace
+
+std::string pointerScript(std::string_view lat, std::string_view lon, int zoom) {
+    return scriptFor("movePointer", lat, lon, std::to_string(zoom) + ",''");
+}
+
+std::string pointerScript(std::string_view lat, std::string_view lon) {
+    return scriptFor("movePointer", lat, lon, "''");
+}
+
+std::string pointerScript(std::string_view lat, std::string_view lon, int zoom,
+                          std::string_view label) {
+    return scriptFor("movePointerWithZoom", lat, lon, std::to_string(zoom) + "," + quoted(label));
 }
 
 } // namespace pinmora

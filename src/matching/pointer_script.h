@@ -10,4 +10,11 @@ namespace pinmora {
 /// removes the pointer.
 std::string pointerScript(std::string_view lat, std::string_view lon, int zoom);
 
+/// The same without a zoom level: the map keeps its own.
+std::string pointerScript(std::string_view lat, std::string_view lon);
+
+/// The script that moves the pointer and the map with it, and labels the pointer.
+std::string pointerScript(std::string_view lat, std::string_view lon, int zoom,
+                          std::string_view label);
+
 } // namespace pinmora

@@ -13,12 +13,8 @@ namespace {
 constexpr auto reach = static_cast<std::uint64_t>(std::chrono::microseconds(sameOuting).count());
 
 std::size_t countNearSorted(std::span<const Date> photos, std::span<const Date> points) {
-    const auto isNear = [&](Date photo) {
-        const auto next = std::lower_bound(points.begin(), points.end(), photo);
-        return (next != points.end() && microsecondsApart(*next, photo) <= reach) ||
-               (next != points.begin() && microsecondsApart(next[-1], photo) <= reach);
-    };
-    return static_cast<std::size_t>(std::count_if(photos.begin(), photos.end(), isNear));
+    return static_cast<std::size_t>(std::count_if(
+        photos.begin(), photos.end(), [points](Date photo) { return isNearPoint(photo, points); }));
 }
 
 std::size_t countNear(std::span<const Date> photos, std::span<const Date> points) {
@@ -31,6 +27,18 @@ std::size_t countNear(std::span<const Date> photos, std::span<const Date> points
 }
 
 } // namespace
+
+bool isNearPoint(Date photo, std::span<const Date> points) {
+    if (points.empty()) {
+        return false;
+    }
+    if (photo <= points.front() || photo >= points.back()) { // most photos, to most logs
+        const Date end = photo <= points.front() ? points.front() : points.back();
+        return microsecondsApart(end, photo) <= reach;
+    }
+    const auto next = std::lower_bound(points.begin(), points.end(), photo);
+    return microsecondsApart(*next, photo) <= reach || microsecondsApart(next[-1], photo) <= reach;
+}
 
 ReadingComparison compareReadings(std::span<const Date> photos, std::span<const Date> exactPoints,
                                   std::span<const Date> tolerantPoints) {

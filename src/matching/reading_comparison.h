@@ -11,6 +11,9 @@ namespace pinmora {
 /// A photo this near to a point, or nearer, shows that photos and log are of the same outing.
 inline constexpr std::chrono::seconds sameOuting = std::chrono::minutes(5);
 
+/// Whether a photo lies within `sameOuting` of one of the points, whose times rise.
+bool isNearPoint(Date photo, std::span<const Date> points);
+
 /// How many photos lie within `sameOuting` of a point under each way of reading the same logs.
 struct ReadingComparison {
     std::size_t exact = 0;

@@ -27,6 +27,15 @@ struct Stepper : Control {
         }
     }
 
+    /// What typing a number does: the nearest one in the range is taken, under the same conditions.
+    void set(int number) {
+        const int to = std::clamp(number, minimum, maximum);
+        if (enabled.get() && to != value.get()) {
+            value.set(to);
+            stepped.emit();
+        }
+    }
+
 private:
     int after(std::int64_t change) const {
         const std::int64_t from = std::clamp(value.get(), minimum, maximum);

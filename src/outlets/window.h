@@ -4,11 +4,21 @@
 #include "outlets/signal.h"
 
 #include <functional>
+#include <string>
 
 namespace pinmora {
 
 struct Window {
     Observable<bool> visible{false};
+    Observable<std::string> title{"Pinmora"};
+    /// Asks for the window to come before all others and to take the keyboard.
+    Signal<> fronted;
+
+    void makeKeyAndOrderFront() {
+        visible.set(true);
+        fronted.emit();
+    }
+    void close() { visible.set(false); }
 };
 
 /// Which window a person is working in; asked anew each time a sheet is put up.

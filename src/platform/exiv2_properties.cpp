@@ -5,9 +5,11 @@
 #include <exiv2/exiv2.hpp>
 #include <initializer_list>
 #include <mutex>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "platform/colour_profile.h"
 #include "platform/image_text.h"
 #include "platform/number_text.h"
 #include "platform/text_encoding.h"
@@ -60,6 +62,19 @@ std::optional<std::string> textBytes(const Exiv2::Value &value) {
     return std::nullopt;
 }
 
+/// The bytes of a buffer, whose members the versions name differently; 0.27 hands out some buffers
+/// by pointer.
+template <class Buffer>
+std::string_view bufferBytes(const Buffer &buffer) {
+    if constexpr (std::is_pointer_v<Buffer>)
+        return bufferBytes(*buffer);
+    else if constexpr (requires { buffer.c_data(); })
+        return {reinterpret_cast<const char *>(buffer.c_data()), buffer.size()};
+    else
+        return {reinterpret_cast<const char *>(buffer.pData_),
+                static_cast<std::size_t>(buffer.size_)};
+}
+
 /// The quotients of a rational value; NaN where a denominator is zero.
 std::vector<double> quotients(const Exiv2::Value &value) {
     std::vector<double> result;
@@ -93,7 +108,7 @@ std::optional<double> degreesFrom(const std::vector<double> &parts, double limit
 /// Fills the dictionaries from one opened image.
 class PropertyReader {
 public:
-    explicit PropertyReader(const Exiv2::Image &image) : image_(image) {}
+    explicit PropertyReader(Exiv2::Image &image) : image_(image) {}
 
     Exiv2Reading read() {
         readTop();
@@ -158,6 +173,23 @@ private:
             top.set("DPIWidth", horizontal);
             top.set("DPIHeight", vertical);
         }
+        readColours();
+    }
+
+    /// As TIFF states it; the formats that have a header of their own for it seldom do.
+    void readColours() {
+        PropertyDictionary &top = reading_.properties.top;
+        // 0 and 1 are grey, 5 is CMYK.
+        if (const auto value = number({"Exif.Image.PhotometricInterpretation"}))
+            top.set("ColorModel", *value == 5                  ? "CMYK"
+                                  : *value == 0 || *value == 1 ? "Gray"
+                                                               : "RGB");
+        if (const auto value = number({"Exif.Image.BitsPerSample"}))
+            top.set("Depth", *value);
+        if (image_.iccProfileDefined())
+            if (const std::string name = nameOfProfile(bufferBytes(image_.iccProfile()));
+                !name.empty())
+                top.set("ProfileName", name);
     }
 
     void readTexts() {
@@ -245,7 +277,7 @@ private:
                 reading_.properties.iptc.set(name, decodeIptcText(*bytes, declared));
     }
 
-    const Exiv2::Image &image_;
+    Exiv2::Image &image_;
     Exiv2Reading reading_;
 };
 
@@ -259,35 +291,46 @@ bool readMetadata(Exiv2::Image &image) {
     }
 }
 
-std::optional<Exiv2Reading> readFrom(IoPointer io) {
-    const auto image = Exiv2::ImageFactory::open(std::move(io));
-    if (!image.get() || !isImageType(image->mimeType()) || !readMetadata(*image))
-        return std::nullopt;
-    return PropertyReader(*image).read();
-}
-
-/// Calls `read` with Exiv2 ready; whatever the library throws ends here.
-template <typename Read>
-std::optional<Exiv2Reading> guarded(Read read) {
+/// Calls `read` with the opened image, Exiv2 being ready; whatever the library throws ends here.
+template <typename Open, typename Read>
+auto withImage(Open open, Read read) -> decltype(read(std::declval<Exiv2::Image &>())) {
     try {
         prepareExiv2();
-        return read();
+        const auto image = Exiv2::ImageFactory::open(open());
+        if (!image.get() || !isImageType(image->mimeType()) || !readMetadata(*image))
+            return {};
+        return read(*image);
     } catch (...) {
-        return std::nullopt;
+        return {};
     }
+}
+
+std::optional<Exiv2Reading> readingOf(Exiv2::Image &image) {
+    return PropertyReader(image).read();
+}
+
+/// A FileIo of its own: ImageFactory would take a name like "http:x.jpg" for an address.
+auto opening(const std::filesystem::path &file) {
+    return [&file] { return IoPointer(new Exiv2::FileIo(file.string())); };
 }
 
 } // namespace
 
 std::optional<Exiv2Reading> readWithExiv2(const std::filesystem::path &file) {
-    // A FileIo of its own: ImageFactory would take a name like "http:x.jpg" for an address.
-    return guarded([&] { return readFrom(IoPointer(new Exiv2::FileIo(file.string()))); });
+    return withImage(opening(file), readingOf);
 }
 
 std::optional<Exiv2Reading> readWithExiv2(std::span<const std::byte> bytes) {
     const auto *data = reinterpret_cast<const Exiv2::byte *>(bytes.data());
-    return guarded([&] {
-        return readFrom(IoPointer(new Exiv2::MemIo(data, static_cast<long>(bytes.size()))));
+    const auto open = [&] {
+        return IoPointer(new Exiv2::MemIo(data, static_cast<long>(bytes.size())));
+    };
+    return withImage(open, readingOf);
+}
+
+std::string thumbnailSeenByExiv2(const std::filesystem::path &file) {
+    return withImage(opening(file), [](Exiv2::Image &image) {
+        return std::string(bufferBytes(Exiv2::ExifThumbC(image.exifData()).copy()));
     });
 }
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <span>
+#include <string>
 
 #include "platform/image_source.h"
 
@@ -22,5 +23,9 @@ std::optional<Exiv2Reading> readWithExiv2(const std::filesystem::path &file);
 
 /// The same for the bytes of a file in memory.
 std::optional<Exiv2Reading> readWithExiv2(std::span<const std::byte> bytes);
+
+/// The bytes (JPEG or TIFF) of the thumbnail in a file's Exif block; empty where there is none.
+/// Never throws.
+std::string thumbnailSeenByExiv2(const std::filesystem::path &file);
 
 } // namespace pinmora

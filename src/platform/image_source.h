@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace pinmora {
 
@@ -24,13 +25,17 @@ public:
     /// The value as a number; a text reads as the number it begins with.
     std::optional<double> number(std::string_view key) const;
 
+    bool isEmpty() const { return values_.empty(); }
+    std::vector<std::string> names() const;
+
 private:
     std::map<std::string, Value, std::less<>> values_;
 };
 
 /// What the header of an image file says, sorted into the customary dictionaries.
 ///
-/// - `top`: "PixelWidth", "PixelHeight", "DPIWidth", "DPIHeight", "Orientation"
+/// - `top`: "ColorModel", "Depth" (bits of a component), "ProfileName", "PixelWidth",
+///   "PixelHeight", "DPIWidth", "DPIHeight" (72 where the file gives no resolution), "Orientation"
 /// - `iptc` ("{IPTC}"): "City", "Province/State", "Country/PrimaryLocationName"
 /// - `gps` ("{GPS}"): "LatitudeRef", "Latitude", "LongitudeRef", "Longitude" (unsigned degrees),
 ///   "Altitude" (metres, negative below sea level)
@@ -42,11 +47,24 @@ struct ImageProperties {
     PropertyDictionary gps;
     PropertyDictionary tiff;
     PropertyDictionary exif;
+
+    /// The entries of the whole: those of `top`, and the dictionaries that have any.
+    std::vector<std::string> topLevelNames() const;
+};
+
+/// How much of the properties is read.
+enum class ImageRead {
+    /// What is needed to show the picture. Of one that states how it lies, these are ten entries at
+    /// the top, {TIFF} and {Exif} among them; {GPS} and {IPTC} are left out.
+    Light,
+    Full,
 };
 
 /// Reads the properties of the first image in a file; no pixels are decoded, and the file is only
-/// opened for reading. Nothing when no reader at hand (Exiv2, Qt, LibRaw) knows it as an image.
-std::optional<ImageProperties> readImageProperties(const std::filesystem::path &file);
+/// opened for reading. Nothing when no reader at hand (Exiv2, Qt, libheif, LibRaw) knows it as an
+/// image.
+std::optional<ImageProperties> readImageProperties(const std::filesystem::path &file,
+                                                   ImageRead read = ImageRead::Full);
 
 /// How the IPTC texts in a photo are encoded.
 enum class IptcEncoding {

@@ -1,25 +1,19 @@
 #include "platform/readable_image.h"
 
-#include <QFile>
-#include <QImageReader>
-#include <QLoggingCategory>
-#include <QSize>
 #include <algorithm>
 #include <array>
 #include <fcntl.h>
-#include <libraw/libraw.h>
-#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/file_descriptor.h"
+#include "platform/heif_picture.h"
+#include "platform/qt_picture.h"
+#include "platform/raw_picture.h"
 
 namespace pinmora {
-namespace {
 
-/// A regular file open for reading, or none. Without O_NONBLOCK a pipe would hold the caller until
-/// somebody writes.
 FileDescriptor openRegularFile(const std::filesystem::path &file) {
+    // Without O_NONBLOCK a pipe would hold the caller until somebody writes.
     FileDescriptor descriptor(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status {};
     if (descriptor.isOpen() &&
@@ -27,41 +21,6 @@ FileDescriptor openRegularFile(const std::filesystem::path &file) {
         return {};
     return descriptor;
 }
-
-std::optional<PixelSize> sizeSeenByQt(const std::filesystem::path &file) {
-    // Readers that recognise their format by its content; others take nearly any bytes.
-    static const QList<QByteArray> trusted{"jpeg", "png", "tiff", "gif", "bmp",
-                                           "webp", "xbm", "ico",  "cur", "icns"};
-    // Qt's readers would write on standard error what they think of a damaged file.
-    static const bool quiet = [] {
-        QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false"));
-        return true;
-    }();
-    static_cast<void>(quiet);
-
-    const FileDescriptor descriptor = openRegularFile(file);
-    QFile device; // by descriptor: a file name that is not UTF-8 does not survive in a QString
-    if (!descriptor.isOpen() || !device.open(descriptor.get(), QIODevice::ReadOnly))
-        return std::nullopt;
-    QImageReader reader(&device);
-    reader.setDecideFormatFromContent(true);
-    if (!reader.canRead() || !trusted.contains(reader.format()))
-        return std::nullopt;
-    const QSize size = reader.size();
-    if (size.isEmpty())
-        return std::nullopt;
-    return PixelSize{size.width(), size.height()};
-}
-
-std::optional<PixelSize> sizeSeenByLibRaw(const std::filesystem::path &file) {
-    const auto raw = std::make_unique<LibRaw>();  // too big for the stack
-    raw->set_dataerror_handler(nullptr, nullptr); // the default writes to standard error
-    if (raw->open_file(file.c_str()) != LIBRAW_SUCCESS)
-        return std::nullopt;
-    return PixelSize{raw->imgdata.sizes.width, raw->imgdata.sizes.height};
-}
-
-} // namespace
 
 std::optional<std::string> headOfRegularFile(const std::filesystem::path &file) {
     const FileDescriptor descriptor = openRegularFile(file);
@@ -95,8 +54,13 @@ std::optional<Resolution> jfifResolution(std::string_view head) {
 }
 
 std::optional<PixelSize> sizeSeenByDecoders(const std::filesystem::path &file) {
-    const auto size = sizeSeenByQt(file);
-    return size ? size : sizeSeenByLibRaw(file);
+    if (const auto size = sizeSeenByQt(file)) {
+        return size;
+    }
+    if (const auto size = sizeSeenByHeif(file)) {
+        return size;
+    }
+    return sizeSeenByLibRaw(file);
 }
 
 } // namespace pinmora

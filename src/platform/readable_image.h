@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/file_descriptor.h"
+
 namespace pinmora {
 
 struct PixelSize {
@@ -17,6 +19,10 @@ struct Resolution {
     double vertical = 0;
 };
 
+/// A regular file open for reading, or none: not for folders, pipes, devices. Never waits for a
+/// writer.
+FileDescriptor openRegularFile(const std::filesystem::path &file);
+
 /// The first bytes (up to 512) of a regular file; nothing for folders, pipes, devices and what
 /// cannot be opened. Never waits for a writer.
 std::optional<std::string> headOfRegularFile(const std::filesystem::path &file);
@@ -28,8 +34,8 @@ bool mayBeImage(std::string_view head);
 /// The resolution that a JFIF segment at the start of a JPEG file gives, if it has a unit.
 std::optional<Resolution> jfifResolution(std::string_view head);
 
-/// The size that Qt's image readers or LibRaw see in a file's header; nothing when none of them
-/// knows the file. No pixels are decoded.
+/// The size that Qt's image readers, libheif or LibRaw see in a file's header; nothing when none of
+/// them knows the file. No pixels are decoded.
 std::optional<PixelSize> sizeSeenByDecoders(const std::filesystem::path &file);
 
 } // namespace pinmora

@@ -20,6 +20,11 @@ void putInForce(const char *zone) {
     ::tzset();
 }
 
+std::shared_mutex &zoneMutex() {
+    static std::shared_mutex mutex;
+    return mutex;
+}
+
 } // namespace
 
 std::string computerZone() {
@@ -41,7 +46,7 @@ std::string computerZone() {
     return std::filesystem::exists(zoneFile, none) ? std::string(":") + zoneFile : "UTC0";
 }
 
-ZoneScope::ZoneScope(std::string_view zone) {
+ZoneScope::ZoneScope(std::string_view zone) : alone_(zoneMutex()) {
     if (const char *before = std::getenv("TZ")) {
         before_ = before;
     }
@@ -51,5 +56,7 @@ ZoneScope::ZoneScope(std::string_view zone) {
 ZoneScope::~ZoneScope() {
     putInForce(before_ ? before_->c_str() : nullptr);
 }
+
+ZoneHold::ZoneHold() : held_(zoneMutex()) {}
 
 } // namespace pinmora

@@ -1,77 +1,15 @@
 #include "platform/image_source.h"
 
-#include <QBuffer>
+#include <QColorSpace>
 #include <QImage>
-#include <QTemporaryDir>
 #include <QTest>
-#include <exiv2/exiv2.hpp>
-#include <fstream>
-#include <sys/stat.h>
-#include <utility>
-#include <vector>
+
+#include "platform/tagged_photo.h"
 
 using namespace pinmora;
 using namespace std::string_literals;
-namespace fs = std::filesystem;
 
 namespace {
-
-/// Exiv2's keys with values as text, which the entry "raw UserComment" or "raw ImageDescription"
-/// has byte for byte.
-using Tags = std::vector<std::pair<std::string, std::string>>;
-
-const Tags southEast{
-    {"Exif.GPSInfo.GPSLatitudeRef", "S"},
-    {"Exif.GPSInfo.GPSLatitude", "33/1 52/1 3/1"},
-    {"Exif.GPSInfo.GPSLongitudeRef", "E"},
-    {"Exif.GPSInfo.GPSLongitude", "151/1 1242/100 0/1"},
-    {"Exif.Photo.DateTimeOriginal", "2008:06:21 14:03:59"},
-};
-
-std::string picture(const char *format) {
-    QImage image(20, 10, format == "xbm"s ? QImage::Format_Mono : QImage::Format_RGB32);
-    image.fill(0);
-    image.setDotsPerMeterX(2835);
-    image.setDotsPerMeterY(2835);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
-    return buffer.data().toStdString();
-}
-
-std::string bytesOf(const fs::path &file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-void addBytes(Exiv2::ExifData &exif, const char *key, Exiv2::TypeId type,
-              const std::string &bytes) {
-    Exiv2::DataValue value(type);
-    value.read(reinterpret_cast<const Exiv2::byte *>(bytes.data()), bytes.size());
-    exif.add(Exiv2::ExifKey(key), &value);
-}
-
-void tag(const fs::path &file, const Tags &tags, Exiv2::ByteOrder order = Exiv2::littleEndian) {
-    const auto image = Exiv2::ImageFactory::open(file.string());
-    image->readMetadata();
-    image->setByteOrder(order);
-    for (const auto &[key, value] : tags) {
-        if (key == "raw UserComment")
-            addBytes(image->exifData(), "Exif.Photo.UserComment", Exiv2::undefined, value);
-        else if (key == "raw ImageDescription")
-            addBytes(image->exifData(), "Exif.Image.ImageDescription", Exiv2::asciiString, value);
-        else if (key.starts_with("Iptc"))
-            image->iptcData()[key] = value;
-        else
-            image->exifData()[key] = value;
-    }
-    image->writeMetadata();
-}
-
-std::size_t openHandles() {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator()));
-}
 
 /// The texts under some keys, with "-" for none.
 QByteArray texts(const PropertyDictionary &dictionary, std::initializer_list<const char *> keys) {
@@ -85,6 +23,7 @@ QByteArray texts(const PropertyDictionary &dictionary, std::initializer_list<con
 
 Q_DECLARE_METATYPE(Tags)
 
+/// What is read of the properties of a picture.
 class ImageSourceTest : public QObject {
     Q_OBJECT
 
@@ -95,30 +34,15 @@ private Q_SLOTS:
     void text();
     void header_data();
     void header();
-    void format_data();
-    void format();
-    void fileName_data();
-    void fileName();
-    void noImage_data();
-    void noImage();
-    void cutAnywhere();
-    void manyFilesLeaveNothingBehind();
+    void entries_data();
+    void entries();
+    void colours_data();
+    void colours();
     void iptcEncoding();
     void dictionary();
 
 private:
-    fs::path write(const std::string &name, const std::string &bytes) const {
-        const fs::path file = fs::path(folder_.path().toStdString()) / name;
-        std::ofstream(file, std::ios::binary) << bytes;
-        return file;
-    }
-    fs::path photo(const Tags &tags, Exiv2::ByteOrder order = Exiv2::littleEndian) const {
-        const fs::path file = write("photo.jpg", picture("jpg"));
-        tag(file, tags, order);
-        return file;
-    }
-
-    QTemporaryDir folder_;
+    PhotoFolder folder_;
 };
 
 void ImageSourceTest::position_data() {
@@ -155,7 +79,7 @@ void ImageSourceTest::position_data() {
 
 void ImageSourceTest::position() {
     QFETCH(Tags, tags);
-    const auto properties = readImageProperties(photo(tags));
+    const auto properties = readImageProperties(folder_.photo(tags));
     QVERIFY(properties);
     QTEST(texts(properties->gps,
                 {"LatitudeRef", "Latitude", "LongitudeRef", "Longitude", "Altitude"}),
@@ -194,8 +118,8 @@ void ImageSourceTest::text_data() {
 void ImageSourceTest::text() {
     QFETCH(Tags, tags);
     QFETCH(bool, bigEndian);
-    const auto properties =
-        readImageProperties(photo(tags, bigEndian ? Exiv2::bigEndian : Exiv2::littleEndian));
+    const auto properties = readImageProperties(
+        folder_.photo(tags, bigEndian ? std::endian::big : std::endian::little));
     QVERIFY(properties);
     const QByteArray found = texts(properties->tiff, {"ImageDescription"}) +
                              texts(properties->exif, {"UserComment"}) +
@@ -220,7 +144,7 @@ void ImageSourceTest::header_data() {
 
 void ImageSourceTest::header() {
     QFETCH(Tags, tags);
-    const fs::path file = write("header.jpg", picture("jpg"));
+    const auto file = folder_.write("header.jpg", picture("jpg"));
     if (!tags.empty())
         tag(file, tags);
     const auto properties = readImageProperties(file);
@@ -229,111 +153,83 @@ void ImageSourceTest::header() {
           "expected");
 }
 
-void ImageSourceTest::format_data() {
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<bool>("tagged");
-    for (const char *format : {"jpg", "tif", "png"})
-        QTest::newRow(format) << QByteArray(format) << true;
-    for (const char *format : {"xbm", "ico", "bmp"})
-        QTest::newRow(format) << QByteArray(format) << false;
+void ImageSourceTest::entries_data() {
+    QTest::addColumn<Tags>("tags");
+    QTest::addColumn<int>("light");
+    QTest::addColumn<int>("full");
+    const Tags turned{{"Exif.Image.Orientation", "6"}};
+    Tags placed = southEast;
+    placed.insert(placed.end(), turned.begin(), turned.end());
+    QTest::newRow("nothing stated") << Tags{} << 7 << 7;
+    QTest::newRow("how it lies") << turned << 10 << 10;
+    QTest::newRow("and where it was taken") << placed << 10 << 11;
+    placed.emplace_back("Iptc.Application2.City", "Sydney");
+    QTest::newRow("and the name of the place") << placed << 10 << 12;
+    QTest::newRow("all but how it lies") << southEast << 8 << 9;
 }
 
-void ImageSourceTest::format() {
+void ImageSourceTest::entries() {
+    QFETCH(Tags, tags);
+    const auto file = folder_.photo(tags);
+    const auto count = [&file](ImageRead read) {
+        return static_cast<int>(readImageProperties(file, read).value().topLevelNames().size());
+    };
+    QTEST(count(ImageRead::Light), "light");
+    QTEST(count(ImageRead::Full), "full");
+}
+
+void ImageSourceTest::colours_data() {
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<int>("pixels");
+    QTest::addColumn<QByteArray>("expected");
+    const auto row = [](const char *format, QImage::Format pixels, const char *expected) {
+        QTest::addRow("%s %d", format, pixels)
+            << QByteArray(format) << static_cast<int>(pixels) << QByteArray(expected);
+    };
+    row("jpg", QImage::Format_RGB32, "RGB 8 20");
+    row("jpg", QImage::Format_Grayscale8, "Gray 8 20");
+    row("png", QImage::Format_RGB32, "RGB 8 20");
+    row("png", QImage::Format_RGBA64, "RGB 16 20");
+    row("png", QImage::Format_Grayscale16, "Gray 16 20");
+    row("tif", QImage::Format_RGB888, "RGB 8 20");
+    row("tif", QImage::Format_Grayscale16, "Gray 16 20");
+    row("bmp", QImage::Format_RGB32, "RGB 8 20");
+}
+
+void ImageSourceTest::colours() {
     QFETCH(QByteArray, format);
-    QFETCH(bool, tagged);
-    // The name does not matter, the content does.
-    const fs::path file = write("format.jpg", picture(format.constData()));
-    if (tagged)
-        tag(file, southEast);
+    QFETCH(int, pixels);
+    const auto file = folder_.write("colours", "");
+    QImage image(20, 10, static_cast<QImage::Format>(pixels));
+    image.fill(Qt::gray);
+    QVERIFY(image.save(QString::fromStdString(file.string()), format.constData()));
     const auto properties = readImageProperties(file);
     QVERIFY(properties);
-    QVERIFY(properties->top.number("PixelWidth") > 0);
-    QCOMPARE(properties->exif.contains("DateTimeOriginal"), tagged);
-    QCOMPARE(properties->gps.contains("Latitude"), tagged);
-}
+    QTEST(texts(properties->top, {"ColorModel", "Depth", "PixelWidth"}), "expected");
+    QCOMPARE(properties->top.text("ProfileName"), "sRGB IEC61966-2.1"s);
 
-void ImageSourceTest::fileName_data() {
-    QTest::addColumn<QByteArray>("name");
-    for (const char *name :
-         {"http:photo.jpg", "data:photo.jpg", "file:photo.jpg", "-", "\xE9t\xE9.jpg", "日本.jpg"})
-        QTest::newRow(QByteArray(name).toPercentEncoding().constData()) << QByteArray(name);
-}
-
-void ImageSourceTest::fileName() {
-    QFETCH(QByteArray, name);
-    const fs::path plain = photo(southEast);
-    const fs::path file = plain.parent_path() / name.toStdString();
-    fs::rename(plain, file);
-    const fs::path previous = fs::current_path();
-    fs::current_path(file.parent_path()); // a bare name looks most like an address
-    const auto properties = readImageProperties(file.filename());
-    fs::current_path(previous);
-    fs::remove(file); // QTemporaryDir cannot remove a name that is not UTF-8
-    QVERIFY(properties);
-    QVERIFY(properties->exif.contains("DateTimeOriginal"));
-}
-
-void ImageSourceTest::noImage_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("text") << QByteArray("Shopping: bread, butter.\n");
-    QTest::newRow("text that begins like a bitmap") << QByteArray(200, 'x').prepend("BMW ");
-    QTest::newRow("drawing") << QByteArray(
-        "<?xml version=\"1.0\"?><svg width=\"9\" height=\"9\"/>");
-    QTest::newRow("archive") << QByteArray("PK\x03\x04\x14\0\0\0\x08\0", 10).append(300, '\x7');
-    QTest::newRow("film") << QByteArray("RIFF\x64\0\0\0AVI LIST\0\0\0\0", 20);
-}
-
-void ImageSourceTest::noImage() {
-    QFETCH(QByteArray, content);
-    QVERIFY(!readImageProperties(write("no.jpg", content.toStdString())));
-}
-
-void ImageSourceTest::cutAnywhere() {
-    Tags tags = southEast;
-    tags.emplace_back("Iptc.Application2.City", "Sydney");
-    const std::string whole = bytesOf(photo(tags));
-    std::size_t withDate = 0;
-    for (std::size_t size = 0; size < whole.size(); ++size) {
-        const auto properties = readImageProperties(write("cut.jpg", whole.substr(0, size)));
-        const bool hasDate =
-            properties && properties->exif.text("DateTimeOriginal") == "2008:06:21 14:03:59";
-        QVERIFY2(hasDate || withDate == 0, "more bytes, but less was read");
-        withDate += hasDate;
+    image.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
+    if (format != "bmp" && image.pixelFormat().colorModel() == QPixelFormat::RGB) {
+        QVERIFY(image.save(QString::fromStdString(file.string()), format.constData()));
+        QCOMPARE(readImageProperties(file)->top.text("ProfileName"), "Display P3"s);
     }
-    QVERIFY(withDate > whole.size() / 2); // the metadata lie at the front
-}
-
-void ImageSourceTest::manyFilesLeaveNothingBehind() {
-    const fs::path file = photo(southEast);
-    const std::string before = bytesOf(file);
-    const fs::path text = write("text.jpg", "no picture");
-    const fs::path pipe = write("x", "").replace_filename("pipe.jpg");
-    QCOMPARE(::mkfifo(pipe.c_str(), 0600), 0);
-    const fs::path icon = write("icon.jpg", picture("ico"));
-    const std::size_t handles = openHandles();
-    for (int i = 0; i < 100; ++i) {
-        QVERIFY(readImageProperties(file) && readImageProperties(icon));
-        QVERIFY(!readImageProperties(text) && !readImageProperties(pipe));
-        QVERIFY(!readImageProperties(file.parent_path()));
-        QVERIFY(!readImageProperties(file.parent_path() / "absent.jpg"));
-    }
-    QCOMPARE(openHandles(), handles);
-    QCOMPARE(bytesOf(file), before);
 }
 
 void ImageSourceTest::iptcEncoding() {
     const char *city = "Iptc.Application2.City";
-    QCOMPARE(readMetadataLayout(photo(southEast)).iptc, IptcEncoding::Absent);
-    QCOMPARE(readMetadataLayout(photo({{city, "Gen\xe8ve"}})).iptc, IptcEncoding::Other);
-    QCOMPARE(
-        readMetadataLayout(photo({{city, "Rome"}, {"Iptc.Envelope.CharacterSet", "\x1b.A"}})).iptc,
-        IptcEncoding::Other);
-    QCOMPARE(
-        readMetadataLayout(photo({{city, "Rome"}, {"Iptc.Envelope.CharacterSet", "\x1b%G"}})).iptc,
-        IptcEncoding::Utf8);
-    QCOMPARE(readMetadataLayout(photo({{city, "Gen\xc3\xa8ve"}})).iptc, IptcEncoding::Utf8);
-    QCOMPARE(readMetadataLayout(write("unknown.jpg", "no picture")).iptc, IptcEncoding::Other);
+    QCOMPARE(readMetadataLayout(folder_.photo(southEast)).iptc, IptcEncoding::Absent);
+    QCOMPARE(readMetadataLayout(folder_.photo({{city, "Gen\xe8ve"}})).iptc, IptcEncoding::Other);
+    QCOMPARE(readMetadataLayout(
+                 folder_.photo({{city, "Rome"}, {"Iptc.Envelope.CharacterSet", "\x1b.A"}}))
+                 .iptc,
+             IptcEncoding::Other);
+    QCOMPARE(readMetadataLayout(
+                 folder_.photo({{city, "Rome"}, {"Iptc.Envelope.CharacterSet", "\x1b%G"}}))
+                 .iptc,
+             IptcEncoding::Utf8);
+    QCOMPARE(readMetadataLayout(folder_.photo({{city, "Gen\xc3\xa8ve"}})).iptc, IptcEncoding::Utf8);
+    QCOMPARE(readMetadataLayout(folder_.write("unknown.jpg", "no picture")).iptc,
+             IptcEncoding::Other);
 }
 
 void ImageSourceTest::dictionary() {
