@@ -50,7 +50,8 @@ void measure(bench::Report &report) {
     const auto intake = [&] {
         bench::Library library;
         NoLogs logs;
-        Photos(library.context, logs).loadPict(folder.native());
+        const PhotoTypes types;
+        Photos(library.context, logs, types).loadPict(folder.native());
         if (library.context.count<image>() != photoCount) {
             throw std::runtime_error("not all photos were read");
         }

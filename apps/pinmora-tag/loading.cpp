@@ -15,7 +15,8 @@ namespace {
 /// Loads the photos and notes the logs; says which files could not be used. True: all could.
 bool loadPhotos(MemoryLibrary &library, LogList &logs, const Options &options,
                 const Surroundings &surroundings) {
-    Photos photos(library.context, logs);
+    const PhotoTypes types;
+    Photos photos(library.context, logs, types);
     const Connection counting = photos.photoLoaded.connect(
         [&](std::size_t count) { surroundings.progress("Reading photo", count, 0); });
     bool allUsed = true;

@@ -35,6 +35,7 @@ public:
 
     /// Who hears of the logs to come, so that they can be read again; null for nobody.
     void setImportJournal(ImportJournal *journal) { journal_ = journal; }
+    ImportJournal *importJournal() const { return journal_; }
 
     /// Starts a load of one or more files by a person's choice: a GPX file has not been seen yet.
     void beginLoad();

@@ -39,4 +39,8 @@ struct ReadingPolicy {
 
 const ReadingPolicy &policyOf(LogReading reading);
 
+constexpr LogReading otherThan(LogReading reading) {
+    return reading == LogReading::Exact ? LogReading::Tolerant : LogReading::Exact;
+}
+
 } // namespace pinmora

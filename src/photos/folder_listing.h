@@ -6,10 +6,11 @@
 
 namespace pinmora {
 
-/// What stands directly in a folder, besides its subfolders.
+/// What stands directly in a folder, by names in the order of namesInOrder().
 struct FolderListing {
-    std::vector<std::string> names; ///< in the order of namesInOrder()
-    std::error_code error;          ///< why the folder could not be read, or not to its end
+    std::vector<std::string> names;   ///< of all that is no folder
+    std::vector<std::string> folders; ///< of its subfolders
+    std::error_code error;            ///< why the folder could not be read, or not to its end
 };
 
 /// Lists a folder one level deep. Links to folders count as folders; links that lead nowhere,

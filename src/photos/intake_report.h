@@ -36,6 +36,12 @@ struct IntakeReport {
     std::vector<LeftOutFile> leftOut;
     /// Found in a folder with a log's extension, but no logs.
     std::vector<std::string> logsPassedOver;
+    /// Found in a folder and neither photos nor logs by their names. Hidden files are not listed.
+    std::vector<std::string> passedOver;
+    /// Found in a folder that was chosen for its photos: logs by their names, which were not read.
+    std::vector<std::string> logsNotAsked;
+    /// Found in a folder and not entered. Hidden ones are not listed.
+    std::vector<std::string> foldersInside;
     /// Could not be read, or not to their end.
     std::vector<UnreadFolder> unreadFolders;
 };

@@ -24,6 +24,14 @@ bool isSpecial(const std::string &path) {
     return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
 }
 
+bool isHidden(const std::string &name) {
+    return name.starts_with('.');
+}
+
+std::string pathIn(const std::string &folder, const std::string &name) {
+    return folder + "/" + name;
+}
+
 float numberIn(const PropertyDictionary &properties, std::string_view key) {
     return static_cast<float>(properties.number(key).value_or(0));
 }
@@ -36,7 +44,8 @@ float resolutionIn(const PropertyDictionary &properties, std::string_view key) {
 
 } // namespace
 
-Photos::Photos(Context &context, LogIntake &logs) : context_(context), logs_(logs) {}
+Photos::Photos(Context &context, LogIntake &logs, const PhotoTypes &types)
+    : context_(context), logs_(logs), types_(types) {}
 
 template <class TakeEntry>
 void Photos::scanFolder(const std::string &folder, TakeEntry takeEntry) {
@@ -44,6 +53,11 @@ void Photos::scanFolder(const std::string &folder, TakeEntry takeEntry) {
     const FolderListing listing = listFolder(folder);
     for (const std::string &name : listing.names) {
         takeEntry(name);
+    }
+    for (const std::string &name : listing.folders) {
+        if (!isHidden(name)) {
+            report_.foldersInside.push_back(pathIn(folder, name));
+        }
     }
     if (listing.error) {
         report_.unreadFolders.push_back({folder, listing.error});
@@ -58,7 +72,9 @@ void Photos::processThisPath(std::string_view given) {
             if (isPict(name)) {
                 makePictEntry(name, path);
             } else if (logs_.isGPS(name)) {
-                takeLogFoundByScan(path + "/" + name);
+                takeLogFoundByScan(pathIn(path, name));
+            } else {
+                passOver(path, name);
             }
         });
     } else if (isPict(path)) {
@@ -74,7 +90,12 @@ void Photos::loadPict(std::string_view given) {
     const UndoGroup group(context_, "Add Photos");
     const std::string path = absolutePath(given);
     if (isFolder(path)) {
-        scanFolder(path, [this, &path](const std::string &name) { makePictEntry(name, path); });
+        scanFolder(path, [this, &path](const std::string &name) {
+            makePictEntry(name, path);
+            if (!isPict(name)) {
+                passOver(path, name);
+            }
+        });
     } else {
         takeNamedPhoto(path);
     }
@@ -95,6 +116,13 @@ void Photos::takeLogFoundByScan(const std::string &path) {
     }
 }
 
+void Photos::passOver(const std::string &folder, const std::string &name) {
+    if (!isHidden(name)) {
+        auto &list = logs_.isGPS(name) ? report_.logsNotAsked : report_.passedOver;
+        list.push_back(pathIn(folder, name));
+    }
+}
+
 void Photos::leaveOutUnknown(const std::string &path) {
     const WhyLeftOut why = whyNoImage(path);
     report_.leftOut.push_back(
@@ -105,7 +133,7 @@ void Photos::makePictEntry(const std::string &name, const std::string &folder) {
     if (!isPict(name)) {
         return;
     }
-    const std::string path = folder + "/" + name;
+    const std::string path = pathIn(folder, name);
     const std::optional<ImageProperties> properties = getPictDicts(path);
     if (!properties) {
         report_.leftOut.push_back({path, whyNoImage(path)});

@@ -24,10 +24,11 @@ class LogIntake;
 /// error. Nothing looks for duplicates: a photo loaded twice has two records. One thread only.
 class Photos {
 public:
-    /// Both must outlive this object.
-    Photos(Context &context, LogIntake &logs);
+    /// All must outlive this object.
+    Photos(Context &context, LogIntake &logs, const PhotoTypes &types);
 
-    bool isPict(std::string_view path) const { return pinmora::isPict(path); }
+    const PhotoTypes &types() const { return types_; }
+    bool isPict(std::string_view path) const { return types_.isPict(path); }
 
     /// Loads what was dropped or opened from the desktop: a photo, a GPS log, or the photos and
     /// logs that stand directly in a folder.
@@ -84,10 +85,12 @@ private:
     void scanFolder(const std::string &folder, TakeEntry takeEntry);
     void takeNamedPhoto(const std::string &path);
     void takeLogFoundByScan(const std::string &path);
+    void passOver(const std::string &folder, const std::string &name);
     void leaveOutUnknown(const std::string &path);
 
     Context &context_;
     LogIntake &logs_;
+    const PhotoTypes &types_;
     std::string theFilePath_;
     IntakeReport report_;
 };

@@ -68,6 +68,7 @@ private:
     LibraryModel model_{notifications_};
     std::unique_ptr<Context> context_;
     NotingLogs logs_;
+    PhotoTypes types_;
     std::unique_ptr<Photos> photos_;
 };
 
@@ -75,7 +76,7 @@ void IntakeTest::init() {
     folder_ = std::make_unique<QTemporaryDir>();
     context_ = std::make_unique<Context>(model_);
     logs_ = {};
-    photos_ = std::make_unique<Photos>(*context_, logs_);
+    photos_ = std::make_unique<Photos>(*context_, logs_, types_);
 }
 
 void IntakeTest::cleanup() {
@@ -86,6 +87,7 @@ void IntakeTest::cleanup() {
 void IntakeTest::makeFolder() {
     fs::create_directories(in("sub"));
     fs::create_directories(in("folder.jpg"));
+    fs::create_directories(in(".hidden"));
     for (const char *name : {"IMG_10.jpg", "IMG_9.jpg", "a.jpg", "b.JPG", "c.Jpg", ".d.jpg",
                              "sub/deep.jpg", "folder.jpg/deep.jpg", "\xff.jpg"}) {
         writePhoto(in(name));
@@ -121,6 +123,15 @@ QByteArray IntakeTest::outcome() const {
     for (const std::string &path : photos_->report().logsPassedOver) {
         add("no log", path);
     }
+    for (const std::string &path : photos_->report().passedOver) {
+        add("passed over", path);
+    }
+    for (const std::string &path : photos_->report().logsNotAsked) {
+        add("not asked", path);
+    }
+    for (const std::string &path : photos_->report().foldersInside) {
+        add("folder", path);
+    }
     for (const auto &[path, error] : photos_->report().unreadFolders) {
         add(error.message() + ":", path);
     }
@@ -138,12 +149,15 @@ const QByteArray leftOutOfFolder = "not readable as an image: /loop.jpg\n"
                                    "not a regular file: /pipe.jpg\n"
                                    "not readable as an image: /text.jpg\n";
 
+const QByteArray foldersInFolder = "folder /folder.jpg\nfolder /linked.jpg\nfolder /sub\n";
+
 void IntakeTest::aDroppedFolderGivesPhotosAndLogs() {
     makeFolder();
     photos_->processThisPath(folder_->path().toStdString() + "/");
     QCOMPARE(outcome(), photosOfFolder +
                             "found /.hidden.txt\nfound /e.txt\nfound /f.gpx\nfound /notes.txt\n" +
-                            leftOutOfFolder + "no log /notes.txt\nno log /pipe.txt\n");
+                            leftOutOfFolder + "no log /notes.txt\nno log /pipe.txt\n" +
+                            "passed over /c.Jpg\npassed over /list.md\n" + foldersInFolder);
     QCOMPARE(photos_->getTheFilePath(), folder_->path().toStdString());
     std::vector<std::string> recorded;
     for (const image *photo : context_->fetch<image>()) {
@@ -158,7 +172,11 @@ void IntakeTest::aDroppedFolderGivesPhotosAndLogs() {
 void IntakeTest::aChosenFolderGivesPhotosOnly() {
     makeFolder();
     photos_->loadPict(folder_->path().toStdString());
-    QCOMPARE(outcome(), photosOfFolder + leftOutOfFolder);
+    QCOMPARE(outcome(), photosOfFolder + leftOutOfFolder +
+                            "passed over /c.Jpg\npassed over /list.md\n"
+                            "not asked /e.txt\nnot asked /f.gpx\n"
+                            "not asked /notes.txt\nnot asked /pipe.txt\n" +
+                            foldersInFolder);
     QCOMPARE(photos_->getTheFilePath(), folder_->path().toStdString());
 }
 

@@ -14,6 +14,8 @@ private Q_SLOTS:
     void pictures_data();
     void pictures();
     void typesAreListedInBothCases();
+    void moreTypes_data();
+    void moreTypes();
     void absolutePaths_data();
     void absolutePaths();
     void listsAreOrderedForPeople();
@@ -46,19 +48,56 @@ void NamesTest::pictures_data() {
 void NamesTest::pictures() {
     QFETCH(std::string, path);
     QTEST(std::string(pathExtension(path)), "extension");
-    QTEST(isPict(path), "picture");
+    QTEST(PhotoTypes().isPict(path), "picture");
 }
 
 void NamesTest::typesAreListedInBothCases() {
-    const auto &types = imageTypes();
+    const PhotoTypes photoTypes;
+    const auto &types = photoTypes.imageTypes();
+    const auto &imageSupportDict = photoTypes.imageSupportDict();
     QCOMPARE(types.size(), 55U);
-    QCOMPARE(imageSupportDict().size(), 54U);
+    QCOMPARE(imageSupportDict.size(), 54U);
     QCOMPARE(std::count(types.begin(), types.end(), "MRW"), 2);
     QCOMPARE(types.front(), "ps");
     QCOMPARE(types[53], "MEF");
     for (const char *type : {"epsi", "CR2", "icns", "JPEG", "fax", "TIF", "jpe", "PEF", "mrw"}) {
-        QVERIFY2(imageSupportDict().contains(type), type);
+        QVERIFY2(imageSupportDict.contains(type), type);
     }
+}
+
+void NamesTest::moreTypes_data() {
+    QTest::addColumn<std::string>("path");
+    QTest::addColumn<bool>("more"); // and a photo only if those count
+    const auto row = [](const char *path, bool more) {
+        QTest::newRow(path) << std::string(path) << more;
+    };
+    row("/photos/a.heic", true);
+    row("a.HEIC", true);
+    row("a.CR3", true);
+    row("a.WebP", true);
+    row("c.Jpg", true);
+    row("c.jPEG", true);
+    row("a.jpg", false);
+    row("a.MRW", false);
+    row(".a.heic", false);
+    row("a.mov", false);
+    row("a.heics", false);
+    row("a.", false);
+    row("heic", false);
+}
+
+void NamesTest::moreTypes() {
+    QFETCH(std::string, path);
+    QFETCH(bool, more);
+    PhotoTypes types;
+    const bool before = types.isPict(path);
+    QCOMPARE(types.isMore(path), more);
+    types.setMorePhotoTypes(true);
+    QCOMPARE(types.isMore(path), more);
+    QCOMPARE(types.isPict(path), before || more);
+    const std::vector<std::string> offered = types.panelTypes();
+    QCOMPARE(std::count(offered.begin(), offered.end(), std::string(pathExtension(path))),
+             path.starts_with('.') || before || more ? 1 : 0);
 }
 
 void NamesTest::absolutePaths_data() {

@@ -84,7 +84,8 @@ private:
     LibraryModel model_{notifications_};
     Context context_{model_};
     NotingLogs logs_;
-    Photos photos_{context_, logs_};
+    PhotoTypes types_;
+    Photos photos_{context_, logs_, types_};
 };
 
 void RecordTest::values_data() {
