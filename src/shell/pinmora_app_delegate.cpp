@@ -1,0 +1,127 @@
+#include "shell/pinmora_app_delegate.h"
+
+#include "gps/log_reading.h"
+#include "matching/pointer_script.h"
+#include "persistence/context.h"
+#include "shell/subsystems.h"
+
+#include <algorithm>
+#include <any>
+#include <string_view>
+#include <utility>
+
+namespace pinmora {
+
+Pinmora_AppDelegate::Pinmora_AppDelegate(std::filesystem::path resourceFolder, PixelSize screen)
+    : library(notifications, interface.errors), resourceFolder_(std::move(resourceFolder)),
+      screen_(screen) {}
+
+Pinmora_AppDelegate::~Pinmora_AppDelegate() = default;
+
+void Pinmora_AppDelegate::awakeFromNib() {
+    if (!std::exchange(firstLoad_, false)) {
+        return;
+    }
+    photoTypes.setMorePhotoTypes(defaults.text("morePhotoTypes") == "1");
+    loadMapPages();
+    observeNotifications();
+    subsystems_ = std::make_unique<Subsystems>(*this, resourceFolder_, screen_);
+    subsystems_->makeRecords(library.managedObjectContext(), interface.degreeObj);
+    for (MapView *view : {&interface.webView1, &interface.webView2}) {
+        view->publish("controlObj");
+    }
+    firstQuit_ = true;
+    setMissingDefaults();
+    if (defaults.text("logReading") == policyOf(LogReading::Tolerant).name) {
+        subsystems_->gps.setReading(LogReading::Tolerant);
+    }
+    setStartWindow(0); // whatever "useWizard" says: there is no wizard yet
+    interface.preview.theImageView2.visible.set(false);
+    subsystems_->inspector.tableSelectionChanged();
+    subsystems_->recoveryOffers.post();
+}
+
+/// Without a service, the map views stay empty.
+void Pinmora_AppDelegate::loadMapPages() {
+    const std::string service = defaults.text("mapServiceURL").value_or("");
+    if (service.empty()) {
+        return;
+    }
+    for (MapView *view : {&interface.webView1, &interface.webView2}) {
+        view->load({.address = service + "/maps/index3.php?w=434&h=400", .ignoresCache = true});
+    }
+}
+
+void Pinmora_AppDelegate::observeNotifications() {
+    const auto observe = [this](std::string_view name, NotificationCentre::Handler handler) {
+        observations_.push_back(notifications.addObserver(name, std::move(handler)));
+    };
+    const auto onField = [this](void (Inspector::*told)(const TextField &)) {
+        return [this, told](const Notification &notice) {
+            const auto *field = std::any_cast<const TextField *>(&notice.object);
+            if (field) {
+                (subsystems_->inspector.*told)(**field);
+            }
+        };
+    };
+    observe(controlTextDidBeginEditing, onField(&Inspector::textDidBeginEditing));
+    observe(tableSelectionDidChange,
+            [this](const Notification &) { subsystems_->inspector.tableSelectionChanged(); });
+    observe(controlTextDidChange, onField(&Inspector::textDidChange));
+    observe(locationChange, [this](const Notification &notice) {
+        if (const auto *position = std::any_cast<PositionTexts>(&notice.object)) {
+            updateMap(*position);
+        }
+    });
+}
+
+/// The pointer follows a photo that is given a position.
+void Pinmora_AppDelegate::updateMap(const PositionTexts &position) {
+    if (!subsystems_ || subsystems_->matcher.runningApplyToAll()) {
+        return;
+    }
+    MapView &map = interface.inWizard ? interface.webView2 : interface.webView1;
+    map.evaluate(pointerScript(position[0], position[1]));
+}
+
+void Pinmora_AppDelegate::setMissingDefaults() {
+    for (const auto &[key, value] : {std::pair("useWizard", "1"), std::pair("versionCheck", "0"),
+                                     std::pair("morePhotoTypes", "0")}) {
+        if (!defaults.text(key)) {
+            defaults.setText(key, value);
+            defaults.synchronize();
+        }
+    }
+}
+
+void Pinmora_AppDelegate::setStartWindow(int useWizard) {
+    interface.inWizard = useWizard == 1;
+    interface.workingWindow().makeKeyAndOrderFront();
+}
+
+TerminateReply Pinmora_AppDelegate::applicationShouldTerminate() {
+    if (!library.hasManagedObjectContext()) {
+        return TerminateReply::Now;
+    }
+    Context &context = library.managedObjectContext();
+    if (!context.commitEditing()) {
+        return TerminateReply::Cancel;
+    }
+    if (!context.hasChanges() || !firstQuit_) {
+        return TerminateReply::Now;
+    }
+    const bool found = somePhotoHasChanges();
+    if (found) {
+        subsystems_->quitWarning.openQuitWarning();
+    }
+    firstQuit_ = false;
+    return found ? TerminateReply::Cancel : TerminateReply::Now;
+}
+
+bool Pinmora_AppDelegate::somePhotoHasChanges() {
+    const std::vector<image *> photos = subsystems_->arrays.pictureArray.arrangedObjects();
+    return std::any_of(photos.begin(), photos.end(),
+                       [](const image *photo) { return photo->getHasChanges(); });
+}
+
+} // namespace pinmora

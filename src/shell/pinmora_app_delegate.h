@@ -1,0 +1,71 @@
+#pragma once
+
+#include "outlets/editing.h"
+#include "photos/photo_types.h"
+#include "platform/defaults.h"
+#include "platform/notification_centre.h"
+#include "shell/interface.h"
+#include "store/image.h"
+#include "store/library.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace pinmora {
+
+struct Subsystems;
+
+enum class TerminateReply { Now, Cancel };
+
+/// The one controller: it owns the library and all subsystems, wires them, and answers for the
+/// program's life. Interface and subsystems are there for whoever shows them.
+class Pinmora_AppDelegate {
+public:
+    /// `init`: nothing is read or shown yet. `resourceFolder` is the program's own.
+    explicit Pinmora_AppDelegate(std::filesystem::path resourceFolder,
+                                 PixelSize screen = {1920, 1080});
+    ~Pinmora_AppDelegate();
+    Pinmora_AppDelegate(const Pinmora_AppDelegate &) = delete;
+    Pinmora_AppDelegate &operator=(const Pinmora_AppDelegate &) = delete;
+
+    /// The one-time set-up: opens the library and shows the window. Later calls do nothing.
+    void awakeFromNib();
+
+    TerminateReply applicationShouldTerminate();
+    /// Asks whoever runs the event loop to quit, which asks applicationShouldTerminate().
+    Signal<> terminate;
+
+    Interface interface;
+    Defaults defaults;
+    NotificationCentre notifications;
+    Editing editing; ///< who may hold half-typed text
+    PhotoTypes photoTypes;
+    Library library;
+
+    /// All that stands on the open library; to be asked for after awakeFromNib() only.
+    Subsystems &subsystems() { return *subsystems_; }
+
+private:
+    void loadMapPages();
+    void observeNotifications();
+    void setMissingDefaults();
+    /// 1 shows the wizard, anything else the main window.
+    void setStartWindow(int useWizard);
+    void updateMap(const PositionTexts &position);
+    bool somePhotoHasChanges();
+
+    const std::filesystem::path resourceFolder_;
+    const PixelSize screen_;
+    bool firstLoad_ = true;
+    bool firstQuit_ = true;
+    std::vector<NotificationCentre::Observation> observations_;
+    std::unique_ptr<Subsystems> subsystems_;
+};
+
+/// The minor version of a 10.x system by its version file, else 0.
+int getOSVersion(
+    const std::filesystem::path &file = "/System/Library/CoreServices/SystemVersion.plist");
+
+} // namespace pinmora

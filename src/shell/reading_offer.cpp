@@ -1,0 +1,102 @@
+#include "shell/reading_offer.h"
+
+#include "gps/gps.h"
+#include "gps/gps_intake.h"
+#include "outlets/quiet_bar.h"
+#include "persistence/context.h"
+#include "photos/photo_intake.h"
+#include "platform/defaults.h"
+#include "platform/scoped_flag.h"
+#include "shell/intake_words.h"
+#include "shell/log_intake_adapter.h"
+#include "shell/log_rereading.h"
+#include "store/track.h"
+
+#include <filesystem>
+
+namespace pinmora {
+
+namespace {
+
+constexpr const char *subject = "log reading";
+
+} // namespace
+
+ReadingOffer::ReadingOffer(Context &context, Gps &gps, GpsIntake &gpsIntake,
+                           PhotoIntake &photoIntake, LogIntakeAdapter &logs,
+                           ObjectController<offset> &offsetObj, Defaults &defaults,
+                           ProgressSheet &progress, QuietBar &quietBar, bool &loadRunning)
+    : context_(context), gps_(gps), defaults_(defaults), progress_(progress), quietBar_(quietBar),
+      loadRunning_(loadRunning), comparison_(context, gps, offsetObj, loadRunning), lost_([this] {
+          if (isOffered_) {
+              comparison_.compare();
+          }
+      }) {
+    context_.addObserver(*this, {.entity = &track::description(), .values = false});
+    connections_.push_back(comparison_.judged.connect(
+        [this](const std::optional<ReadingVerdict> &verdict) { tell(verdict); }));
+    connections_.push_back(gpsIntake.loaded.connect(
+        [this](const std::vector<LogReport> &reports) { comparison_.take(reports); }));
+    connections_.push_back(photoIntake.beginning.connect([&logs] { logs.beginLoad(); }));
+    connections_.push_back(photoIntake.loaded.connect(
+        [this, &logs](const IntakeReport &, const auto &) { comparison_.take(logs.reports()); }));
+}
+
+ReadingOffer::~ReadingOffer() {
+    context_.removeObserver(*this);
+}
+
+void ReadingOffer::tell(const std::optional<ReadingVerdict> &verdict) {
+    isOffered_ = verdict.has_value();
+    if (!verdict) {
+        quietBar_.withdraw(subject);
+        return;
+    }
+    BarMessage message = wordsOf(*verdict, comparison_.clockOffset().count() != 0);
+    message.subject = subject;
+    message.choices = {{choiceOf(*verdict), [this] { useOther(); }}, {"Keep", [this] { keep(); }}};
+    message.dismissed = [this] { keep(); };
+    quietBar_.post(std::move(message));
+}
+
+void ReadingOffer::keep() {
+    isOffered_ = false;
+    comparison_.keep();
+}
+
+void ReadingOffer::useOther() {
+    if (loadRunning_) {
+        return;
+    }
+    isOffered_ = false;
+    const LogReading better = otherThan(gps_.reading());
+    defaults_.setText("logReading", policyOf(better).name);
+    defaults_.synchronize();
+    gps_.setReading(better);
+    std::vector<std::string> kept;
+    {
+        const ScopedFlag running(loadRunning_);
+        kept = readLogsAgain(context_, better, gps_.importJournal(), progress_);
+    }
+    comparison_.exchangeReadings();
+    readAgain.emit();
+    tellOfKept(kept);
+}
+
+void ReadingOffer::tellOfKept(const std::vector<std::string> &paths) {
+    if (paths.empty()) {
+        return;
+    }
+    const std::string first = std::filesystem::path(paths.front()).filename().native();
+    const std::size_t others = paths.size() - 1;
+    quietBar_.post({.subject = "logs kept",
+                    .head = others == 0
+                                ? first + " could not be read again."
+                                : std::to_string(paths.size()) + " logs could not be read again.",
+                    .text = others == 0 ? "Its points stay as they are."
+                                        : "Their points stay as they are: " + first + " and " +
+                                              counted(others, "other", "others") + ".",
+                    .choices = {}});
+}
+
+} // namespace pinmora

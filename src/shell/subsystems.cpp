@@ -1,0 +1,88 @@
+#include "shell/subsystems.h"
+
+#include "shell/pinmora_app_delegate.h"
+#include "store/start_records.h"
+
+namespace pinmora {
+
+Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &resourceFolder,
+                       PixelSize screen)
+    : arrays(owner.library.arrays()),
+      gps(owner.library.managedObjectContext(), owner.interface.progress, owner.interface.errors),
+      unsavedWork(owner.library, gps), logs(gps),
+      photos(owner.library.managedObjectContext(), logs, owner.photoTypes),
+      gpsIntake(owner.library.managedObjectContext(), gps, owner.interface.progress, owner.defaults,
+                owner.interface.workingWindow, owner.interface.loadRunning),
+      photoIntake(owner.library.managedObjectContext(), photos, owner.interface.progress,
+                  owner.interface.statusLine, owner.defaults, owner.interface.workingWindow,
+                  owner.interface.loadRunning),
+      matching{.pictureArray = arrays.pictureArray,
+               .degreeObj = owner.interface.degreeObj,
+               .addRemoveMarker = owner.interface.addRemoveMarker,
+               .webView1 = owner.interface.webView1,
+               .webView2 = owner.interface.webView2,
+               .inWizard = owner.interface.inWizard,
+               .progress = owner.interface.progress},
+      clockOffset(owner.library.managedObjectContext(), matching),
+      matcher(owner.library.managedObjectContext(), owner.notifications, clockOffset, matching),
+      coordinates(owner.library.managedObjectContext(), owner.interface.degreeObj,
+                  arrays.pictureArray, owner.editing),
+      details(owner.library.managedObjectContext(), arrays.pictureArray, owner.editing),
+      gaps(owner.library.managedObjectContext(), matching.offsetObj),
+      photoOrder(arrays.pictureArray, gaps), counts(owner.library.managedObjectContext()),
+      undoCommands(owner.library.managedObjectContext()), preview(owner.interface.preview, screen),
+      saving(resourceFolder), renamingOutlets{.pictureArray = arrays.pictureArray,
+                                              .newFileName = photos.newFileName,
+                                              .newFileName2 = photos.newFileName2,
+                                              .mainTabs = owner.interface.mainTabs,
+                                              .inWizard = owner.interface.inWizard},
+      renaming(owner.library.managedObjectContext(), saving, renamingOutlets,
+               owner.interface.workingWindow,
+               [this] { photoOrder.order.set({.key = "date", .ascending = true}); }),
+      inspectorOutlets{.window = owner.interface.window,
+                       .wizardWindow = owner.interface.wizardWindow,
+                       .fullView = owner.interface.fullView,
+                       .degreeObj = owner.interface.degreeObj,
+                       .addRemoveMarker = owner.interface.addRemoveMarker,
+                       .addRemoveMarker2 = owner.interface.addRemoveMarker2},
+      inspector(owner.library.managedObjectContext(), owner.notifications, arrays, inspectorOutlets,
+                matching, renamingOutlets, preview,
+                [&errors = owner.interface.errors](const image &photo) {
+                    errors.present("This photo is no longer where it was.",
+                                   photo.full_file_path().string() +
+                                       " is gone. Put the file back, or add it again from where "
+                                       "it is now.");
+                }),
+      quitWarning(owner.interface.workingWindow,
+                  {.updatePicts = [] {},
+                   .saveAction = [&library = owner.library] { library.saveAction(); },
+                   .terminate = [&owner] { owner.terminate.emit(); },
+                   .forgetUnsaved = [this] { unsavedWork.forget(); }}),
+      intakeNotes(owner.library.managedObjectContext(), photoIntake, owner.photoTypes,
+                  owner.defaults, owner.interface.quietBar),
+      readingOffer(owner.library.managedObjectContext(), gps, gpsIntake, photoIntake, logs,
+                   matching.offsetObj, owner.defaults, owner.interface.progress,
+                   owner.interface.quietBar, owner.interface.loadRunning),
+      recoveryOffers(unsavedWork, owner.interface.quietBar, owner.interface.errors,
+                     owner.interface.statusLine),
+      sampleOuting(photoIntake, resourceFolder) {
+    gps.setImportJournal(&unsavedWork.recorder());
+    owner.library.managedObjectContext().setEndEditing(
+        [&editing = owner.editing] { return editing.commitEditing(); });
+    connections_.push_back(gpsIntake.loaded.connect([this](auto &) { inspector.logsLoaded(); }));
+    connections_.push_back(
+        photoIntake.loaded.connect([this](auto &, auto &) { inspector.tableSelectionChanged(); }));
+    connections_.push_back(readingOffer.readAgain.connect([this] { inspector.logsLoaded(); }));
+    // Nothing saves photos yet.
+    savePhotosButton.enabled.set(false);
+    quitWarning.saveAndQuitButton.enabled.set(false);
+}
+
+void Subsystems::makeRecords(Context &context, ObjectController<degrees> &degreeObj) {
+    const StartRecords records = makeStartRecords(context);
+    inspectorOutlets.theCurrImage.setContent(&records.currentPicture);
+    degreeObj.setContent(&records.shownPosition);
+    matching.offsetObj.setContent(&records.clockOffset);
+}
+
+} // namespace pinmora

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "coords/coordinate_fields.h"
+#include "gps/gps.h"
+#include "gps/gps_intake.h"
+#include "matching/clock_offset.h"
+#include "matching/matcher.h"
+#include "matching/matching_outlets.h"
+#include "matching/photo_gaps.h"
+#include "photos/photo_intake.h"
+#include "photos/photos.h"
+#include "recovery/unsaved_work_keeper.h"
+#include "saving/quit_warning.h"
+#include "saving/renaming.h"
+#include "saving/saving.h"
+#include "shell/detail_fields.h"
+#include "shell/inspector.h"
+#include "shell/intake_notes.h"
+#include "shell/library_counts.h"
+#include "shell/log_intake_adapter.h"
+#include "shell/photo_order.h"
+#include "shell/preview.h"
+#include "shell/reading_offer.h"
+#include "shell/recovery_offers.h"
+#include "shell/sample_outing.h"
+#include "shell/thumbnails.h"
+#include "shell/undo_commands.h"
+
+namespace pinmora {
+
+class Pinmora_AppDelegate;
+
+/// One of each subsystem, made in this order once the library is open.
+struct Subsystems {
+    Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &resourceFolder,
+               PixelSize screen);
+    Subsystems(const Subsystems &) = delete;
+    Subsystems &operator=(const Subsystems &) = delete;
+    ~Subsystems() = default;
+
+    /// Makes the records that a run stands on.
+    void makeRecords(Context &context, ObjectController<degrees> &degreeObj);
+
+    LibraryArrays &arrays;
+    Gps gps;
+    UnsavedWorkKeeper unsavedWork;
+    LogIntakeAdapter logs;
+    Photos photos;
+    GpsIntake gpsIntake;
+    PhotoIntake photoIntake;
+    MatchingOutlets matching;
+    ClockOffset clockOffset;
+    Matcher matcher;
+    CoordinateFields coordinates;
+    DetailFields details;
+    PhotoGaps gaps;
+    PhotoOrder photoOrder;
+    LibraryCounts counts;
+    UndoCommands undoCommands;
+    Preview preview;
+    Thumbnails thumbnails;
+    Saving saving;
+    RenamingOutlets renamingOutlets;
+    Renaming renaming;
+    InspectorOutlets inspectorOutlets;
+    Inspector inspector;
+    QuitWarning quitWarning;
+    IntakeNotes intakeNotes;
+    ReadingOffer readingOffer;
+    RecoveryOffers recoveryOffers;
+    SampleOuting sampleOuting;
+    Button savePhotosButton; ///< disabled until photos can be saved
+
+private:
+    std::vector<Connection> connections_;
+};
+
+} // namespace pinmora
