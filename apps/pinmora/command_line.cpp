@@ -1,0 +1,42 @@
+#include "command_line.h"
+
+#include <filesystem>
+
+namespace pinmora::app {
+namespace {
+
+constexpr const char *usage = "Usage: pinmora [FILE|FOLDER]...\n"
+                              "\n"
+                              "Opens Pinmora and loads photos, folders of photos and GPS logs.\n"
+                              "A Pinmora that runs already gets them.\n"
+                              "\n"
+                              "  --help     this text\n"
+                              "  --version  the version\n"
+                              "\n"
+                              "pinmora-tag does the same job without windows.\n";
+
+} // namespace
+
+CommandLine parseCommandLine(const std::vector<std::string> &arguments) {
+    CommandLine parsed;
+    bool onlyFiles = false;
+    for (std::size_t i = 1; i < arguments.size(); ++i) {
+        const std::string &argument = arguments[i];
+        if (onlyFiles || argument.size() < 2 || argument[0] != '-') {
+            parsed.paths.push_back(std::filesystem::absolute(argument).string());
+        } else if (argument == "--") {
+            onlyFiles = true;
+        } else if (argument == "--help" || argument == "-h") {
+            return {.paths = {}, .message = usage};
+        } else if (argument == "--version") {
+            return {.paths = {}, .message = "pinmora " PINMORA_VERSION "\n"};
+        } else {
+            return {.paths = {},
+                    .message = "pinmora: there is no option " + argument + "\n" + usage,
+                    .wrong = true};
+        }
+    }
+    return parsed;
+}
+
+} // namespace pinmora::app

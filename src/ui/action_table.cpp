@@ -1,0 +1,140 @@
+#include "ui/action_table.h"
+
+#include "ui/icons.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <algorithm>
+#include <array>
+
+namespace pinmora {
+namespace {
+
+using enum ActionName;
+
+constexpr std::array table{
+    ActionRow{AddPhotos, MenuName::File, "&Add Photos…", "Ctrl+O", "add-photos",
+              "Add photos or a folder of photos", false, false, "Add Photos"},
+    ActionRow{LoadGpsData, MenuName::File, "&Load GPS Data…", "Ctrl+L", "load-gps",
+              "Load GPS logs (GPX or NMEA)", false, false, "Load GPS Data"},
+    ActionRow{SaveLibrary, MenuName::File, "&Save Library", "Ctrl+S", "",
+              "Keep photos, tracks and positions as they are for the next start", true},
+    ActionRow{SavePhotos, MenuName::File, "Save &Photos…", "Ctrl+Shift+S", "save",
+              "Save tagged copies of the photos; the originals stay as they are", false, false,
+              "Save Photos"},
+    ActionRow{Quit, MenuName::File, "&Quit", "Ctrl+Q", "", "End Pinmora", true},
+
+    ActionRow{Undo, MenuName::Edit, "&Undo", "Ctrl+Z", "undo", "Take back the last step", false,
+              false, "Undo"},
+    ActionRow{Redo, MenuName::Edit, "&Redo", "Ctrl+Shift+Z", "redo", "Do again what was taken back",
+              false, false, "Redo"},
+    ActionRow{SelectAll, MenuName::Edit, "Select &All Photos", "Ctrl+A", "",
+              "Select all photos that are seen", true},
+
+    ActionRow{FullSize, MenuName::Photo, "&Full Size", "Ctrl+F", "full-size",
+              "Show the selected photo in a window of its own"},
+    ActionRow{Rename, MenuName::Photo, "Re&name…", "F2", "rename",
+              "Give the copies of the photos other names", true},
+    ActionRow{OriginalNames, MenuName::Photo, "Use &Original Names", "Shift+F2", "",
+              "Give all photos the names of their files again"},
+    ActionRow{RemovePictures, MenuName::Photo, "&Remove Picture", "Del", "remove",
+              "Take the selected photos off the list; their files stay", true},
+
+    ActionRow{ApplyToAll, MenuName::Gps, "&Apply to All", "Ctrl+Return", "apply",
+              "Give every photo the position of the track point nearest in time", false, false,
+              "Apply to All"},
+    ActionRow{MatchPhoto, MenuName::Gps, "&Match Photo", "Ctrl+M", "",
+              "Give the selected photo the position of the track point nearest in time"},
+    ActionRow{SetFromPosition, MenuName::Gps, "&Set Clock From This Position", "Ctrl+K", "",
+              "Set the camera clock by the track point nearest to the photo's position", true},
+    ActionRow{ToggleMarker, MenuName::Gps, "Add Mar&ker", "Ctrl+P", "marker",
+              "Place the selected photos on the map, or take their position away"},
+    ActionRow{RemoveGpsData, MenuName::Gps, "Remove All &GPS Data", "Ctrl+Shift+Del", "",
+              "Remove all tracks from the library; the log files stay", true},
+
+    ActionRow{ShowPosition, MenuName::View, "&Position", "Ctrl+1", "",
+              "Map, coordinates and camera clock"},
+    ActionRow{ShowDetails, MenuName::View, "&Details", "Ctrl+2", "",
+              "Large picture, description and place names"},
+    ActionRow{OnlyWithoutPosition, MenuName::View, "Only &Without Position", "Ctrl+3", "",
+              "Show only photos that have no position yet", true, true},
+    ActionRow{FollowDesktop, MenuName::View, "Look of the D&esktop", "Ctrl+Alt+1", "",
+              "Light or dark, as the desktop is", true, true},
+    ActionRow{LightLook, MenuName::View, "&Light Look", "Ctrl+Alt+2", "", "Always light", false,
+              true},
+    ActionRow{DarkLook, MenuName::View, "Dar&k Look", "Ctrl+Alt+3", "", "Always dark", false, true},
+    ActionRow{Wizard, MenuName::View, "Wi&zard", "Ctrl+W", "wizard",
+              "The same work, one question at a time", true, false, "Wizard"},
+
+    ActionRow{SampleOuting, MenuName::Help, "&Try It With the Sample Outing", "Ctrl+Alt+T", "",
+              "Load eight photos and the logs of an outing to try Pinmora with"},
+    ActionRow{About, MenuName::Help, "&About Pinmora", "F1", "", "Version and licence", true},
+};
+
+QString shown(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString titleOf(MenuName menu) {
+    static constexpr std::array titles{"&File", "&Edit", "&Photo", "&GPS", "&View", "&Help"};
+    return shown(titles.at(static_cast<std::size_t>(menu)));
+}
+
+} // namespace
+
+std::span<const ActionRow> actionTable() {
+    return table;
+}
+
+Actions::Actions(QObject *parent) {
+    for (const ActionRow &row : table) {
+        auto *action = new QAction(shown(row.text), parent);
+        const QKeySequence keys(shown(row.shortcut));
+        action->setShortcut(keys);
+        action->setToolTip(shown(row.tip) + QStringLiteral(" (") +
+                           keys.toString(QKeySequence::NativeText) + QStringLiteral(")"));
+        action->setStatusTip(QString());
+        action->setCheckable(row.checkable);
+        if (!row.shortText.empty()) {
+            action->setIconText(shown(row.shortText));
+        }
+        actions_.push_back(action);
+    }
+    refreshIcons();
+}
+
+QAction *Actions::operator[](ActionName name) const {
+    const auto row = std::find_if(table.begin(), table.end(),
+                                  [name](const ActionRow &one) { return one.name == name; });
+    return actions_.at(static_cast<std::size_t>(row - table.begin()));
+}
+
+void Actions::fill(QMenuBar &bar) {
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        if (i == 0 || table.at(i).menu != table.at(i - 1).menu) {
+            menus_.push_back(bar.addMenu(titleOf(table.at(i).menu)));
+            menus_.back()->setToolTipsVisible(true);
+        } else if (table.at(i).separatorBefore) {
+            menus_.back()->addSeparator();
+        }
+        menus_.back()->addAction(actions_[i]);
+    }
+}
+
+void Actions::addMenu(MenuName menu, QMenu *choices) const {
+    QMenu *const place = menus_.at(static_cast<std::size_t>(menu));
+    place->addSeparator();
+    place->addMenu(choices);
+}
+
+void Actions::refreshIcons() const {
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        if (!table.at(i).icon.empty()) {
+            actions_[i]->setIcon(icon(table.at(i).icon));
+        }
+    }
+}
+
+} // namespace pinmora

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QKeySequence>
+
+#include <functional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+class QObject;
+
+namespace pinmora {
+
+struct Button;
+
+/// The menus, in the order of the menu bar.
+enum class MenuName { File, Edit, Photo, Gps, View, Help };
+
+/// Everything that a person can do with the main window, each once.
+enum class ActionName {
+    AddPhotos,
+    LoadGpsData,
+    SaveLibrary,
+    SavePhotos,
+    Quit,
+    Undo,
+    Redo,
+    SelectAll,
+    FullSize,
+    Rename,
+    OriginalNames,
+    RemovePictures,
+    ApplyToAll,
+    MatchPhoto,
+    SetFromPosition,
+    ToggleMarker,
+    RemoveGpsData,
+    ShowPosition,
+    ShowDetails,
+    OnlyWithoutPosition,
+    FollowDesktop,
+    LightLook,
+    DarkLook,
+    Wizard,
+    SampleOuting,
+    About,
+};
+
+/// What an action is, without what it does.
+struct ActionRow {
+    ActionName name;
+    MenuName menu;
+    std::string_view text; ///< with a mnemonic
+    std::string_view shortcut;
+    std::string_view icon; ///< "" for none
+    std::string_view tip;
+    bool separatorBefore = false;
+    bool checkable = false;
+    std::string_view shortText{}; ///< under an icon, where it differs from the text
+};
+
+/// All actions, in the order of their menus.
+std::span<const ActionRow> actionTable();
+
+/// The actions of one window, made from the table.
+class Actions {
+public:
+    explicit Actions(QObject *parent);
+
+    QAction *operator[](ActionName name) const;
+    /// Puts them into their menus.
+    void fill(QMenuBar &bar);
+    /// Adds a menu of choices at the end of one of them.
+    void addMenu(MenuName menu, QMenu *choices) const;
+    /// Icons in the colours in force.
+    void refreshIcons() const;
+
+private:
+    std::vector<QAction *> actions_; ///< in the order of the table
+    std::vector<QMenu *> menus_;     ///< in the order of MenuName, once filled
+};
+
+} // namespace pinmora

@@ -1,0 +1,209 @@
+#include "ui/clock_panel.h"
+
+#include "matching/matching_outlets.h"
+#include "outlets/editing.h"
+#include "store/image.h"
+#include "ui/field_bindings.h"
+#include "ui/field_edit.h"
+#include "ui/roles.h"
+#include "ui/stepper_box.h"
+#include "ui/theme.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedLayout>
+#include <QToolButton>
+
+namespace pinmora {
+
+namespace {
+
+constexpr int gap = spacing / 2;
+
+QLabel *labelOf(Role role, const QString &text = {}) {
+    auto *label = new QLabel(text);
+    setRole(label, role);
+    return label;
+}
+
+} // namespace
+
+ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing, std::function<void()> find,
+                       QWidget *parent)
+    : QWidget(parent), outlets_(outlets),
+      chooseFirst_(labelOf(Role::Quiet, tr("Choose a photo first."))), times_(new QWidget),
+      instead_(new QStackedLayout), taken_(new QLabel), corrected_(labelOf(Role::Strong)),
+      endOfTurn_([this] { showTimes(); }) {
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(gap);
+    column->addWidget(labelOf(Role::Heading, tr("Camera clock")));
+    addSteppers(*column);
+    addTimes(*column);
+    more_ = makeMore(std::move(find));
+    addActions(*column);
+    column->addWidget(more_);
+    column->addStretch();
+
+    bindings_.keep(editing.addEditor([this] {
+        for (StepperBox *box : boxes_) {
+            box->takeOverTyped();
+        }
+        return true;
+    }));
+    // A selection may change in the middle of a change of the library.
+    bindings_.keep(outlets.pictureArray.selectionChanged.connect([this] { endOfTurn_.ask(); }));
+    bindings_.watch(outlets.offsetText.text, [this](const std::string &text) {
+        corrected_->setText(text.empty() ? QStringLiteral("–")
+                                         : QString::fromStdString(text).trimmed());
+    });
+    showTimes();
+}
+
+void ClockPanel::addSteppers(QVBoxLayout &column) {
+    auto *row = new QHBoxLayout;
+    row->setSpacing(gap);
+    auto *signs = new QButtonGroup(this);
+    auto *pair = new QHBoxLayout;
+    pair->setSpacing(0);
+    for (const auto &[tag, text, name] :
+         {std::tuple(1, QStringLiteral("+"), tr("Add to the camera's time")),
+          std::tuple(0, QStringLiteral("−"), tr("Subtract from the camera's time"))}) {
+        auto *button = new QPushButton(text);
+        button->setCheckable(true);
+        button->setFixedWidth(3 * spacing + 2);
+        button->setStyleSheet(tag == 1 ? QStringLiteral("QPushButton { padding: 3px 0;"
+                                                        "border-top-right-radius: 0;"
+                                                        "border-bottom-right-radius: 0; }")
+                                       : QStringLiteral("QPushButton { padding: 3px 0;"
+                                                        "border-left-width: 0;"
+                                                        "border-top-left-radius: 0;"
+                                                        "border-bottom-left-radius: 0; }"));
+        button->setAccessibleName(name);
+        button->setToolTip(name);
+        signs->addButton(button, tag);
+        pair->addWidget(button);
+    }
+    tie(bindings_, outlets_.plusMinus, signs);
+    row->addLayout(pair);
+    for (const auto &[stepper, unit, name, digits] :
+         {std::tuple(&outlets_.stepperHour, tr("h"), tr("Hours"), 3),
+          std::tuple(&outlets_.stepperMin, tr("min"), tr("Minutes"), 2),
+          std::tuple(&outlets_.stepperSec, tr("s"), tr("Seconds"), 2)}) {
+        auto *box = new StepperBox(*stepper, bindings_);
+        box->setAccessibleName(tr("%1 that the camera's clock is off").arg(name));
+        box->setStyleSheet(QStringLiteral("QAbstractSpinBox { padding: 3px 2px; }"));
+        box->setFixedWidth(box->fontMetrics().horizontalAdvance(QString(digits, u'0')) +
+                           3 * spacing + 2);
+        boxes_.push_back(box);
+        row->addWidget(box);
+        row->addWidget(new QLabel(unit));
+    }
+    row->addStretch();
+    column.addLayout(row);
+}
+
+void ClockPanel::addTimes(QVBoxLayout &column) {
+    auto *grid = new QGridLayout(times_);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(spacing);
+    grid->setVerticalSpacing(gap / 2);
+    grid->addWidget(labelOf(Role::Quiet, tr("Taken")), 0, 0);
+    grid->addWidget(taken_, 0, 1);
+    grid->addWidget(labelOf(Role::Quiet, tr("Corrected")), 1, 0);
+    grid->addWidget(corrected_, 1, 1);
+    chooseFirst_->setAlignment(Qt::AlignTop);
+    grid->setColumnStretch(1, 1);
+    corrected_->setAccessibleName(tr("Corrected time"));
+    // As high without a photo as with one, or the map would jump with each selection.
+    instead_->addWidget(chooseFirst_);
+    instead_->addWidget(times_);
+    column.addLayout(instead_);
+}
+
+void ClockPanel::addActions(QVBoxLayout &column) {
+    auto *row = new QHBoxLayout;
+    row->setSpacing(spacing);
+    auto *set = new QPushButton(tr("Set From This Position"));
+    set->setToolTip(tr("Finds the track point nearest to the photo's position and sets the clock "
+                       "by its time"));
+    bindings_.tie(outlets_.offsetButton, set);
+    auto *unfold = new QToolButton;
+    unfold->setText(tr("More"));
+    unfold->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    unfold->setArrowType(Qt::RightArrow);
+    unfold->setCheckable(true);
+    unfold->setAutoRaise(true);
+    unfold->setToolTip(tr("More ways to set the clock by a log"));
+    setRole(unfold, Role::Flat);
+    connect(unfold, &QToolButton::toggled, this, [this, unfold](bool open) {
+        unfold->setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
+        more_->setVisible(open);
+    });
+    row->addWidget(set);
+    row->addWidget(unfold);
+    row->addStretch();
+    column.addLayout(row);
+}
+
+QWidget *ClockPanel::makeMore(std::function<void()> find) {
+    auto *more = new QWidget;
+    auto *grid = new QGridLayout(more);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(gap);
+    auto *match = new QPushButton(tr("Match by Time"));
+    match->setToolTip(tr("Takes the track point nearest in time and sets the clock by it"));
+    bindings_.tie(outlets_.matchButton, match);
+    grid->addWidget(match, 0, 0, 1, 3, Qt::AlignLeft);
+    grid->addWidget(labelOf(Role::Quiet, tr("Or where the photo is known to be:")), 1, 0, 1, 3);
+    int place = 0;
+    for (const auto &[field, hint, name] :
+         {std::tuple(&outlets_.knownLat, tr("Latitude"), tr("Known latitude, decimal degrees")),
+          std::tuple(&outlets_.knownLon, tr("Longitude"),
+                     tr("Known longitude, decimal degrees"))}) {
+        auto *edit = new FieldEdit;
+        edit->setPlaceholderText(hint);
+        edit->setAccessibleName(name);
+        edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance(hint) + 3 * spacing);
+        tie(bindings_, *field, edit);
+        connect(edit, &FieldEdit::returnPressed, this, find);
+        grid->addWidget(edit, 2, place++);
+    }
+    auto *findButton = new QPushButton(tr("Find"));
+    findButton->setToolTip(tr("Finds the track point nearest to this position and sets the clock "
+                              "by its time"));
+    connect(findButton, &QPushButton::clicked, this, find);
+    grid->addWidget(findButton, 2, 2);
+    grid->setColumnStretch(3, 1);
+    auto *problem = labelOf(Role::Problem);
+    problem->setWordWrap(true);
+    grid->addWidget(problem, 3, 0, 1, 4);
+    for (CheckedField *field : {&outlets_.knownLat, &outlets_.knownLon}) {
+        bindings_.watch(field->problem, [this, problem](const std::string &) {
+            const std::string &lat = outlets_.knownLat.problem.get();
+            const std::string &why = lat.empty() ? outlets_.knownLon.problem.get() : lat;
+            problem->setText(QString::fromStdString(why));
+            problem->setVisible(!why.empty());
+        });
+    }
+    more->hide();
+    return more;
+}
+
+void ClockPanel::showTimes() {
+    const image *const photo = outlets_.pictureArray.firstSelectedObject();
+    instead_->setCurrentWidget(photo ? times_ : chooseFirst_);
+    if (!photo) {
+        return;
+    }
+    if (photo->no_capture_time().value_or(false) || !photo->date()) {
+        taken_->setText(tr("not told by the photo"));
+    } else {
+        taken_->setText(QString::fromStdString(photo->time_string()).trimmed());
+    }
+}
+
+} // namespace pinmora

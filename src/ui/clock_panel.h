@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/end_of_turn.h"
+#include "ui/bindings.h"
+
+#include <QWidget>
+
+#include <functional>
+
+class QLabel;
+class QStackedLayout;
+class QVBoxLayout;
+
+namespace pinmora {
+
+class Editing;
+class StepperBox;
+struct MatchingOutlets;
+
+/// How far the camera's clock is off: sign, hours, minutes and seconds, what that makes of the
+/// selected photo's time, and, folded away, the ways to derive it from a point of a track.
+class ClockPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The outlets and `editing` must outlive the panel. `find` looks for the track point nearest
+    /// to the known position (Matcher::guessFromLatLon).
+    ClockPanel(MatchingOutlets &outlets, Editing &editing, std::function<void()> find,
+               QWidget *parent = nullptr);
+
+private:
+    void addSteppers(QVBoxLayout &column);
+    void addTimes(QVBoxLayout &column);
+    void addActions(QVBoxLayout &column);
+    QWidget *makeMore(std::function<void()> find);
+    void showTimes();
+
+    MatchingOutlets &outlets_;
+    std::vector<StepperBox *> boxes_;
+    QLabel *chooseFirst_;
+    QWidget *times_;
+    QStackedLayout *instead_; ///< one of these two
+    QLabel *taken_;
+    QLabel *corrected_;
+    QWidget *more_ = nullptr;
+    EndOfTurn endOfTurn_;
+    Bindings bindings_;
+};
+
+} // namespace pinmora

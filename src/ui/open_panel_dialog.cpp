@@ -1,0 +1,148 @@
+#include "ui/open_panel_dialog.h"
+
+#include "outlets/open_panel.h"
+#include "ui/theme.h"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QStorageInfo>
+#include <QTreeView>
+#include <QUrl>
+
+namespace pinmora {
+
+namespace {
+
+QString nameFilter(const OpenPanel &panel) {
+    QStringList patterns;
+    for (const std::string &type : panel.allowedTypes) {
+        patterns << QStringLiteral("*.") + QString::fromStdString(type);
+    }
+    return QStringLiteral("%1 (%2)").arg(QString::fromStdString(panel.typesName),
+                                         patterns.join(u' '));
+}
+
+/// The folders among what is marked, else the one that is seen.
+QStringList foldersOf(const QFileDialog &dialog) {
+    QStringList folders;
+    for (const QString &path : dialog.selectedFiles()) {
+        if (QFileInfo(path).isDir()) {
+            folders << path;
+        }
+    }
+    return folders.isEmpty() ? QStringList{dialog.directory().absolutePath()} : folders;
+}
+
+/// Where photos and logs come from: the person's own folders, and cards and receivers that are
+/// plugged in.
+QList<QUrl> places() {
+    QList<QUrl> places;
+    for (const auto place : {QStandardPaths::HomeLocation, QStandardPaths::DesktopLocation,
+                             QStandardPaths::PicturesLocation, QStandardPaths::DownloadLocation}) {
+        const QUrl folder = QUrl::fromLocalFile(QStandardPaths::writableLocation(place));
+        if (!places.contains(folder) && QFileInfo::exists(folder.toLocalFile())) {
+            places << folder;
+        }
+    }
+    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
+        const QString path = volume.rootPath();
+        if (path.startsWith(QLatin1String("/media/")) || path.startsWith(QLatin1String("/mnt/")) ||
+            path.startsWith(QLatin1String("/run/media/"))) {
+            places << QUrl::fromLocalFile(path);
+        }
+    }
+    return places;
+}
+
+/// The toolkit's own dialog opens too narrow for a date to be read.
+void makeRoomy(QFileDialog &dialog) {
+    dialog.setSidebarUrls(places());
+    if (auto *list = dialog.findChild<QTreeView *>()) {
+        constexpr int typeColumn = 2;
+        list->setColumnHidden(typeColumn, true);
+        list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+        list->header()->setSectionResizeMode(3, QHeaderView::ResizeToContents);
+    }
+    dialog.resize(105 * spacing, 65 * spacing);
+}
+
+} // namespace
+
+OpenPanelDialog::OpenPanelDialog(OpenPanel &panel, WidgetOf widgetOf, QObject *parent)
+    : QObject(parent), panel_(panel), widgetOf_(std::move(widgetOf)) {
+    bindings_.keep(panel.sheet().host().onChange([this](Window *host) { follow(host); }));
+}
+
+QFileDialog *OpenPanelDialog::dialog() const {
+    return dialog_;
+}
+
+void OpenPanelDialog::follow(Window *host) {
+    if (dialog_) {
+        dialog_->disconnect(this);
+        dialog_->hide();
+        dialog_->deleteLater();
+        dialog_ = nullptr;
+    }
+    if (!host) {
+        return;
+    }
+    dialog_ = new QFileDialog(widgetOf_(*host), QString::fromStdString(panel_.title));
+    // Dialogs of the desktop choose files or folders, not both.
+    dialog_->setOption(QFileDialog::DontUseNativeDialog, panel_.canChooseDirectories);
+    dialog_->setOption(QFileDialog::ReadOnly);
+    dialog_->setOption(QFileDialog::HideNameFilterDetails); // twenty spellings of extensions
+    dialog_->setFileMode(panel_.allowsMultipleSelection ? QFileDialog::ExistingFiles
+                                                        : QFileDialog::ExistingFile);
+    dialog_->setFilter(QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot | QDir::CaseSensitive);
+    if (!panel_.allowedTypes.empty()) {
+        dialog_->setNameFilter(nameFilter(panel_));
+    }
+    startAt(panel_.directory);
+    makeRoomy(*dialog_);
+    if (panel_.canChooseDirectories) {
+        addFolderButton();
+    }
+    connect(dialog_, &QFileDialog::rejected, this, [this] { answer({}); });
+    connect(dialog_, &QFileDialog::accepted, this, [this] { answer(dialog_->selectedFiles()); });
+    dialog_->setWindowModality(Qt::WindowModal);
+    dialog_->open();
+}
+
+void OpenPanelDialog::startAt(const std::string &directory) {
+    const QFileInfo start(QFile::decodeName(QByteArray::fromStdString(directory)));
+    if (directory.empty() || !start.exists()) {
+        dialog_->setDirectory(QDir::home());
+    } else {
+        dialog_->setDirectory(start.isDir() ? start.absoluteFilePath() : start.absolutePath());
+    }
+}
+
+void OpenPanelDialog::addFolderButton() {
+    auto *buttons = dialog_->findChild<QDialogButtonBox *>();
+    if (!buttons) {
+        return;
+    }
+    QPushButton *const whole =
+        buttons->addButton(tr("Add Whole Folder"), QDialogButtonBox::ActionRole);
+    whole->setAutoDefault(false);
+    whole->setToolTip(tr("Adds the photos and logs in the marked folders, or in the one that is "
+                         "seen"));
+    connect(whole, &QPushButton::clicked, this, [this] { answer(foldersOf(*dialog_)); });
+}
+
+void OpenPanelDialog::answer(const QStringList &paths) {
+    std::vector<std::string> names;
+    for (const QString &path : paths) {
+        names.push_back(QFile::encodeName(path).toStdString());
+    }
+    panel_.answer(std::move(names));
+}
+
+} // namespace pinmora

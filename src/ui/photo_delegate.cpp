@@ -1,0 +1,168 @@
+#include "ui/photo_delegate.h"
+
+#include "shell/thumbnails.h"
+#include "ui/icons.h"
+#include "ui/photo_table_model.h"
+#include "ui/theme.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmapCache>
+
+#include <algorithm>
+
+namespace pinmora {
+namespace {
+
+using Column = PhotoTableModel::Column;
+
+constexpr QSize pictureSize(52, 36); // 3:2 and 4:3 both lose little in it
+constexpr int cornerRadius = 3;
+constexpr int linePadding = 6;
+
+/// Pictures of usual proportions fill the frame, others stand in it whole.
+QSizeF sizeInFrame(const QSize &picture, const QSizeF &frame) {
+    const double widthByHeight = static_cast<double>(picture.width()) / picture.height();
+    const bool fills = widthByHeight > 1.2 && widthByHeight < 1.8;
+    return QSizeF(picture).scaled(frame,
+                                  fills ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio);
+}
+
+/// The picture as it stands in a row, made once a resolution.
+QPixmap framed(const QImage &picture, double pixelRatio) {
+    const QString key = QStringLiteral("photo row %1 %2").arg(picture.cacheKey()).arg(pixelRatio);
+    QPixmap frame;
+    if (QPixmapCache::find(key, &frame)) {
+        return frame;
+    }
+    const QSize pixels = pictureSize * pixelRatio;
+    const QSize scaledSize = sizeInFrame(picture.size(), pixels).toSize();
+    const QImage scaled =
+        picture.scaled(scaledSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    frame = QPixmap(pixels);
+    frame.fill(Qt::transparent);
+    QPainter painter(&frame);
+    painter.drawImage((pixels.width() - scaled.width()) / 2,
+                      (pixels.height() - scaled.height()) / 2, scaled);
+    painter.end();
+    frame.setDevicePixelRatio(pixelRatio);
+    QPixmapCache::insert(key, frame);
+    return frame;
+}
+
+/// Two lines, or one in the middle of the row where the second is "".
+void paintLines(QPainter *painter, const QRect &area, const QString &first, const QColor &firstInk,
+                const QString &second) {
+    const QFontMetrics metrics = painter->fontMetrics();
+    const auto elided = [&metrics, &area](const QString &text) {
+        return metrics.elidedText(text, Qt::ElideRight, area.width());
+    };
+    painter->setPen(firstInk);
+    if (second.isEmpty()) {
+        painter->drawText(area, Qt::AlignVCenter | Qt::AlignLeft, elided(first));
+        return;
+    }
+    const int top = area.center().y() - metrics.height() + 1;
+    const QRect line(area.left(), top, area.width(), metrics.height());
+    painter->drawText(line, Qt::AlignVCenter | Qt::AlignLeft, elided(first));
+    painter->setPen(colours().quietText);
+    painter->drawText(line.translated(0, metrics.height() - 1), Qt::AlignVCenter | Qt::AlignLeft,
+                      elided(second));
+}
+
+void paintGround(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) {
+    const QRect &cell = option.rect;
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    painter->fillRect(cell, isSelected ? colours().accentGround : colours().content);
+    painter->fillRect(QRect(cell.left(), cell.bottom(), cell.width(), 1), colours().line);
+    const auto *const view = qobject_cast<const QAbstractItemView *>(option.widget);
+    if (index.column() == Column::Name && view && view->hasFocus() &&
+        view->currentIndex().row() == index.row()) {
+        painter->fillRect(QRect(cell.left(), cell.top(), 3, cell.height() - 1), colours().accent);
+    }
+}
+
+void paintPosition(QPainter *painter, const QRect &area, const QModelIndex &index) {
+    const QString position = index.data().toString();
+    if (position.isEmpty()) {
+        paintLines(painter, area, PhotoTableModel::tr("no position"), colours().quietText, {});
+    } else {
+        paintLines(painter, area, position, colours().text,
+                   index.data(PhotoTableModel::SecondLine).toString());
+    }
+}
+
+void paintGap(QPainter *painter, const QRect &area, const QModelIndex &index) {
+    const bool isFar = index.data(PhotoTableModel::IsFar).toBool();
+    QFont font = painter->font();
+    font.setBold(isFar);
+    painter->setFont(font);
+    painter->setPen(isFar ? colours().warning : colours().text);
+    painter->drawText(area, Qt::AlignVCenter | Qt::AlignRight, index.data().toString());
+}
+
+} // namespace
+
+PhotoDelegate::PhotoDelegate(Thumbnails &thumbnails, QObject *parent)
+    : QStyledItemDelegate(parent), thumbnails_(thumbnails) {}
+
+int PhotoDelegate::rowHeight(const QFontMetrics &metrics) {
+    return std::max(pictureSize.height() + 10, 2 * metrics.height() + 2 * linePadding);
+}
+
+QSize PhotoDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const {
+    return {0, rowHeight(option.fontMetrics)};
+}
+
+void PhotoDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const {
+    painter->save();
+    painter->setFont(option.font);
+    paintGround(painter, option, index);
+    const QRect area = option.rect.adjusted(spacing, 0, -spacing, -1);
+    switch (index.column()) {
+    case Column::Name: {
+        paintPicture(painter, option.rect, index);
+        const QString taken = index.data(PhotoTableModel::SecondLine).toString();
+        paintLines(painter, option.rect.adjusted(textIndent, 0, -spacing / 2, -1),
+                   index.data().toString(), colours().text,
+                   taken.isEmpty() ? PhotoTableModel::tr("no capture time") : taken);
+        break;
+    }
+    case Column::Position:
+        paintPosition(painter, area, index);
+        break;
+    case Column::Gap:
+        paintGap(painter, area, index);
+        break;
+    default:
+        paintLines(painter, area, index.data().toString(), colours().text, {});
+    }
+    painter->restore();
+}
+
+void PhotoDelegate::paintPicture(QPainter *painter, const QRect &cell,
+                                 const QModelIndex &index) const {
+    QRect frame(QPoint(cell.left() + margin, 0), pictureSize);
+    frame.moveTop(cell.top() + (cell.height() - 1 - frame.height()) / 2);
+    const Picture picture =
+        thumbnails_.thumbnail(index.data(PhotoTableModel::FilePath).toByteArray().toStdString());
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    QPainterPath path;
+    path.addRoundedRect(frame, cornerRadius, cornerRadius);
+    painter->fillPath(path, colours().line);
+    painter->setClipPath(path);
+    if (picture && !picture->isNull()) {
+        painter->drawPixmap(frame.topLeft(),
+                            framed(*picture, painter->device()->devicePixelRatioF()));
+    } else {
+        painter->setOpacity(0.5);
+        quietIcon("picture").paint(painter, frame.adjusted(16, 8, -16, -8));
+    }
+    painter->restore();
+}
+
+} // namespace pinmora

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "outlets/signal.h"
+
+#include <QTableView>
+
+#include <functional>
+
+namespace pinmora {
+
+class PhotoFilter;
+class PhotoOrder;
+class Thumbnails;
+
+/// The table in which photos are seen and chosen.
+class PhotoTable : public QTableView {
+    Q_OBJECT
+
+public:
+    /// All but the parent must outlive it. `open` is called for a double click and for Return.
+    PhotoTable(PhotoFilter &filter, PhotoOrder &order, Thumbnails &thumbnails, QMenu &sortMenu,
+               std::function<void()> open, QWidget *parent = nullptr);
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void fitToFont();
+    void fitColumns();
+
+    std::function<void()> open_;
+    Connection thumbnailReady_;
+};
+
+} // namespace pinmora

@@ -1,0 +1,120 @@
+#include "ui/photo_texts.h"
+
+#include "platform/number_text.h"
+#include "store/image.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <string_view>
+
+namespace pinmora {
+
+QString shortTime(Date date) {
+    LocalZone zone;
+    const auto yearOf = [&zone](Date one) { return textFromDate(one, "%Y", zone); };
+    const auto now =
+        std::chrono::time_point_cast<std::chrono::microseconds>(std::chrono::system_clock::now());
+    const std::string_view format =
+        yearOf(date) == yearOf(now) ? "%e %b %H:%M:%S" : "%e %b %Y %H:%M:%S";
+    return QString::fromStdString(textFromDate(date, format, zone)).trimmed();
+}
+
+namespace photo_texts {
+namespace {
+
+QString textOf(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// A text that is no number is shown as it is.
+QString rounded(const Text &text, int decimals) {
+    const std::optional<double> number = plainDecimal(text.view());
+    return number ? QString::number(*number, 'f', decimals) : textOf(text.view());
+}
+
+bool hasCaptureTime(const image &photo) {
+    return photo.date() && !photo.no_capture_time().value_or(false);
+}
+
+QString takenWithYear(const image &photo) {
+    return hasCaptureTime(photo) ? QString::fromStdString(photo.time_string()).trimmed()
+                                 : QString();
+}
+
+} // namespace
+
+QString name(const image &photo) {
+    const QString base = textOf(photo.image_name().view());
+    const QString extension = textOf(photo.extension().view());
+    return extension.isEmpty() ? base : base + QLatin1Char('.') + extension;
+}
+
+QString taken(const image &photo) {
+    return hasCaptureTime(photo) ? shortTime(*photo.date()) : QString();
+}
+
+QString position(const image &photo) {
+    return photo.lat_and_lon()
+               ? rounded(photo.lat(), 5) + QStringLiteral(", ") + rounded(photo.lon(), 5)
+               : QString();
+}
+
+QString altitude(const image &photo) {
+    return photo.alt().view().empty() ? QString() : rounded(photo.alt(), 0) + QStringLiteral(" m");
+}
+
+QString place(const image &photo) {
+    for (const Text *name : {&photo.city(), &photo.prov(), &photo.country()}) {
+        if (!name->view().empty()) {
+            return textOf(name->view());
+        }
+    }
+    return {};
+}
+
+QString altitudeAndPlace(const image &photo) {
+    QStringList parts{altitude(photo), place(photo)};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(" · "));
+}
+
+QString gap(std::optional<std::chrono::seconds> gap) {
+    using namespace std::chrono;
+    if (!gap) {
+        return {};
+    }
+    const seconds size = abs(*gap);
+    if (size >= days{1}) {
+        return QCoreApplication::translate("photo", "%1 d").arg(floor<days>(size).count());
+    }
+    const hh_mm_ss parts(size);
+    const auto twoDigits = [](auto number) {
+        return QStringLiteral("%1").arg(number.count(), 2, 10, QLatin1Char('0'));
+    };
+    const QString secondsText = QLatin1Char(':') + twoDigits(parts.seconds());
+    return parts.hours().count() > 0 ? QString::number(parts.hours().count()) + QLatin1Char(':') +
+                                           twoDigits(parts.minutes()) + secondsText
+                                     : QString::number(parts.minutes().count()) + secondsText;
+}
+
+QString sentence(const image &photo, std::optional<std::chrono::seconds> gap) {
+    const auto tr = [](const char *text) { return QCoreApplication::translate("photo", text); };
+    QStringList parts{name(photo)};
+    const QString time = takenWithYear(photo);
+    parts << (time.isEmpty() ? tr("no capture time") : tr("taken %1").arg(time));
+    if (photo.lat_and_lon()) {
+        parts << position(photo) << altitude(photo) << place(photo);
+    } else {
+        parts << tr("no position");
+    }
+    if (gap) {
+        parts << tr("%1 from the nearest track point").arg(photo_texts::gap(gap));
+    }
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace photo_texts
+
+} // namespace pinmora

@@ -1,0 +1,28 @@
+#pragma once
+
+class QWidget;
+
+namespace pinmora {
+
+/// What the style sheet makes of a widget, beyond its class.
+enum class Role {
+    Heading,  ///< a label that names a part of a window
+    Title,    ///< a label larger than its surroundings
+    Quiet,    ///< a label of what matters less
+    Strong,   ///< a label of what matters more
+    Problem,  ///< a label that says what is wrong
+    Link,     ///< a button that looks like a link
+    Removal,  ///< the same, for what takes things away
+    Flat,     ///< a button without a frame until the pointer is over it
+    Default,  ///< the button that a person will want
+    Strip,    ///< a frame that carries the heading of a list
+    Footer,   ///< a frame that carries the buttons below a list
+    Content,  ///< a frame on the ground of lists
+    QuietBar, ///< the frame of messages that need no answer
+    Dashed,   ///< a frame into which things may be dropped
+    DropOver  ///< the same, while they are over it
+};
+
+void setRole(QWidget *widget, Role role);
+
+} // namespace pinmora

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QColor>
+
+#include <initializer_list>
+
+class QApplication;
+class QPalette;
+
+namespace pinmora {
+
+/// The colours of the program's roles, for a light or a dark desktop.
+struct Colours {
+    bool dark = false;
+    QColor window;
+    QColor content;
+    QColor text;
+    QColor quietText; ///< 4.5 to 1 against window and content
+    QColor line;
+    QColor accent;
+    QColor accentGround;
+    QColor warning;
+    QColor warningGround;
+    QColor track;
+
+    /// White or nearly black, whichever reads better on the accent.
+    QColor onAccent() const;
+};
+
+/// The role colours as they are on a light or a dark desktop; the accent is used where it is valid,
+/// made darker or lighter where text in it could not be read.
+Colours coloursFor(bool dark, const QColor &desktopAccent = QColor());
+
+QColor mixed(const QColor &a, const QColor &b, float shareOfB);
+/// By the contrast ratio of WCAG 2: from 1 to 21.
+double contrast(const QColor &a, const QColor &b);
+/// The colour, moved towards black or white as far as it takes for 4.5 to 1 on all of the grounds.
+QColor readable(QColor ink, std::initializer_list<QColor> grounds);
+
+/// How the program looks: as the desktop does, or one of the two.
+enum class Appearance { System, Light, Dark };
+
+/// Gives the application style, palette and style sheet. The accent is the desktop's where it sets
+/// one. To be called again when the desktop's look has changed (QEvent::ThemeChange).
+void applyTheme(QApplication &application, Appearance appearance);
+
+/// The colours in force, by what applyTheme() was last called with.
+const Colours &colours();
+
+/// One spacing unit, in device-independent pixels.
+inline constexpr int spacing = 8;
+
+} // namespace pinmora

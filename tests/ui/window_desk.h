@@ -1,0 +1,73 @@
+#pragma once
+
+#include "shell/desk.h"
+#include "ui/main_window.h"
+#include "ui/photo_table.h"
+#include "ui/theme.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+
+/// The program with its main window, driven as a person would.
+struct WindowDesk : Desk {
+    explicit WindowDesk(QSize size = {1280, 800}) {
+        pinmora::applyTheme(*qApp, pinmora::Appearance::Light);
+        start();
+        window = std::make_unique<pinmora::MainWindow>(delegate, nullptr);
+        window->resize(size);
+        quitting = delegate.terminate.connect([this] { window->quit(); });
+        static_cast<void>(QTest::qWaitForWindowExposed(window.get()));
+    }
+
+    /// What an action has left for the turns of the event loop after it.
+    static void settle() {
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+    }
+    QAction *action(pinmora::ActionName name) const { return window->action(name); }
+    /// What is shown to assistive technology by this name; it must be there, and to be seen.
+    template <class Widget>
+    Widget *named(const char *name) const {
+        for (auto *widget : window->findChildren<Widget *>()) {
+            if (widget->accessibleName() == QLatin1String(name) && widget->isVisible()) {
+                return widget;
+            }
+        }
+        qFatal("nothing visible is called \"%s\"", name);
+    }
+    QAbstractButton *button(const char *text) const {
+        for (QWidget *top : QApplication::topLevelWidgets()) {
+            for (auto *one : top->findChildren<QAbstractButton *>()) {
+                if (one->isVisible() && one->text() == QString::fromUtf8(text)) {
+                    return one;
+                }
+            }
+        }
+        return nullptr;
+    }
+    void type(const char *field, const char *text) const {
+        auto *const edit = named<QLineEdit>(field);
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClicks(edit, QString::fromUtf8(text));
+        QTest::keyClick(edit, Qt::Key_Return);
+    }
+    QTableView *photoTable() const { return window->findChild<pinmora::PhotoTable *>(); }
+    void clickRow(int row, Qt::KeyboardModifiers keys = Qt::NoModifier) const {
+        QTableView *const table = photoTable();
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, keys,
+                          table->visualRect(table->model()->index(row, 0)).center());
+        settle();
+    }
+    QDialog *sheet() const { return qobject_cast<QDialog *>(QApplication::activeModalWidget()); }
+    const pinmora::image &photo(std::size_t row) {
+        return *parts().arrays.pictureArray.arrangedObjects().at(row);
+    }
+
+    std::unique_ptr<pinmora::MainWindow> window;
+    pinmora::Connection quitting;
+};
