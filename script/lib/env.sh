@@ -17,6 +17,11 @@ if [[ $(locale charmap 2>/dev/null) != UTF-8 ]]; then
     export LC_ALL=C.UTF-8
 fi
 
+# The web engine's sandbox refuses to start as root.
+if ((EUID == 0)); then
+    export QTWEBENGINE_DISABLE_SANDBOX=1
+fi
+
 # quietly LOG COMMAND...: runs it with its output in LOG, which is shown only when it fails.
 quietly() {
     local log=$1 status=0
