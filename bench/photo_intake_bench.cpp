@@ -16,7 +16,7 @@ void measure(bench::Report &report) {
     char name[] = "bench";
     char *argv[] = {name, nullptr};
     QApplication application(argc, argv);
-    app::Program program(application, ".", nullptr);
+    app::Program program(".", nullptr);
     QCoreApplication::processEvents();
     const auto intake = [&] {
         program.delegate().subsystems().photoIntake.openFiles({folder.string()});

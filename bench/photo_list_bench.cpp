@@ -28,7 +28,7 @@ void measure(bench::Report &report) {
     char name[] = "bench";
     char *argv[] = {name, nullptr};
     QApplication application(argc, argv);
-    app::Program program(application, ".", nullptr);
+    app::Program program(".", nullptr);
     settle();
     auto *const table = program.window().findChild<PhotoTable *>();
 

@@ -39,7 +39,7 @@ int showWindow(int argc, char **argv, bool bare) {
         window.show();
         return QApplication::exec();
     }
-    app::Program program(application, ".", nullptr);
+    app::Program program(".", nullptr);
     return QApplication::exec();
 }
 

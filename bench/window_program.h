@@ -22,7 +22,9 @@ namespace pinmora::bench {
 class WindowHome {
 public:
     WindowHome() {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        if (!qEnvironmentVariableIsSet("DISPLAY")) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        }
         for (const char *name : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"}) {
             qputenv(name, folder_.path().toUtf8());
         }

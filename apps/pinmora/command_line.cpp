@@ -1,6 +1,7 @@
 #include "command_line.h"
 
 #include <filesystem>
+#include <system_error>
 
 namespace pinmora::app {
 namespace {
@@ -22,8 +23,13 @@ CommandLine parseCommandLine(const std::vector<std::string> &arguments) {
     bool onlyFiles = false;
     for (std::size_t i = 1; i < arguments.size(); ++i) {
         const std::string &argument = arguments[i];
+        if (argument.empty()) {
+            continue;
+        }
         if (onlyFiles || argument.size() < 2 || argument[0] != '-') {
-            parsed.paths.push_back(std::filesystem::absolute(argument).string());
+            std::error_code noCurrentFolder;
+            const auto path = std::filesystem::absolute(argument, noCurrentFolder);
+            parsed.paths.push_back(noCurrentFolder ? argument : path.string());
         } else if (argument == "--") {
             onlyFiles = true;
         } else if (argument == "--help" || argument == "-h") {

@@ -9,9 +9,75 @@
 
 #include <chrono>
 #include <iostream>
+#include <unistd.h>
+#include <utility>
 
 using namespace pinmora;
 using namespace pinmora::app;
+
+namespace {
+
+using Paths = std::vector<std::string>;
+
+/// How long the program that has the library may take to answer; it does so even while it loads.
+constexpr std::chrono::seconds patience{15};
+
+/// What later starts handed over, kept while there is no window that could take it.
+struct Inbox {
+    Program *program = nullptr;
+    std::vector<Paths> kept;
+
+    void take(const Paths &paths) {
+        if (program) {
+            program->open(paths);
+        } else {
+            kept.push_back(paths);
+        }
+    }
+};
+
+/// From the first window until the person ends the program; what comes in after that is kept.
+int run(int &argc, char **argv, const Paths &paths, InstanceChannel &channel, Inbox &inbox) {
+    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // the page view asks for it
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("pinmora"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Pinmora"));
+    QApplication::setDesktopFileName(QStringLiteral("pinmora"));
+    if (!channel.listen()) {
+        std::cerr << "pinmora: files cannot be handed over to this program by later starts.\n";
+    }
+    const std::filesystem::path here = QApplication::applicationDirPath().toStdString();
+    Program program(here / ".." / "share" / "pinmora", makeWebMapView);
+    program.open(paths);
+    inbox.program = &program;
+    for (const Paths &early : std::exchange(inbox.kept, {})) {
+        program.open(early);
+    }
+    const int status = QApplication::exec();
+    inbox.program = nullptr;
+    for (const Paths &late : channel.stop()) {
+        inbox.take(late);
+    }
+    return status;
+}
+
+/// Starts this program anew in place of the one that has ended; returns only when it cannot.
+int startAnew(char *name, std::vector<Paths> &messages) {
+    std::vector<char *> arguments{name};
+    for (Paths &paths : messages) {
+        for (std::string &path : paths) {
+            arguments.push_back(path.data());
+        }
+    }
+    arguments.push_back(nullptr);
+    std::error_code error;
+    const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
+    ::execv(self.c_str(), arguments.data());
+    std::cerr << "pinmora: files that came while the program ended were not loaded.\n";
+    return 1;
+}
+
+} // namespace
 
 int main(int argc, char **argv) {
     const CommandLine asked = parseCommandLine(std::vector<std::string>(argv, argv + argc));
@@ -19,18 +85,21 @@ int main(int argc, char **argv) {
         (asked.wrong ? std::cerr : std::cout) << asked.message;
         return asked.wrong ? 2 : 0;
     }
-    const std::string channel = InstanceChannel::nameFor(applicationSupportBase() / "Pinmora");
-    if (InstanceChannel::handOver(channel, asked.paths, std::chrono::minutes(2))) {
-        return 0;
+    Inbox inbox;
+    int status = 0;
+    {
+        InstanceChannel channel(InstanceChannel::nameFor(applicationSupportBase() / "Pinmora"),
+                                [&inbox](const Paths &paths) { inbox.take(paths); });
+        switch (channel.start(asked.paths, patience)) {
+        case InstanceChannel::Start::HandedOver:
+            return 0;
+        case InstanceChannel::Start::Stuck:
+            std::cerr << "pinmora: another Pinmora has this library open and does not answer.\n";
+            return 1;
+        case InstanceChannel::Start::Runs:
+            break;
+        }
+        status = run(argc, argv, asked.paths, channel, inbox);
     }
-    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // the page view asks for it
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("pinmora"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Pinmora"));
-    QApplication::setDesktopFileName(QStringLiteral("pinmora"));
-    const std::filesystem::path here = QApplication::applicationDirPath().toStdString();
-    Program program(application, here / ".." / "share" / "pinmora", makeWebMapView);
-    program.listen();
-    program.open(asked.paths);
-    return QApplication::exec();
+    return inbox.kept.empty() ? status : startAnew(argv[0], inbox.kept);
 }

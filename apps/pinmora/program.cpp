@@ -1,8 +1,6 @@
 #include "program.h"
 
-#include "platform/instance_channel.h"
 #include "shell/subsystems.h"
-#include "ui/theme.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -20,28 +18,16 @@ PixelSize screenSize() {
 
 } // namespace
 
-Program::Program(QApplication &application, const std::filesystem::path &resourceFolder,
-                 MapPane::MakePage makePage)
+Program::Program(const std::filesystem::path &resourceFolder, MapPane::MakePage makePage)
     : delegate_(resourceFolder, screenSize()) {
     // The main window decides, after the person has been asked.
     QApplication::setQuitOnLastWindowClosed(false);
-    applyTheme(application, appearanceFrom(delegate_.defaults));
     delegate_.awakeFromNib();
     window_ = std::make_unique<MainWindow>(delegate_, std::move(makePage));
     terminating_ = delegate_.terminate.connect([this] { window_->quit(); });
 }
 
 Program::~Program() = default;
-
-std::string Program::channelName() const {
-    return InstanceChannel::nameFor(delegate_.library.applicationSupportFolder());
-}
-
-void Program::listen() {
-    channel_ = std::make_unique<InstanceChannel>(
-        channelName(), [this](const std::vector<std::string> &paths) { open(paths); });
-    channel_->listen();
-}
 
 void Program::open(const std::vector<std::string> &paths) {
     delegate_.interface.workingWindow().makeKeyAndOrderFront();

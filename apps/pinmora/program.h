@@ -10,28 +10,18 @@
 #include <string>
 #include <vector>
 
-class QApplication;
-
-namespace pinmora {
-class InstanceChannel;
-}
-
 namespace pinmora::app {
 
 /// The program with its windows, from start to end.
 class Program : public QObject {
 public:
     /// `resourceFolder` is the program's own; `makePage` makes the view of the map page.
-    Program(QApplication &application, const std::filesystem::path &resourceFolder,
-            MapPane::MakePage makePage);
+    /// The application must be there.
+    Program(const std::filesystem::path &resourceFolder, MapPane::MakePage makePage);
     ~Program() override;
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
 
-    /// The name under which a running program is found by others with the same library.
-    std::string channelName() const;
-    /// Takes the files of later starts from now on.
-    void listen();
     /// Loads files once the window is up; none: only brings the window to the front.
     void open(const std::vector<std::string> &paths);
 
@@ -41,7 +31,6 @@ public:
 private:
     Pinmora_AppDelegate delegate_;
     std::unique_ptr<MainWindow> window_;
-    std::unique_ptr<InstanceChannel> channel_;
     Connection terminating_;
 };
 

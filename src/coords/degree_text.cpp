@@ -7,10 +7,10 @@
 
 namespace pinmora {
 
-const AxisKind latitudeKind{"lat", "latitude", 90, &degrees::negative_lat,
-                            &degrees::setNegative_lat};
-const AxisKind longitudeKind{"lon", "longitude", 180, &degrees::negative_lon,
-                             &degrees::setNegative_lon};
+const AxisKind latitudeKind{
+    "lat", "latitude", 90, "47.3825", &degrees::negative_lat, &degrees::setNegative_lat};
+const AxisKind longitudeKind{
+    "lon", "longitude", 180, "8.5417", &degrees::negative_lon, &degrees::setNegative_lon};
 
 std::optional<double> readDegrees(CheckedField &field, const AxisKind &kind) {
     const std::optional<double> number = plainDecimal(field.text.get());
@@ -20,7 +20,7 @@ std::optional<double> readDegrees(CheckedField &field, const AxisKind &kind) {
     }
     const std::string limit = std::to_string(kind.limit);
     field.problem.set("The " + std::string(kind.name) + " is a number from -" + limit + " to " +
-                      limit + ", such as 47.3825.");
+                      limit + ", such as " + std::string(kind.example) + ".");
     return std::nullopt;
 }
 

@@ -13,6 +13,7 @@ struct AxisKind {
     std::string_view key;  ///< the photo's; the keys of `degrees` end in it
     std::string_view name; ///< in sentences
     int limit;             ///< degrees
+    std::string_view example;
     bool (degrees::*negative)() const;
     void (degrees::*setNegative)(bool);
 };

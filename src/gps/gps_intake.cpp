@@ -49,6 +49,7 @@ void GpsIntake::processGPS(OpenPanel &chosen, int returnCode) {
 /// Each reader closes the sheet at the end of its log; what comes later is not seen.
 std::vector<LogReport> GpsIntake::load(const std::vector<std::string> &names) {
     const ScopedFlag running(loadRunning_);
+    context_.commitEditing(); // what is half typed is no part of this step
     const UndoGroup group(context_, "Load GPS Data");
     const std::string count = std::to_string(names.size());
     std::vector<LogReport> reports;

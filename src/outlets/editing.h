@@ -14,15 +14,19 @@ public:
     using EndEditing = std::function<bool()>;
 
     [[nodiscard]] Connection addEditor(EndEditing endEditing) {
-        return asked_.connect([end = std::move(endEditing)](bool &fine) { fine = fine && end(); });
+        return asked_.connect([end = std::move(endEditing)](bool &fine) { fine = end() && fine; });
     }
 
-    /// Asks all editors, in the order in which they came, until one refuses: then false.
+    /// Asks all editors, in the order in which they came; false when one has refused.
     bool commitEditing() const {
         bool fine = true;
         asked_.emit(fine);
+        ended.emit(fine);
         return fine;
     }
+
+    /// All have been asked; false: some of what was typed is unfit.
+    Signal<bool> ended;
 
 private:
     Signal<bool &> asked_;

@@ -122,6 +122,7 @@ void PhotoIntake::load(const std::vector<std::string> &paths, const Take &take) 
 
 void PhotoIntake::takeAll(const std::vector<std::string> &paths, const Take &take) {
     const ScopedFlag running(loadRunning_);
+    context_.commitEditing(); // what is half typed is no part of this step
     const UndoGroup group(context_, "Add Photos");
     const std::size_t tracksBefore = context_.count<track>();
     photos_.clearReport();

@@ -6,11 +6,13 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QStandardPaths>
+#include <QThread>
 #include <QTimer>
 
+#include <mutex>
+#include <thread>
 #include <utility>
 
-#include "platform/end_of_turn.h"
 #include "platform/file_lock.h"
 #include "platform/instance_message.h"
 
@@ -20,6 +22,8 @@ namespace {
 constexpr char confirmation = '+';
 /// A message comes at once, or its sender is stuck.
 constexpr std::chrono::seconds patience{5};
+/// Between two looks at a program that has the lock and does not listen yet.
+constexpr std::chrono::milliseconds pause{50};
 
 /// In the folder that the system keeps for the person alone, so that nobody else can put a socket
 /// of that name there.
@@ -30,26 +34,53 @@ QString socketPath(const std::string &name) {
 
 } // namespace
 
-/// Reads what comes in on each connection and confirms it.
+/// Reads what comes in on each connection and confirms it, on a thread of its own.
 class InstanceChannel::Server {
 public:
     Server(const std::string &name, Received received)
-        : path_(socketPath(name)), received_(std::move(received)) {
-        server_.setSocketOptions(QLocalServer::UserAccessOption);
-        QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] {
-            while (QLocalSocket *const socket = server_.nextPendingConnection()) {
-                attend(*socket);
-            }
-        });
+        : path_(socketPath(name)), received_(std::move(received)) {}
+    ~Server() { stop(); }
+    Server(const Server &) = delete;
+    Server &operator=(const Server &) = delete;
+
+    std::error_code lock() {
+        if (lock_.isHeld()) {
+            return {};
+        }
+        if (path_.isEmpty()) {
+            return std::make_error_code(std::errc::no_such_file_or_directory);
+        }
+        const QString lock = path_ + QLatin1String(".lock");
+        return lock_.acquire(QFile::encodeName(lock).toStdString());
     }
 
     bool listen() {
-        const QString lock = path_ + QLatin1String(".lock");
-        if (path_.isEmpty() || lock_.acquire(QFile::encodeName(lock).toStdString())) {
-            return false;
+        auto *const server = new QLocalServer;
+        server->setSocketOptions(QLocalServer::UserAccessOption);
+        QObject::connect(server, &QLocalServer::newConnection, server, [this, server] {
+            while (QLocalSocket *const socket = server->nextPendingConnection()) {
+                attend(*socket);
+            }
+        });
+        server->moveToThread(&thread_);
+        QObject::connect(&thread_, &QThread::finished, server, &QObject::deleteLater);
+        thread_.start();
+        bool listens = false;
+        const auto begin = [this, server] {
+            QLocalServer::removeServer(path_); // nobody listens there who does not hold the lock
+            return server->listen(path_);
+        };
+        QMetaObject::invokeMethod(server, begin, Qt::BlockingQueuedConnection, &listens);
+        if (!listens) {
+            stop();
         }
-        QLocalServer::removeServer(path_); // nobody listens there who does not hold the lock
-        return server_.listen(path_);
+        return listens;
+    }
+
+    std::vector<std::vector<std::string>> stop() {
+        thread_.quit();
+        thread_.wait();
+        return takeConfirmed();
     }
 
 private:
@@ -71,19 +102,27 @@ private:
         QObject::connect(&socket, &QLocalSocket::readyRead, &socket, take);
     }
 
-    /// The files are dealt with in a turn of their own: that may take long, and the other program
-    /// must not wait for it.
+    /// What is confirmed is kept before, so that it cannot get lost.
     void confirm(QLocalSocket &socket, std::vector<std::string> paths) {
         QObject::disconnect(&socket, &QLocalSocket::readyRead, nullptr, nullptr);
+        {
+            const std::scoped_lock guard(mutex_);
+            confirmed_.push_back(std::move(paths));
+        }
+        QMetaObject::invokeMethod(
+            &receiver_, [this] { deliver(); }, Qt::QueuedConnection);
         socket.write(&confirmation, 1);
         socket.flush();
         socket.disconnectFromServer();
-        confirmed_.push_back(std::move(paths));
-        endOfTurn_.ask();
+    }
+
+    std::vector<std::vector<std::string>> takeConfirmed() {
+        const std::scoped_lock guard(mutex_);
+        return std::exchange(confirmed_, {});
     }
 
     void deliver() {
-        for (const auto &paths : std::exchange(confirmed_, {})) {
+        for (const auto &paths : takeConfirmed()) {
             received_(paths);
         }
     }
@@ -91,18 +130,38 @@ private:
     const QString path_;
     const Received received_;
     FileLock lock_;
-    std::vector<std::vector<std::string>> confirmed_;
-    EndOfTurn endOfTurn_{[this] { deliver(); }};
-    QLocalServer server_;
+    std::mutex mutex_;
+    std::vector<std::vector<std::string>> confirmed_; ///< guarded by mutex_
+    QObject receiver_;                                ///< on the thread of the channel
+    QThread thread_;
 };
 
 InstanceChannel::InstanceChannel(const std::string &name, Received received)
-    : server_(std::make_unique<Server>(name, std::move(received))) {}
+    : name_(name), server_(std::make_unique<Server>(name, std::move(received))) {}
 
 InstanceChannel::~InstanceChannel() = default;
 
+InstanceChannel::Start InstanceChannel::start(const std::vector<std::string> &paths,
+                                              std::chrono::milliseconds timeout) {
+    const QDeadlineTimer deadline(timeout);
+    while (server_->lock() == std::errc::operation_would_block) {
+        if (handOver(name_, paths, std::chrono::milliseconds(deadline.remainingTime()))) {
+            return Start::HandedOver;
+        }
+        if (deadline.hasExpired()) {
+            return Start::Stuck;
+        }
+        std::this_thread::sleep_for(pause);
+    }
+    return Start::Runs;
+}
+
 bool InstanceChannel::listen() {
-    return server_->listen();
+    return !server_->lock() && server_->listen();
+}
+
+std::vector<std::vector<std::string>> InstanceChannel::stop() {
+    return server_->stop();
 }
 
 bool InstanceChannel::handOver(const std::string &name, const std::vector<std::string> &paths,

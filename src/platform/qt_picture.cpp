@@ -6,6 +6,10 @@
 #include <QLoggingCategory>
 #include <QSize>
 
+#include <cstdarg>
+
+#include <dlfcn.h>
+
 #include "platform/file_descriptor.h"
 #include "platform/picture_fit.h"
 
@@ -15,10 +19,28 @@ namespace {
 /// Megabytes that one picture may take. Qt's own limit, 128, is below what cameras make.
 constexpr int largestPicture = 1024;
 
+/// libtiff, which raw files remind of TIFF, writes what it finds odd to standard error. Only Qt's
+/// plug-in is linked with it; where that brings its own copy, it goes on writing.
+void silenceTiff() {
+    using Handler = void (*)(const char *, const char *, std::va_list);
+    using SetHandler = Handler (*)(Handler);
+    QBuffer nothing;
+    QImageReader(&nothing, "tiff").canRead(); // has the plug-in loaded
+    for (const char *library : {"libtiff.so.6", "libtiff.so.5"}) {
+        void *const tiff = ::dlopen(library, RTLD_LAZY | RTLD_NOLOAD);
+        for (const char *name : {"TIFFSetWarningHandler", "TIFFSetErrorHandler"}) {
+            if (void *const found = tiff ? ::dlsym(tiff, name) : nullptr) {
+                reinterpret_cast<SetHandler>(found)(nullptr);
+            }
+        }
+    }
+}
+
 void prepareReaders() {
     static const bool prepared = [] {
         // They would write on standard error what they think of a damaged file.
         QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false"));
+        silenceTiff();
         QImageReader::setAllocationLimit(largestPicture);
         return true;
     }();

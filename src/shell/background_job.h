@@ -1,8 +1,8 @@
 #pragma once
 
 #include <functional>
-#include <future>
 #include <memory>
+#include <thread>
 
 class QObject;
 
@@ -16,20 +16,26 @@ public:
     using Outcome = std::function<void()>;
 
     BackgroundJob();
-    /// Waits for the work; its outcome is dropped.
+    /// Drops the outcome. Work that does not end in a moment is abandoned, as no file on a network
+    /// that hangs may keep the program from ending: it goes on with what `work` holds by itself, or
+    /// ends with the process.
     ~BackgroundJob();
     BackgroundJob(const BackgroundJob &) = delete;
     BackgroundJob &operator=(const BackgroundJob &) = delete;
 
-    bool isRunning() const { return running_.valid(); }
-    /// Begins; none may be running. The event loop deals with the outcome. `work` must not throw.
+    bool isRunning() const { return run_ != nullptr; }
+    /// Begins; none may be running. The event loop deals with the outcome. `work` must not throw,
+    /// nor use anything that may go before it ends.
     void start(std::function<Outcome()> work);
     /// Waits for the work that is running and deals with its outcome at once.
     void finish();
 
 private:
+    struct Run;
+
     std::unique_ptr<QObject> receiver_; ///< events to it die with it
-    std::future<Outcome> running_;      ///< waits when it is destroyed, while the receiver is there
+    std::shared_ptr<Run> run_;          ///< what the two threads share; null: none is running
+    std::thread thread_;
     unsigned started_ = 0;
 };
 

@@ -13,6 +13,7 @@
 #include "store/image_data.h"
 #include "store/library_arrays.h"
 #include "store/offset.h"
+#include "store/track_part.h"
 
 #include <algorithm>
 #include <iterator>
@@ -28,6 +29,7 @@ Inspector::Inspector(Context &context, NotificationCentre &notifications, Librar
       matching_(matching), renaming_(renaming), preview_(preview),
       tellMissing_(std::move(tellMissing)), endOfTurn_([this] { catchUp(); }) {
     context.addObserver(*this, {.entity = &image::description()});
+    context.addObserver(*this, {.entity = &track_part::description(), .values = false});
     for (Button *button : {&outlets.removePictButton, &outlets.removePictButton2}) {
         connections_.push_back(button->pressed.connect([this] { removePict(); }));
     }
@@ -116,11 +118,11 @@ void Inspector::showTitle() {
 /// The offset as the steppers show it.
 void Inspector::showCorrectedTime(const image &photo) {
     const offset *const stored = matching_.offsetObj.content();
-    if (!hasTrackData() || !photo.date() || !stored) {
-        return;
+    std::string text;
+    if (hasTrackData() && photo.date() && stored) {
+        LocalZone zone;
+        text = textFromDate(*correctedTime(photo, *stored), shownTimeFormat, zone);
     }
-    LocalZone zone;
-    const std::string text = textFromDate(*correctedTime(photo, *stored), shownTimeFormat, zone);
     matching_.offsetText.text.set(text);
     matching_.offsetText2.text.set(text);
 }
@@ -184,7 +186,24 @@ void Inspector::didChange(Record &record, std::string_view key) {
     }
 }
 
+void Inspector::didInsert(Record &record) {
+    if (&record.entity() == &track_part::description()) {
+        pointsChanged();
+    }
+}
+
+/// Points come and go by the million: only the first and the last matter.
+void Inspector::pointsChanged() {
+    if (hadTrackData_ != hasTrackData()) {
+        hadTrackData_ = !hadTrackData_;
+        endOfTurn_.ask();
+    }
+}
+
 void Inspector::didDelete(Record &record) {
+    if (&record.entity() == &track_part::description()) {
+        endOfTurn_.ask();
+    }
     if (&record == lastPictObjectWithLatLon_) {
         lastPictObjectWithLatLon_ = nullptr;
     }
@@ -197,10 +216,13 @@ void Inspector::catchUp() {
     }
     const std::vector<image *> &selected = arrays_.pictureArray.selectedObjects();
     showTitle();
+    hadTrackData_ = hasTrackData();
+    matching_.matchButton.enabled.set(!selected.empty() && hasTrackData());
     if (selected.size() != 1) {
         showMarkersOf(selected);
         return;
     }
+    showCorrectedTime(*selected.front());
     image &photo = *selected.front();
     const bool placed = photo.lat_and_lon();
     showMarkerButtons(placed ? "Remove Marker" : "Add Marker", placed ? 1 : 0);

@@ -91,7 +91,9 @@ public:
 
 private:
     void didChange(Record &record, std::string_view key) override;
+    void didInsert(Record &record) override;
     void didDelete(Record &record) override;
+    void pointsChanged();
 
     void catchUp();
     void showOne(image &photo);
@@ -120,6 +122,7 @@ private:
     image *lastPictObjectWithLatLon_ = nullptr;
     bool selectionStale_ = false; ///< it has changed and nobody has said so yet
     bool pictureStale_ = false;   ///< the selected photo has another file
+    bool hadTrackData_ = false;   ///< when the controls were last set
     EndOfTurn endOfTurn_;
     std::vector<Connection> connections_;
 };

@@ -76,6 +76,9 @@ void Inspector::imageFullView() {
     }
     std::error_code notReached;
     if (std::filesystem::exists(photo->full_file_path().string(), notReached)) {
+        if (arrays_.pictureArray.selectedObjects().size() > 1) {
+            preview_.dealWithPict(photo->full_file_path().string()); // of several, none is shown
+        }
         outlets_.fullView.makeKeyAndOrderFront();
     } else {
         tellMissing_(*photo);

@@ -1,11 +1,13 @@
 #include "shell/intake_notes.h"
 
-#include "outlets/quiet_bar.h"
+#include "gps/gps_intake.h"
+#include "gps/log_file_types.h"
+#include "gps/log_head.h"
 #include "persistence/undo_group.h"
 #include "photos/photo_intake.h"
 #include "photos/photo_types.h"
 #include "platform/defaults.h"
-#include "shell/intake_words.h"
+#include "shell/log_intake_adapter.h"
 #include "store/image.h"
 
 #include <algorithm>
@@ -18,19 +20,27 @@ namespace pinmora {
 
 namespace {
 
-void append(std::vector<std::string> &to, const std::vector<std::string> &from) {
+template <class T>
+void append(std::vector<T> &to, const std::vector<T> &from) {
     to.insert(to.end(), from.begin(), from.end());
 }
 
-/// Those of the photos with these serials (rising) whose file an earlier photo has already.
-std::vector<image *> doublesAmong(const Context &context,
-                                  const std::vector<std::uint32_t> &serials) {
-    std::vector<image *> doubles;
+struct Doubles {
+    std::vector<image *> photos; ///< their files are those of earlier photos
+    std::size_t among = 0;       ///< photos that were asked about and are there
+};
+
+/// Looks for doubles among the photos with these serials (rising).
+Doubles doublesAmong(const Context &context, const std::vector<std::uint32_t> &serials) {
+    Doubles doubles;
     std::unordered_set<std::string_view> files;
     for (image *photo : context.records<image>()) {
         const bool isFirst = files.insert(photo->full_file_path().view()).second;
-        if (!isFirst && std::binary_search(serials.begin(), serials.end(), photo->serial())) {
-            doubles.push_back(photo);
+        if (std::binary_search(serials.begin(), serials.end(), photo->serial())) {
+            ++doubles.among;
+            if (!isFirst) {
+                doubles.photos.push_back(photo);
+            }
         }
     }
     return doubles;
@@ -38,69 +48,105 @@ std::vector<image *> doublesAmong(const Context &context,
 
 } // namespace
 
-IntakeNotes::IntakeNotes(Context &context, PhotoIntake &photoIntake, PhotoTypes &types,
-                         Defaults &defaults, QuietBar &quietBar)
-    : context_(context), photoIntake_(photoIntake), types_(types), defaults_(defaults),
-      quietBar_(quietBar),
-      loaded_(photoIntake.loaded.connect(
-          [this](const IntakeReport &report, const std::vector<image *> &photos) {
-              tell(report, photos);
-          })) {}
+IntakeNotes::IntakeNotes(Context &context, GpsIntake &gpsIntake, PhotoIntake &photoIntake,
+                         const LogIntakeAdapter &logs, PhotoTypes &types, Defaults &defaults,
+                         QuietBar &quietBar)
+    : context_(context), photoIntake_(photoIntake), logs_(logs), types_(types), defaults_(defaults),
+      quietBar_(quietBar) {
+    connections_.push_back(gpsIntake.loaded.connect([this](const std::vector<LogReport> &reports) {
+        notLoaded_.logs = failedLogsToTell(reports);
+        tellOfNotLoaded();
+    }));
+    connections_.push_back(photoIntake.loaded.connect(
+        [this](const IntakeReport &report, const std::vector<image *> &photos) {
+            tell(report, photos);
+        }));
+}
 
 void IntakeNotes::tell(const IntakeReport &report, const std::vector<image *> &photos) {
-    PassedOver passedOver = std::exchange(left_, {});
-    append(passedOver.files, report.passedOver);
-    append(passedOver.files, report.logsNotAsked);
-    append(passedOver.files, report.logsPassedOver);
-    append(passedOver.folders, report.foldersInside);
+    if (!std::exchange(isChosen_, false)) {
+        passedOver_ = {};
+        notLoaded_ = {};
+        serials_.clear();
+    }
+    gather(report);
+    std::transform(photos.begin(), photos.end(), std::back_inserter(serials_),
+                   [](const image *photo) { return photo->serial(); });
+    tellOfPassedOver();
+    tellOfNotLoaded();
+    tellOfDoubles();
+}
+
+void IntakeNotes::gather(const IntakeReport &report) {
+    append(passedOver_.files, report.passedOver);
+    append(passedOver_.files, report.logsPassedOver);
+    append(passedOver_.folders, report.foldersInside);
+    for (const std::string &path : report.logsNotAsked) {
+        const bool isLog = looksLikeLog(path, LogReading::Tolerant);
+        (isLog ? passedOver_.logs : passedOver_.files).push_back(path);
+    }
     for (const LeftOutFile &file : report.leftOut) {
         if (file.why == WhyLeftOut::NoKnownType && types_.isMore(file.path)) {
-            passedOver.files.push_back(file.path);
+            passedOver_.files.push_back(file.path);
+        } else {
+            notLoaded_.files.push_back(file);
         }
     }
-    tellOfPassedOver(std::move(passedOver));
-    tellOfUnread(report);
-    tellOfDoubles(photos);
+    append(notLoaded_.folders, report.unreadFolders);
+    append(notLoaded_.logs, failedLogsToTell(logs_.reports()));
 }
 
-void IntakeNotes::tellOfPassedOver(PassedOver passedOver) {
-    const auto isMore = [this](const std::string &path) { return types_.isMore(path); };
-    BarMessage message{.subject = "left out",
-                       .head = "Left out:",
-                       .text = kindsText(passedOver.files, passedOver.folders.size(), isMore),
-                       .choices = {}};
-    if (std::any_of(passedOver.files.begin(), passedOver.files.end(), isMore)) {
-        message.choices.push_back(
-            {"Load Them Too", [this, passedOver] { loadMoreTypes(passedOver); }});
-    }
-    if (!passedOver.folders.empty()) {
-        message.choices.push_back({passedOver.folders.size() == 1 ? "Open Folder" : "Open Folders",
-                                   [this, passedOver] { openFolders(passedOver); }});
-    }
-    postOrWithdraw(std::move(message));
+void IntakeNotes::tellOfPassedOver() {
+    std::vector<std::string> files = passedOver_.files;
+    append(files, passedOver_.logs);
+    postOrWithdraw({.subject = "left out",
+                    .head = "Left out:",
+                    .text = kindsText(
+                        files, passedOver_.folders.size(),
+                        [this](const std::string &path) { return types_.isMore(path); },
+                        [this](std::string_view type) { return isLoadedExtension(type); }),
+                    .choices = choicesForPassedOver(),
+                    .dismissed = [this] { passedOver_ = {}; }});
 }
 
-void IntakeNotes::tellOfUnread(const IntakeReport &report) {
-    const auto isTold = [this](const LeftOutFile &file) {
-        return file.why != WhyLeftOut::NoKnownType || !types_.isMore(file.path);
-    };
+std::vector<BarMessage::Choice> IntakeNotes::choicesForPassedOver() {
+    constexpr std::size_t most = 2; // what is not offered is after one of these is taken
+    std::vector<BarMessage::Choice> choices;
+    if (std::any_of(passedOver_.files.begin(), passedOver_.files.end(),
+                    [this](const std::string &path) { return types_.isMore(path); })) {
+        choices.push_back({"Load Them Too", [this] { loadMoreTypes(); }});
+    }
+    if (!passedOver_.folders.empty()) {
+        choices.push_back({passedOver_.folders.size() == 1 ? "Open Folder" : "Open Folders",
+                           [this] { loadToo(std::exchange(passedOver_.folders, {})); }});
+    }
+    if (!passedOver_.logs.empty() && choices.size() < most) {
+        choices.push_back({"Load Logs", [this] { loadToo(std::exchange(passedOver_.logs, {})); }});
+    }
+    return choices;
+}
+
+void IntakeNotes::tellOfNotLoaded() {
     postOrWithdraw({.subject = "not loaded",
                     .head = "Not loaded:",
-                    .text = unreadText(report, isTold),
-                    .choices = {}});
+                    .text = notLoadedText(notLoaded_),
+                    .choices = {},
+                    .dismissed = [this] { notLoaded_ = {}; }});
 }
 
-void IntakeNotes::tellOfDoubles(const std::vector<image *> &photos) {
-    std::vector<std::uint32_t> serials;
-    std::transform(photos.begin(), photos.end(), std::back_inserter(serials),
-                   [](const image *photo) { return photo->serial(); });
-    const std::size_t doubles = doublesAmong(context_, serials).size();
+void IntakeNotes::tellOfDoubles() {
+    const Doubles doubles = doublesAmong(context_, serials_);
+    const std::size_t count = doubles.photos.size();
+    if (count == 0) {
+        serials_.clear();
+    }
     postOrWithdraw({.subject = "doubles",
-                    .head = doubles > 0 ? doublesText(doubles, photos.size()) : "",
-                    .text = doubles == 1  ? "It is in the list twice now."
-                            : doubles > 1 ? "They are in the list twice now."
-                                          : "",
-                    .choices = {{"Remove Doubles", [this, serials] { removeDoubles(serials); }}}});
+                    .head = count > 0 ? doublesText(count, doubles.among) : "",
+                    .text = count == 1  ? "It is in the list more than once now."
+                            : count > 1 ? "They are in the list more than once now."
+                                        : "",
+                    .choices = {{"Remove Doubles", [this] { removeDoubles(); }}},
+                    .dismissed = [this] { serials_.clear(); }});
 }
 
 void IntakeNotes::postOrWithdraw(BarMessage message) {
@@ -111,28 +157,34 @@ void IntakeNotes::postOrWithdraw(BarMessage message) {
     }
 }
 
-void IntakeNotes::loadMoreTypes(const PassedOver &passedOver) {
-    PassedOver rest{.files = {}, .folders = passedOver.folders};
+/// Whether files with this extension, in this case, load without more types.
+bool IntakeNotes::isLoadedExtension(std::string_view extension) const {
+    return types_.imageSupportDict().contains(extension) || gpsLogTypeTable().contains(extension);
+}
+
+void IntakeNotes::loadMoreTypes() {
+    std::vector<std::string> rest;
     std::vector<std::string> chosen;
-    std::partition_copy(passedOver.files.begin(), passedOver.files.end(),
-                        std::back_inserter(chosen), std::back_inserter(rest.files),
+    std::partition_copy(passedOver_.files.begin(), passedOver_.files.end(),
+                        std::back_inserter(chosen), std::back_inserter(rest),
                         [this](const std::string &path) { return types_.isMore(path); });
+    passedOver_.files = std::move(rest);
     types_.setMorePhotoTypes(true);
     defaults_.setText("morePhotoTypes", "1");
     defaults_.synchronize();
-    left_ = std::move(rest);
-    photoIntake_.loadToo(chosen);
+    loadToo(chosen);
 }
 
-void IntakeNotes::openFolders(const PassedOver &passedOver) {
-    left_ = {.files = passedOver.files, .folders = {}};
-    photoIntake_.loadToo(passedOver.folders);
+void IntakeNotes::loadToo(const std::vector<std::string> &paths) {
+    isChosen_ = true;
+    photoIntake_.loadToo(paths);
+    isChosen_ = false; // also when another load kept this one from beginning
 }
 
 /// What is a double is looked for anew: photos may have gone since, also the earlier ones.
-void IntakeNotes::removeDoubles(const std::vector<std::uint32_t> &serials) {
+void IntakeNotes::removeDoubles() {
     const UndoGroup group(context_, "Remove Doubles");
-    for (image *photo : doublesAmong(context_, serials)) {
+    for (image *photo : doublesAmong(context_, std::exchange(serials_, {})).photos) {
         context_.deleteObject(*photo);
     }
 }

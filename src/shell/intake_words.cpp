@@ -3,6 +3,7 @@
 #include "photos/file_names.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 
 namespace pinmora {
@@ -11,6 +12,7 @@ namespace {
 
 constexpr std::size_t mostKinds = 5; ///< as many as fit into a line
 constexpr std::size_t mostNames = 2;
+constexpr std::size_t mostLogs = 5; ///< their names stand alone
 
 struct Kind {
     std::string name; ///< ".heic"; "" for files without an extension
@@ -18,20 +20,32 @@ struct Kind {
     bool isFirst = false;
 };
 
-std::string kindOf(const std::string &path) {
-    std::string kind(pathExtension(path));
-    std::transform(kind.begin(), kind.end(), kind.begin(), [](char letter) {
+std::string inLowerCase(std::string_view text) {
+    std::string lower(text);
+    std::transform(lower.begin(), lower.end(), lower.begin(), [](char letter) {
         return static_cast<char>(letter >= 'A' && letter <= 'Z' ? letter - 'A' + 'a' : letter);
     });
-    return kind.empty() ? kind : "." + kind;
+    return lower;
+}
+
+std::string kindOf(const std::string &path, const std::function<bool(std::string_view)> &loads) {
+    const std::string_view spelled = pathExtension(path);
+    if (spelled.empty()) {
+        return {};
+    }
+    const std::string lower = inLowerCase(spelled);
+    const bool isMisspelled = !loads(spelled) && loads(lower);
+    return std::string(".").append(isMisspelled ? spelled : lower);
 }
 
 std::vector<Kind> kindsOf(const std::vector<std::string> &files,
-                          const std::function<bool(const std::string &)> &first) {
+                          const std::function<bool(const std::string &)> &first,
+                          const std::function<bool(std::string_view)> &loads) {
     std::map<std::string, Kind> byName;
     for (const std::string &file : files) {
-        Kind &kind = byName[kindOf(file)];
-        kind.name = kindOf(file);
+        const std::string name = kindOf(file, loads);
+        Kind &kind = byName[name];
+        kind.name = name;
         ++kind.count;
         kind.isFirst = kind.isFirst || first(file);
     }
@@ -54,6 +68,44 @@ std::string joined(const std::vector<std::string> &parts, std::string_view betwe
     return text;
 }
 
+/// Leaves the first `most`, and tells of the others by their number; one alone stays.
+void shorten(std::vector<std::string> &parts, std::size_t most) {
+    if (parts.size() > most + 1) {
+        const std::size_t more = parts.size() - most;
+        parts.resize(most);
+        parts.push_back("and " + std::to_string(more) + " more");
+    }
+}
+
+std::string reasonText(const LogReport &log) {
+    switch (log.error) {
+    case LogError::MalformedGpx:
+        return log.points == 0 ? "damaged GPX"
+                               : "damaged GPX; " + counted(log.points, "point", "points") +
+                                     " before the damage came in";
+    case LogError::NotALog:
+        return "neither GPX nor NMEA";
+    case LogError::Unreadable:
+    case LogError::None:
+        break;
+    }
+    return "not to be read";
+}
+
+std::string nameOf(const LogReport &log) {
+    return log.path.filename().native();
+}
+
+std::string logsText(const std::vector<LogReport> &logs) {
+    if (logs.size() == 1) {
+        return nameOf(logs.front()) + ": " + reasonText(logs.front());
+    }
+    std::vector<std::string> names;
+    std::transform(logs.begin(), logs.end(), std::back_inserter(names), nameOf);
+    shorten(names, mostLogs);
+    return joined(names, ", ");
+}
+
 } // namespace
 
 std::string counted(std::size_t count, std::string_view one, std::string_view many) {
@@ -61,10 +113,11 @@ std::string counted(std::size_t count, std::string_view one, std::string_view ma
 }
 
 std::string kindsText(const std::vector<std::string> &files, std::size_t folders,
-                      const std::function<bool(const std::string &)> &first) {
+                      const std::function<bool(const std::string &)> &first,
+                      const std::function<bool(std::string_view)> &loads) {
     std::vector<std::string> parts;
     std::size_t others = 0;
-    for (const Kind &kind : kindsOf(files, first)) {
+    for (const Kind &kind : kindsOf(files, first, loads)) {
         if (kind.name.empty() || parts.size() >= mostKinds) {
             others += kind.count;
         } else {
@@ -81,23 +134,30 @@ std::string kindsText(const std::vector<std::string> &files, std::size_t folders
     return joined(parts, ", ");
 }
 
-std::string unreadText(const IntakeReport &report,
-                       const std::function<bool(const LeftOutFile &)> &isTold) {
+std::string notLoadedText(const NotLoaded &notLoaded) {
     std::vector<std::string> parts;
-    for (const UnreadFolder &folder : report.unreadFolders) {
+    for (const UnreadFolder &folder : notLoaded.folders) {
         parts.push_back(splitPath(folder.path).name + ": " + folder.error.message());
     }
-    for (const LeftOutFile &file : report.leftOut) {
-        if (isTold(file)) {
-            parts.push_back(splitPath(file.path).name + ": " + std::string(reasonText(file.why)));
-        }
+    for (const LeftOutFile &file : notLoaded.files) {
+        parts.push_back(splitPath(file.path).name + ": " + std::string(reasonText(file.why)));
     }
-    if (parts.size() > mostNames + 1) {
-        const std::size_t more = parts.size() - mostNames;
-        parts.resize(mostNames);
-        parts.push_back("and " + std::to_string(more) + " more");
+    shorten(parts, mostNames);
+    if (!notLoaded.logs.empty()) {
+        parts.insert(parts.begin(), logsText(notLoaded.logs));
     }
     return joined(parts, "; ");
+}
+
+std::vector<LogReport> failedLogsToTell(const std::vector<LogReport> &logs) {
+    std::vector<LogReport> failed;
+    std::copy_if(logs.begin(), logs.end(), std::back_inserter(failed),
+                 [](const LogReport &log) { return log.failed(); });
+    if (failed.size() == 1 &&
+        failed.front().message.find(nameOf(failed.front())) != std::string::npos) {
+        failed.clear();
+    }
+    return failed;
 }
 
 std::string doublesText(std::size_t doubles, std::size_t loaded) {

@@ -41,9 +41,11 @@ void LogComparison::beginTrial() {
             untried.push_back(path);
         }
     }
-    if (!untried.empty() && untried != onTrial_) {
+    const LogReading reading = otherThan(gps_.reading());
+    if (!untried.empty() && (untried != onTrial_ || reading != trialReading_)) {
         onTrial_ = untried;
-        trial_.begin({untried.begin(), untried.end()}, otherThan(gps_.reading()));
+        trialReading_ = reading;
+        trial_.begin({untried.begin(), untried.end()}, reading);
     }
 }
 
@@ -116,6 +118,8 @@ void LogComparison::keep() {
 }
 
 void LogComparison::exchangeReadings() {
+    // What the trial under way finds is what those logs say in the reading now in force.
+    onTrial_.clear();
     std::erase_if(logs_, [](const auto &entry) { return !entry.second.isTried; });
     for (auto &[path, log] : logs_) {
         std::swap(log.inForce, log.other);

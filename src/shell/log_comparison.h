@@ -66,6 +66,7 @@ private:
     const bool &loadRunning_;
     std::map<std::string, Log, std::less<>> logs_; ///< by their paths
     std::vector<std::string> onTrial_;             ///< in the order of their results
+    LogReading trialReading_{};                    ///< under which these are read
     ReadingTrial trial_;
 };
 

@@ -3,13 +3,14 @@
 #include "gps/gps.h"
 #include "outlets/error_sheet.h"
 #include "outlets/progress_sheet.h"
+#include "persistence/change_observer.h"
 #include "persistence/undo_group.h"
 #include "store/track.h"
 #include "store/track_part.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <filesystem>
+#include <unordered_map>
 #include <utility>
 
 namespace pinmora {
@@ -24,31 +25,46 @@ struct LogTracks {
 /// The logs in the order of their first tracks. A log that was loaded twice is one.
 std::vector<LogTracks> logsOf(const Context &context) {
     std::vector<LogTracks> logs;
+    std::unordered_map<std::string, std::size_t> places;
     for (track *one : context.records<track>()) {
-        const std::string_view path = one->log_path().view();
+        std::string path = one->log_path().string();
         if (path.empty()) {
             continue;
         }
-        auto found = std::find_if(logs.begin(), logs.end(),
-                                  [path](const LogTracks &log) { return log.path == path; });
-        if (found == logs.end()) {
-            found = logs.insert(found, {std::string(path), {}});
+        const auto [place, isNew] = places.try_emplace(path, logs.size());
+        if (isNew) {
+            logs.push_back({std::move(path), {}});
         }
-        found->tracks.push_back(one);
+        logs[place->second].tracks.push_back(one);
     }
     return logs;
 }
 
+/// The records of an entity that come in while it lives. To look for them afterwards would be to
+/// walk the whole library, once for each log.
 template <class R>
-std::vector<R *> recordsSince(const Context &context, std::uint32_t serial) {
-    std::vector<R *> records;
-    for (R *record : context.records<R>()) {
-        if (record->serial() >= serial) {
-            records.push_back(record);
-        }
+class Newcomers : private ChangeObserver {
+public:
+    explicit Newcomers(Context &context) : context_(context) {
+        context_.addObserver(*this, {.entity = &R::description(), .values = false});
     }
-    return records;
-}
+    ~Newcomers() override { context_.removeObserver(*this); }
+    Newcomers(const Newcomers &) = delete;
+    Newcomers &operator=(const Newcomers &) = delete;
+
+    /// Those that are still there, in the order of their coming.
+    std::vector<R *> records() const {
+        std::vector<R *> present = came_;
+        std::erase_if(present, [](const R *record) { return record->isDeleted(); });
+        return present;
+    }
+
+private:
+    void didInsert(Record &record) override { came_.push_back(static_cast<R *>(&record)); }
+
+    Context &context_;
+    std::vector<R *> came_;
+};
 
 void deleteAll(Context &context, const auto &records) {
     for (auto *record : records) {
@@ -57,8 +73,7 @@ void deleteAll(Context &context, const auto &records) {
 }
 
 /// Points outside of tracks cannot be told from those that the log gave when it was first read.
-void deleteLonePoints(Context &context, std::uint32_t since) {
-    std::vector<track_part *> points = recordsSince<track_part>(context, since);
+void deleteLonePoints(Context &context, std::vector<track_part *> points) {
     std::erase_if(points, [](const track_part *point) { return point->track() != nullptr; });
     deleteAll(context, points);
 }
@@ -78,11 +93,12 @@ public:
         if (!std::filesystem::is_regular_file(log.path, notReached)) {
             return false;
         }
-        const std::uint32_t firstSerial = context_.nextSerial();
+        const Newcomers<track> tracks(context_);
+        const Newcomers<track_part> points(context_);
         gps_.beginLoad();
         const LogReport report = gps_.loadLog(log.path);
-        const auto made = recordsSince<track>(context_, firstSerial);
-        deleteLonePoints(context_, firstSerial);
+        const auto made = tracks.records();
+        deleteLonePoints(context_, points.records());
         if (report.failed() || made.empty()) {
             deleteAll(context_, made);
             return false;

@@ -113,7 +113,7 @@ private:
     bool isFullSize_ = false;
     bool isWanted_ = false; ///< asked for, and not being decoded yet
     QTimer patience_;
-    BackgroundJob job_; ///< last: its work ends before what it uses goes
+    BackgroundJob job_;
 };
 
 Preview::Preview(PreviewOutlets &outlets, PixelSize screen)

@@ -4,12 +4,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace pinmora {
 namespace {
 
-/// Pixels along the longer side. A file may claim any resolution.
+/// Pixels along the longer side, and pixels altogether. A file may claim any resolution.
 constexpr double longestSide = 32'000;
+constexpr double largestArea = 150e6;
 
 /// A resolution in pixels per inch, or a length in pixels.
 double numberIn(const PropertyDictionary &properties, std::string_view key, double fallback) {
@@ -17,10 +19,8 @@ double numberIn(const PropertyDictionary &properties, std::string_view key, doub
     return std::isfinite(number) && number > 0 ? number : fallback;
 }
 
-QSize roundedSize(double width, double height) {
-    const double excess = std::max(1.0, std::max(width, height) / longestSide);
-    return {std::max(1, static_cast<int>(std::lround(width / excess))),
-            std::max(1, static_cast<int>(std::lround(height / excess)))};
+int rounded(double length) {
+    return std::max(1, static_cast<int>(std::lround(length)));
 }
 
 } // namespace
@@ -54,19 +54,33 @@ AffineTransform imageTransform(const PropertyDictionary &properties) {
 
 QImage transformed(const QImage &image, const AffineTransform &transform) {
     const auto [a, b, c, d, tx, ty] = transform;
+    const PixelSize after = sizeAfter({image.width(), image.height()}, transform);
+    const QSize size(after.width, after.height);
     QImage turned;
-    QSize size;
     if (transform.isSideways()) {
-        size = roundedSize(image.height() * std::abs(c), image.width() * std::abs(b));
         // A quarter turn clockwise is b < 0 < c: anything else is mirrored beside it.
         turned = image.transformed(QTransform().rotate(90)).mirrored(c<0, b> 0);
     } else {
-        size = roundedSize(image.width() * std::abs(a), image.height() * std::abs(d));
         turned = image.mirrored(a < 0, d < 0);
     }
-    return size == turned.size()
+    return turned.isNull() || size == turned.size()
                ? turned
                : turned.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+PixelSize sizeAfter(PixelSize size, const AffineTransform &transform) {
+    const double along = transform.isSideways() ? transform.b : transform.a;
+    const double up = transform.isSideways() ? transform.c : transform.d;
+    double width = size.width * std::abs(along);
+    double height = size.height * std::abs(up);
+    if (transform.isSideways()) {
+        std::swap(width, height);
+    }
+    // What has been decoded is there: only stretching must not make more of it.
+    const double most = std::max(largestArea, 1.0 * size.width * size.height);
+    const double excess =
+        std::max({1.0, std::max(width, height) / longestSide, std::sqrt(width * height / most)});
+    return {rounded(width / excess), rounded(height / excess)};
 }
 
 PixelSize sizeBefore(PixelSize size, const AffineTransform &transform) {

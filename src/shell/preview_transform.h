@@ -27,8 +27,12 @@ struct AffineTransform {
 AffineTransform imageTransform(const PropertyDictionary &properties);
 
 /// The picture turned, mirrored and stretched like that; it lies at the origin again, wherever the
-/// transform would move it. One that would become unreasonably large is made smaller.
+/// transform would move it. Null where there is not the memory for it.
 QImage transformed(const QImage &image, const AffineTransform &transform);
+
+/// The size of a picture of that size when it is transformed. One that would be stretched to an
+/// unreasonable size is smaller.
+PixelSize sizeAfter(PixelSize size, const AffineTransform &transform);
 
 /// The size, as a picture lies, that becomes `size` when it is transformed.
 PixelSize sizeBefore(PixelSize size, const AffineTransform &transform);

@@ -68,6 +68,10 @@ void ReadingOffer::useOther() {
     if (loadRunning_) {
         return;
     }
+    if (!context_.commitEditing()) {
+        comparison_.compare(); // the choice has taken the offer off the bar
+        return;
+    }
     isOffered_ = false;
     const LogReading better = otherThan(gps_.reading());
     defaults_.setText("logReading", policyOf(better).name);

@@ -37,7 +37,7 @@ public:
 
     /// `ended` is called from the event loop of this thread.
     explicit ReadingTrial(Ended ended) : ended_(std::move(ended)) {}
-    /// Waits for the log that is being read.
+    /// The trial under way, if any, is dropped and never told of.
     ~ReadingTrial() { drop(); }
     ReadingTrial(const ReadingTrial &) = delete;
     ReadingTrial &operator=(const ReadingTrial &) = delete;

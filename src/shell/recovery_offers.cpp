@@ -45,10 +45,13 @@ std::string textOf(const RecoveryOffer &offer) {
 
 RecoveryOffers::RecoveryOffers(UnsavedWorkKeeper &keeper, QuietBar &bar, ErrorSheet &errors,
                                StatusLine &statusLine)
-    : keeper_(keeper), bar_(bar), errors_(errors), statusLine_(statusLine),
-      failed_(keeper.recorder().failed.connect([this](const std::string &reason) {
+    : keeper_(keeper), bar_(bar), errors_(errors), statusLine_(statusLine), tellFailure_([this] {
           errors_.present("Unsaved work is not being kept.",
-                          reason + " Save the library (File menu) to keep what you have done.");
+                          failure_ + ". Save the library (File menu) to keep what you have done.");
+      }),
+      failed_(keeper.recorder().failed.connect([this](const std::string &reason) {
+          failure_ = reason;
+          tellFailure_.ask(); // a step is being closed: nothing may be drawn, and so begun, now
       })) {}
 
 RecoveryOffers::~RecoveryOffers() {

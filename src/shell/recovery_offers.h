@@ -1,8 +1,10 @@
 #pragma once
 
 #include "outlets/signal.h"
+#include "platform/end_of_turn.h"
 #include "recovery/recovered_work.h"
 
+#include <string>
 #include <vector>
 
 namespace pinmora {
@@ -38,6 +40,8 @@ private:
     ErrorSheet &errors_;
     StatusLine &statusLine_;
     std::vector<RecoveryOffer> unwanted_; ///< there until the program ends
+    std::string failure_;
+    EndOfTurn tellFailure_;
     Connection failed_;
 };
 

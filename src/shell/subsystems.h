@@ -18,6 +18,7 @@
 #include "shell/intake_notes.h"
 #include "shell/library_counts.h"
 #include "shell/log_intake_adapter.h"
+#include "shell/offset_in_force.h"
 #include "shell/photo_order.h"
 #include "shell/preview.h"
 #include "shell/reading_offer.h"
@@ -25,6 +26,7 @@
 #include "shell/sample_outing.h"
 #include "shell/thumbnails.h"
 #include "shell/undo_commands.h"
+#include "shell/unfit_text.h"
 
 namespace pinmora {
 
@@ -49,10 +51,12 @@ struct Subsystems {
     GpsIntake gpsIntake;
     PhotoIntake photoIntake;
     MatchingOutlets matching;
+    OffsetInForce offsetInForce;
     ClockOffset clockOffset;
     Matcher matcher;
     CoordinateFields coordinates;
     DetailFields details;
+    UnfitText unfitText;
     PhotoGaps gaps;
     PhotoOrder photoOrder;
     LibraryCounts counts;

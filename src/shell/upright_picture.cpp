@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/decoded_picture.h"
 #include "platform/image_source.h"
@@ -40,6 +41,13 @@ std::optional<QImage> withoutBars(const QImage &thumbnail, const PropertyDiction
                           (thumbnail.height() - shown.height()) / 2, shown.width(), shown.height());
 }
 
+/// Null also where there was not the memory to turn it.
+std::optional<QImage> upright(const std::optional<QImage> &picture,
+                              const AffineTransform &transform) {
+    QImage turned = picture ? transformed(*picture, transform) : QImage();
+    return turned.isNull() ? std::nullopt : std::optional(std::move(turned));
+}
+
 std::optional<QImage> thumbnailInFile(const std::filesystem::path &file,
                                       const std::optional<ImageProperties> &properties, int side) {
     const auto thumbnail = properties ? embeddedThumbnail(file) : std::nullopt;
@@ -57,8 +65,7 @@ std::optional<QImage> uprightPicture(const std::filesystem::path &file,
     if (fit) {
         fit = sizeBefore(*fit, transform);
     }
-    const auto decoded = decodePicture(file, fit);
-    return decoded ? std::optional(transformed(*decoded, transform)) : std::nullopt;
+    return upright(decodePicture(file, fit), transform);
 }
 
 std::optional<QImage> uprightThumbnail(const std::filesystem::path &file, int side) {
@@ -69,8 +76,8 @@ std::optional<QImage> uprightThumbnail(const std::filesystem::path &file, int si
     if (!picture) {
         picture = decodePicture(file, sizeBefore(fit, transform));
     }
-    return picture ? std::optional(scaledWithin(transformed(*picture, transform), fit))
-                   : std::nullopt;
+    picture = upright(picture, transform);
+    return picture ? std::optional(scaledWithin(*picture, fit)) : std::nullopt;
 }
 
 } // namespace pinmora

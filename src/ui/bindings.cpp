@@ -27,6 +27,7 @@ void Bindings::tie(Button &button, QAction *action) {
 }
 
 void Bindings::show(TextField &field, QLabel *label) {
+    label->setTextFormat(Qt::PlainText);
     followVisibility(field, label);
     watch(field.text,
           [label](const std::string &text) { label->setText(QString::fromStdString(text)); });

@@ -13,6 +13,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QStackedLayout>
 #include <QToolButton>
@@ -56,10 +57,7 @@ ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing, std::function
     }));
     // A selection may change in the middle of a change of the library.
     bindings_.keep(outlets.pictureArray.selectionChanged.connect([this] { endOfTurn_.ask(); }));
-    bindings_.watch(outlets.offsetText.text, [this](const std::string &text) {
-        corrected_->setText(text.empty() ? QStringLiteral("–")
-                                         : QString::fromStdString(text).trimmed());
-    });
+    bindings_.keep(outlets.offsetText.text.onChange([this](const std::string &) { showTimes(); }));
     showTimes();
 }
 
@@ -127,10 +125,12 @@ void ClockPanel::addTimes(QVBoxLayout &column) {
 void ClockPanel::addActions(QVBoxLayout &column) {
     auto *row = new QHBoxLayout;
     row->setSpacing(spacing);
-    auto *set = new QPushButton(tr("Set From This Position"));
+    set_ = new QPushButton(tr("Set From This Position"));
+    QPushButton *const set = set_;
     set->setToolTip(tr("Finds the track point nearest to the photo's position and sets the clock "
                        "by its time"));
     bindings_.tie(outlets_.offsetButton, set);
+    bindings_.keep(outlets_.offsetButton.enabled.onChange([this](bool) { showTimes(); }));
     auto *unfold = new QToolButton;
     unfold->setText(tr("More"));
     unfold->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -193,17 +193,25 @@ QWidget *ClockPanel::makeMore(std::function<void()> find) {
     return more;
 }
 
+/// Only one photo's time, and one that the photo has told, says anything about the clock.
 void ClockPanel::showTimes() {
-    const image *const photo = outlets_.pictureArray.firstSelectedObject();
-    instead_->setCurrentWidget(photo ? times_ : chooseFirst_);
-    if (!photo) {
+    const std::vector<image *> &photos = outlets_.pictureArray.selectedObjects();
+    instead_->setCurrentWidget(photos.empty() ? chooseFirst_ : times_);
+    set_->setEnabled(photos.size() == 1 && outlets_.offsetButton.enabled.get());
+    if (photos.empty()) {
         return;
     }
-    if (photo->no_capture_time().value_or(false) || !photo->date()) {
-        taken_->setText(tr("not told by the photo"));
-    } else {
-        taken_->setText(QString::fromStdString(photo->time_string()).trimmed());
-    }
+    const image &photo = *photos.front();
+    const std::string &corrected = outlets_.offsetText.text.get();
+    const bool isTold = photo.date() && !photo.no_capture_time().value_or(false);
+    const bool isOne = photos.size() == 1;
+    taken_->setText(
+        !isOne    ? tr("%1 photos").arg(QLocale().toString(static_cast<qulonglong>(photos.size())))
+        : !isTold ? tr("not told by the photo")
+                  : QString::fromStdString(photo.time_string()).trimmed());
+    corrected_->setText(!isOne || !isTold || corrected.empty()
+                            ? QStringLiteral("–")
+                            : QString::fromStdString(corrected).trimmed());
 }
 
 } // namespace pinmora

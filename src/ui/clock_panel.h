@@ -8,6 +8,7 @@
 #include <functional>
 
 class QLabel;
+class QPushButton;
 class QStackedLayout;
 class QVBoxLayout;
 
@@ -42,6 +43,7 @@ private:
     QStackedLayout *instead_; ///< one of these two
     QLabel *taken_;
     QLabel *corrected_;
+    QPushButton *set_ = nullptr;
     QWidget *more_ = nullptr;
     EndOfTurn endOfTurn_;
     Bindings bindings_;

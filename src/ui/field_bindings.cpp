@@ -43,13 +43,16 @@ template <class Field>
 void tieFinishing(Field &field, FieldEdit *edit) {
     QObject::connect(edit, &FieldEdit::editingFinished, edit, [&field, edit] {
         field.finished.emit();
+        const int cursor = edit->cursorPosition();
+        edit->setText(edit->text()); // from here on, undo is the program's
+        edit->setCursorPosition(cursor);
         edit->setModified(false);
     });
     edit->setRevert([&field] { return revertEdited(field); });
 }
 
 QString hintFor(bool differs) {
-    return differs ? QObject::tr("Several different") : QString();
+    return differs ? QObject::tr("several") : QString();
 }
 
 } // namespace

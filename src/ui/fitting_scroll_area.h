@@ -2,19 +2,30 @@
 
 #include <QScrollArea>
 
+class QBoxLayout;
+
 namespace pinmora {
 
-/// Holds a widget at its own size as long as there is room, and scrolls it where there is not.
+/// Holds widgets beside each other as long as there is room, one below the other where there is
+/// not, and scrolls what is then too high.
 class FittingScrollArea : public QScrollArea {
     Q_OBJECT
 
 public:
-    explicit FittingScrollArea(QWidget *content, QWidget *parent = nullptr);
+    explicit FittingScrollArea(const QList<QWidget *> &widgets, QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void arrange();
+
+    QBoxLayout *row_;
+    QList<QWidget *> lines_; ///< between the widgets, while they are beside each other
+    int widthOfRow_ = 0;
 };
 
 } // namespace pinmora

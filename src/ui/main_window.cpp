@@ -19,8 +19,8 @@
 #include "ui/theme.h"
 #include "ui/track_panel.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QMenuBar>
 #include <QSplitter>
 #include <QTabWidget>
@@ -37,6 +37,8 @@ MainWindow::MainWindow(Pinmora_AppDelegate &delegate, MapPane::MakePage makePage
       makePage_(std::move(makePage)), actions_(this) {
     setObjectName(QStringLiteral("mainWindow"));
     setAcceptDrops(true);
+    const Appearance look = appearanceFrom(delegate.defaults);
+    applyColours(*qApp, look);
     actions_.fill(*menuBar());
     addToolBar();
     auto *surface = new QWidget;
@@ -51,13 +53,12 @@ MainWindow::MainWindow(Pinmora_AppDelegate &delegate, MapPane::MakePage makePage
     addLists();
     addTabs();
     setStatusBar(new LibraryStatus(parts_.counts, delegate.interface.statusLine));
-    fullView_ = new FullViewWindow(delegate.interface.fullView,
-                                   delegate.interface.preview.theImageViewLarge, parts_.preview);
-    addSheets();
     connectActions();
-    connectLooks();
+    connectLooks(look);
     restoreLayout();
+    applyStyleSheet(*qApp);
     followWindow();
+    addSheets();
     photos_->focusList();
 }
 
@@ -114,12 +115,10 @@ void MainWindow::addLists() {
 void MainWindow::addTabs() {
     tabs_ = new QTabWidget;
     tabs_->addTab(makePositionTab(), tr("Position"));
-    tabs_->addTab(new DetailsTab({.details = parts_.details,
-                                  .picture = delegate_.interface.preview.theImageView1,
-                                  .pictureLoading = parts_.preview.loading,
-                                  .rename = [this] { parts_.renaming.photoNameChange(); },
-                                  .fullSize = [this] { parts_.inspector.imageFullView(); }}),
-                  tr("Details"));
+    auto *details = new QWidget;
+    details->setLayout(new QVBoxLayout);
+    details->layout()->setContentsMargins(0, 0, 0, 0);
+    tabs_->addTab(details, tr("Details"));
     auto *frame = new QWidget;
     auto *column = new QVBoxLayout(frame);
     column->setContentsMargins(spacing + spacing / 2, spacing, spacing + spacing / 2, spacing);
@@ -128,47 +127,71 @@ void MainWindow::addTabs() {
     columns_->setStretchFactor(1, 1);
     TabView &shown = delegate_.interface.mainTabs;
     shown.selectedIdentifier.set("1");
-    connect(tabs_, &QTabWidget::currentChanged, this,
-            [&shown](int index) { shown.selectedIdentifier.set(std::to_string(index + 1)); });
+    connect(tabs_, &QTabWidget::currentChanged, this, [this, details, &shown](int index) {
+        if (index == 1 && details->layout()->isEmpty()) {
+            details->layout()->addWidget(makeDetailsTab());
+        }
+        shown.selectedIdentifier.set(std::to_string(index + 1));
+    });
     bindings_.watch(shown.selectedIdentifier, [this](const std::string &identifier) {
         tabs_->setCurrentIndex(identifier == "2" ? 1 : 0);
     });
 }
 
+QWidget *MainWindow::makeDetailsTab() {
+    return new DetailsTab({.details = parts_.details,
+                           .picture = delegate_.interface.preview.theImageView1,
+                           .pictureLoading = parts_.preview.loading,
+                           .rename = [this] { parts_.renaming.photoNameChange(); },
+                           .fullSize = [this] { parts_.inspector.imageFullView(); }});
+}
+
 QWidget *MainWindow::makePositionTab() {
-    auto *controls = new QWidget;
-    auto *row = new QHBoxLayout(controls);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(2 * spacing);
-    row->addWidget(new CoordinatePanel(parts_.coordinates, delegate_.interface.addRemoveMarker), 0,
-                   Qt::AlignTop);
-    row->addStretch(1);
-    auto *line = new QFrame;
-    line->setFrameShape(QFrame::VLine);
-    line->setFrameShadow(QFrame::Plain);
-    row->addWidget(line);
-    row->addWidget(new ClockPanel(parts_.matching, delegate_.editing,
-                                  [this] { parts_.matcher.guessFromLatLon(); }),
-                   0, Qt::AlignTop);
     auto *page = new QWidget;
     auto *column = new QVBoxLayout(page);
     column->setContentsMargins(spacing, spacing, spacing, spacing);
     column->addWidget(new MapPane(delegate_.interface.webView1, makePage_), 1);
-    column->addWidget(new FittingScrollArea(controls));
+    column->addWidget(new FittingScrollArea(
+        {new CoordinatePanel(parts_.coordinates, delegate_.interface.addRemoveMarker),
+         new ClockPanel(parts_.matching, delegate_.editing,
+                        [this] { parts_.matcher.guessFromLatLon(); })}));
     return page;
 }
 
+/// What is not seen at first is made when it is first needed, and finds its outlets as they are
+/// then.
 void MainWindow::addSheets() {
     const WidgetOf widgetOf = [this](const Window &window) -> QWidget * {
         return &window == &delegate_.interface.window ? this : nullptr;
     };
-    new ProgressDialog(delegate_.interface.progress, widgetOf, this);
-    new ErrorDialog(delegate_.interface.errors, widgetOf, this);
-    new QuitDialog(parts_.quitWarning, widgetOf, this);
-    new RenameDialog(parts_.renamingOutlets, parts_.renaming, delegate_.notifications, widgetOf,
-                     this);
+    const auto whenUp = [this](Sheet &sheet, std::function<SheetDialog *()> make) {
+        bindings_.watch(sheet.host(), [make = std::move(make), made = false](Window *host) mutable {
+            if (host && !std::exchange(made, true)) {
+                make()->showIfUp();
+            }
+        });
+    };
+    whenUp(delegate_.interface.progress.progressWindow, [this, widgetOf] {
+        return new ProgressDialog(delegate_.interface.progress, widgetOf, this);
+    });
+    whenUp(delegate_.interface.errors.errorWindow, [this, widgetOf] {
+        return new ErrorDialog(delegate_.interface.errors, widgetOf, this);
+    });
+    whenUp(parts_.quitWarning.quitWarning,
+           [this, widgetOf] { return new QuitDialog(parts_.quitWarning, widgetOf, this); });
+    whenUp(parts_.renamingOutlets.nameChange, [this, widgetOf] {
+        return new RenameDialog(parts_.renamingOutlets, parts_.renaming, delegate_.notifications,
+                                widgetOf, this);
+    });
     new OpenPanelDialog(parts_.photoIntake.panel, widgetOf, this);
     new OpenPanelDialog(parts_.gpsIntake.panel, widgetOf, this);
+    bindings_.watch(delegate_.interface.fullView.visible, [this](bool visible) {
+        if (visible && !fullView_) {
+            fullView_ =
+                new FullViewWindow(delegate_.interface.fullView,
+                                   delegate_.interface.preview.theImageViewLarge, parts_.preview);
+        }
+    });
 }
 
 void MainWindow::followWindow() {
@@ -178,6 +201,7 @@ void MainWindow::followWindow() {
     });
     bindings_.watch(window.visible, [this](bool visible) { setVisible(visible); });
     bindings_.keep(window.fronted.connect([this] {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
         show();
         raise();
         activateWindow();

@@ -62,9 +62,10 @@ private:
     void addLists();
     void addTabs();
     QWidget *makePositionTab();
+    QWidget *makeDetailsTab();
     void addSheets();
     void connectActions();
-    void connectLooks();
+    void connectLooks(Appearance inForce);
     void chooseLook(Appearance look);
     void followWindow();
     void restoreLayout();

@@ -3,8 +3,10 @@
 #include "platform/defaults.h"
 #include "shell/pinmora_app_delegate.h"
 #include "shell/subsystems.h"
+#include "ui/file_names.h"
 #include "ui/photo_panel.h"
 #include "ui/theme.h"
+#include "ui/undo_keys.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -16,6 +18,7 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QSplitter>
+#include <QStatusBar>
 
 #include <array>
 #include <utility>
@@ -37,6 +40,8 @@ constexpr std::array looks{
 std::string_view wordFor(Appearance look) {
     return look == Appearance::Light ? "light" : look == Appearance::Dark ? "dark" : "desktop";
 }
+
+constexpr int messageTime = 5'000; // ms
 
 /// Settings are texts.
 QByteArray storedBytes(const Defaults &defaults, std::string_view key) {
@@ -80,7 +85,11 @@ void MainWindow::connectActions() {
     };
     on(AddPhotos, [this] { parts_.photoIntake.menuLoadPhotos(); });
     on(LoadGpsData, [this] { parts_.gpsIntake.menuLoadGPSData(); });
-    on(SaveLibrary, [this] { delegate_.library.saveAction(); });
+    on(SaveLibrary, [this] {
+        if (delegate_.library.saveAction()) {
+            statusBar()->showMessage(tr("Library saved"), messageTime);
+        }
+    });
     on(Quit, [this] { quit(); });
     on(SelectAll, [this] { photos_->selectAll(); });
     on(FullSize, [this] { parts_.inspector.imageFullView(); });
@@ -96,6 +105,10 @@ void MainWindow::connectActions() {
                            tr("<h3>Pinmora</h3><p>Puts photographs on the map.</p><p>Your photos "
                               "are only ever read; what Pinmora writes are copies.</p>"));
     });
+    // Elsewhere the key means something else, or nothing.
+    actions_[RemovePictures]->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    photos_->addAction(actions_[RemovePictures]);
+    new UndoKeys(this);
     bindings_.tie(parts_.undoCommands.undoItem, actions_[Undo]);
     bindings_.tie(parts_.undoCommands.redoItem, actions_[Redo]);
     bindings_.tie(parts_.savePhotosButton, actions_[SavePhotos]);
@@ -119,9 +132,8 @@ void MainWindow::connectActions() {
     connect(filter, &QAction::toggled, only, &QAction::setChecked);
 }
 
-void MainWindow::connectLooks() {
+void MainWindow::connectLooks(Appearance inForce) {
     auto *group = new QActionGroup(this);
-    const Appearance inForce = appearanceFrom(delegate_.defaults);
     for (const auto &[name, look] : looks) {
         QAction *const action = actions_[name];
         group->addAction(action);
@@ -148,10 +160,11 @@ void MainWindow::changeEvent(QEvent *event) {
 void MainWindow::restoreLayout() {
     const QByteArray geometry = storedBytes(delegate_.defaults, geometryKey);
     if (geometry.isEmpty() || !restoreGeometry(geometry)) {
-        resize(QSize(1280, 800).boundedTo(screen()->availableSize()));
+        constexpr QSize frame(2, 38); // of a usual window manager: ours is known only later
+        resize(QSize(1280, 800).boundedTo(screen()->availableSize() - frame));
     }
     if (!columns_->restoreState(storedBytes(delegate_.defaults, columnsKey))) {
-        columns_->setSizes({520, 760});
+        columns_->setSizes({width() * 13 / 32, width() * 19 / 32});
     }
     if (!lists_->restoreState(storedBytes(delegate_.defaults, listsKey))) {
         lists_->setSizes({440, 170});
@@ -183,8 +196,8 @@ void MainWindow::dragLeaveEvent(QDragLeaveEvent *) {
 void MainWindow::dropEvent(QDropEvent *event) {
     std::vector<std::string> paths;
     for (const QUrl &url : event->mimeData()->urls()) {
-        if (url.isLocalFile()) {
-            paths.push_back(QFile::encodeName(url.toLocalFile()).toStdString());
+        if (std::string path = filePath(url); !path.empty()) {
+            paths.push_back(std::move(path));
         }
     }
     event->setDropAction(Qt::CopyAction);

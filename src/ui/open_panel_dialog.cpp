@@ -1,6 +1,8 @@
 #include "ui/open_panel_dialog.h"
 
 #include "outlets/open_panel.h"
+#include "ui/file_names.h"
+#include "ui/mount_points.h"
 #include "ui/theme.h"
 
 #include <QDialogButtonBox>
@@ -11,7 +13,6 @@
 #include <QHeaderView>
 #include <QPushButton>
 #include <QStandardPaths>
-#include <QStorageInfo>
 #include <QTreeView>
 #include <QUrl>
 
@@ -50,12 +51,8 @@ QList<QUrl> places() {
             places << folder;
         }
     }
-    for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) {
-        const QString path = volume.rootPath();
-        if (path.startsWith(QLatin1String("/media/")) || path.startsWith(QLatin1String("/mnt/")) ||
-            path.startsWith(QLatin1String("/run/media/"))) {
-            places << QUrl::fromLocalFile(path);
-        }
+    for (const std::string &point : mountPoints()) {
+        places << QUrl::fromLocalFile(QFile::decodeName(QByteArray::fromStdString(point)));
     }
     return places;
 }
@@ -140,7 +137,7 @@ void OpenPanelDialog::addFolderButton() {
 void OpenPanelDialog::answer(const QStringList &paths) {
     std::vector<std::string> names;
     for (const QString &path : paths) {
-        names.push_back(QFile::encodeName(path).toStdString());
+        names.push_back(filePath(path));
     }
     panel_.answer(std::move(names));
 }

@@ -185,9 +185,13 @@ void PhotoPanel::showCounts() {
                         : locale.toString(all));
     count_->setVisible(all > 0);
     onlyWithoutBox_->setVisible(all > 0);
+    const bool isFirst = all > 0 && empty_->isVisible();
     empty_->setVisible(all == 0);
     tablePage_->setVisible(all > 0);
     table_->setVisible(seen > 0);
+    if (isFirst) {
+        focusList(); // or the focus would go on to whatever comes next
+    }
     noneSeen_->setVisible(seen == 0);
 }
 

@@ -5,13 +5,18 @@
 #include "platform/scoped_flag.h"
 #include "shell/photo_order.h"
 #include "store/image.h"
+#include "store/track_part.h"
 #include "ui/photo_texts.h"
+
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
 
 namespace pinmora {
 namespace {
+
+constexpr std::size_t manyPoints = 100'000;
 
 bool sameMembers(const std::unordered_map<const image *, int> &known,
                  const std::vector<image *> &arranged) {
@@ -50,9 +55,22 @@ std::optional<int> PhotoTableModel::rowOf(const image *photo) const {
     return found == rowOf_.end() ? std::nullopt : std::optional(found->second);
 }
 
+/// Points by the million take a moment to be sorted: the first paint does not wait for that.
+std::optional<std::chrono::seconds> PhotoTableModel::gapOf(const image &photo) const {
+    if (!std::exchange(gapsAsked_, true) && context_.count<track_part>() > manyPoints) {
+        gapsShown_ = false;
+        QTimer::singleShot(0, this, [this] {
+            gapsShown_ = true;
+            gapsChanged_ = true;
+            following_.ask();
+        });
+    }
+    return gapsShown_ ? gaps_.gapOf(photo) : std::nullopt;
+}
+
 std::optional<std::chrono::seconds> PhotoTableModel::gapAt(int row) const {
     const image *const photo = photoAt(row);
-    return photo ? gaps_.gapOf(*photo) : std::nullopt;
+    return photo ? gapOf(*photo) : std::nullopt;
 }
 
 const char *PhotoTableModel::keyOf(Column column) {
@@ -101,26 +119,28 @@ QVariant PhotoTableModel::data(const QModelIndex &index, int role) const {
     case Qt::DisplayRole:
         return textAt(index.row(), column);
     case Qt::AccessibleTextRole: // the first column speaks for the row
-        return column == Name ? photo_texts::sentence(*photo, gaps_.gapOf(*photo))
+        return column == Name ? photo_texts::sentence(*photo, gapOf(*photo))
                               : textAt(index.row(), column);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue<Qt::Alignment>(
             Qt::AlignVCenter |
             (column == Gap || column == Altitude ? Qt::AlignRight : Qt::AlignLeft));
     case Qt::ToolTipRole:
-        if (column == Gap && gaps_.gapOf(*photo)) {
+        if (column == Gap && gapOf(*photo)) {
             return tr("Time from the photo to the nearest point of a track, with the camera clock "
                       "as it is set");
         }
-        return column == Name ? QVariant(QString::fromStdString(photo->full_file_path().string()))
-                              : QVariant();
+        return column == Name
+                   ? QVariant(
+                         QString::fromStdString(photo->full_file_path().string()).toHtmlEscaped())
+                   : QVariant();
     case SecondLine:
         return column == Position ? photo_texts::altitudeAndPlace(*photo)
                                   : photo_texts::taken(*photo);
     case FilePath:
         return QByteArray::fromStdString(photo->full_file_path().string());
     case IsFar:
-        return std::chrono::abs(gaps_.gapOf(*photo).value_or(std::chrono::seconds{})) > farGap;
+        return std::chrono::abs(gapOf(*photo).value_or(std::chrono::seconds{})) > farGap;
     default:
         return {};
     }
@@ -140,7 +160,7 @@ QString PhotoTableModel::textAt(int row, Column column) const {
     case Place:
         return photo_texts::place(photo);
     case Gap:
-        return photo_texts::gap(gaps_.gapOf(photo));
+        return photo_texts::gap(gapOf(photo));
     case Camera:
         return QString::fromStdString(photo.camera().string());
     case ColumnCount:

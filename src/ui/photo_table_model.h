@@ -68,6 +68,7 @@ private:
     void didChange(Record &record, std::string_view key) override;
     void didDelete(Record &record) override;
 
+    std::optional<std::chrono::seconds> gapOf(const image &photo) const;
     void follow();
     void takeRows(const std::vector<image *> &arranged);
     void moveRows(const std::vector<image *> &arranged);
@@ -81,9 +82,11 @@ private:
     std::vector<image *> rows_; ///< null: has gone
     std::unordered_map<const image *, int> rowOf_;
     std::unordered_set<const image *> changed_;
-    bool gapsChanged_ = false;
+    mutable bool gapsChanged_ = false;
+    mutable bool gapsShown_ = true;
+    mutable bool gapsAsked_ = false; ///< by a view
     bool isFollowing_ = false;
-    Unhurried following_;
+    mutable Unhurried following_;
     std::vector<Connection> connections_;
 };
 

@@ -11,6 +11,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace pinmora {
 
@@ -36,6 +37,12 @@ SheetDialog::SheetDialog(Sheet &sheet, WidgetOf widgetOf, std::function<void()> 
     bindings_.keep(sheet.madeKey.connect([this] { activateWindow(); }));
 }
 
+void SheetDialog::showIfUp() {
+    if (sheet_.isUp() && !isVisible()) {
+        follow(sheet_.host().get());
+    }
+}
+
 void SheetDialog::follow(Window *host) {
     hide();
     QWidget *const widget = host ? widgetOf_(*host) : nullptr;
@@ -44,6 +51,7 @@ void SheetDialog::follow(Window *host) {
         setParent(wanted, sheetFlags);
         setWindowModality(Qt::WindowModal);
     }
+    isNew_ = host != nullptr;
     if (host) {
         aboutToShow();
         fit();
@@ -64,6 +72,9 @@ void SheetDialog::fit() {
 /// person sees first must not be an empty frame.
 void SheetDialog::drawNow() {
     redrawDuringWork(true);
+    if (!std::exchange(isNew_, false)) {
+        return;
+    }
     QElapsedTimer waited;
     waited.start();
     while (isVisible() && windowHandle() && !windowHandle()->isExposed() &&
@@ -80,6 +91,7 @@ void SheetDialog::reject() {
 
 QLabel *SheetDialog::addText(std::optional<Role> role, const QString &text) {
     auto *label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText); // names of files, above all
     label->setWordWrap(true);
     if (role) {
         setRole(label, *role);

@@ -29,6 +29,9 @@ public:
     /// dialog while it is not up.
     SheetDialog(Sheet &sheet, WidgetOf widgetOf, std::function<void()> cancel, QWidget *owner);
 
+    /// For a dialog that has been made because its sheet is up.
+    void showIfUp();
+
     void reject() override;
 
 protected:
@@ -53,6 +56,7 @@ private:
     const std::function<void()> cancel_;
     QWidget *const owner_;
     QVBoxLayout *column_;
+    bool isNew_ = false; ///< it has come up and nobody has waited for it
 };
 
 } // namespace pinmora

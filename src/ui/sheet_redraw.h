@@ -7,4 +7,7 @@ namespace pinmora {
 /// times a second unless `at once`.
 void redrawDuringWork(bool atOnce = false);
 
+/// Whether that is being done: what is called then is called in the middle of long work.
+bool isRedrawingDuringWork();
+
 } // namespace pinmora

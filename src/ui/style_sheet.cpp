@@ -14,6 +14,10 @@ QMenuBar { background: @window; border-bottom: 1px solid @line; padding: 1px 4px
 QMenuBar::item { background: transparent; padding: 4px 8px; border-radius: 4px; }
 QMenuBar::item:selected, QMenuBar::item:pressed { background: @over; }
 QMenu { background: @content; border: 1px solid @line; padding: 3px; }
+QMenu::item { padding: 5px 24px 5px 28px; border-radius: 4px; }
+QMenu::item:selected { background: @accentGround; color: @text; }
+QMenu::item:disabled { color: @quiet; background: transparent; }
+QMenu::separator { background: @line; height: 1px; margin: 3px 6px; }
 QToolBar { background: @window; border: none; border-bottom: 1px solid @line;
     padding: 0 8px; spacing: 2px; }
 QToolBar::separator { background: @line; width: 1px; margin: 8px 10px; }

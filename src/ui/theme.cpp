@@ -76,8 +76,9 @@ QColor mixed(const QColor &a, const QColor &b, float shareOfB) {
 }
 
 double contrast(const QColor &a, const QColor &b) {
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
-    return (lighter + 0.05) / (darker + 0.05);
+    const double one = luminance(a) + 0.05;
+    const double other = luminance(b) + 0.05;
+    return std::max(one, other) / std::min(one, other);
 }
 
 QColor readable(QColor ink, std::initializer_list<QColor> grounds) {
@@ -125,7 +126,7 @@ Colours coloursFor(bool dark, const QColor &desktopAccent) {
     return c;
 }
 
-void applyTheme(QApplication &application, Appearance appearance) {
+void applyColours(QApplication &application, Appearance appearance) {
     // Only before the first style of one's own does the desktop's palette show through everywhere.
     const QPalette desktop = desktopPalette();
     const bool dark = appearance == Appearance::System
@@ -136,7 +137,15 @@ void applyTheme(QApplication &application, Appearance appearance) {
         QApplication::setStyle(QStringLiteral("Fusion"));
     }
     QApplication::setPalette(paletteIn(inForce()));
+}
+
+void applyStyleSheet(QApplication &application) {
     application.setStyleSheet(styleSheetIn(inForce()));
+}
+
+void applyTheme(QApplication &application, Appearance appearance) {
+    applyColours(application, appearance);
+    applyStyleSheet(application);
 }
 
 const Colours &colours() {

@@ -44,6 +44,11 @@ enum class Appearance { System, Light, Dark };
 /// one. To be called again when the desktop's look has changed (QEvent::ThemeChange).
 void applyTheme(QApplication &application, Appearance appearance);
 
+// Its two halves, for a start: widgets that are put together under a style sheet are styled anew
+// each time they are put into another, which would double the time until the window is up.
+void applyColours(QApplication &application, Appearance appearance);
+void applyStyleSheet(QApplication &application);
+
 /// The colours in force, by what applyTheme() was last called with.
 const Colours &colours();
 

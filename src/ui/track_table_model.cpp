@@ -120,6 +120,10 @@ QVariant TrackTableModel::headerData(int section, Qt::Orientation orientation, i
 }
 
 void TrackTableModel::didDelete(Record &record) {
+    if (&record.entity() != &track::description()) { // points go by the million
+        following_.ask();
+        return;
+    }
     for (Row &row : rows_) {
         if (row.one == &record) {
             row = {};

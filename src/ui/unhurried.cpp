@@ -1,22 +1,33 @@
 #include "ui/unhurried.h"
 
-#include <algorithm>
+#include "ui/sheet_redraw.h"
+
 #include <utility>
 
 namespace pinmora {
 
-using std::chrono::milliseconds;
 using Clock = std::chrono::steady_clock;
+
+namespace {
+
+constexpr std::chrono::milliseconds lookAgain{50};
+
+} // namespace
 
 Unhurried::Unhurried(std::function<void()> update) : update_(std::move(update)) {
     timer_.setSingleShot(true);
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { this->update(); });
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
+        if (isRedrawingDuringWork() && Clock::now() < next_) {
+            timer_.start(lookAgain);
+        } else {
+            this->update();
+        }
+    });
 }
 
 void Unhurried::ask() {
     if (!timer_.isActive()) {
-        timer_.start(
-            std::max(std::chrono::ceil<milliseconds>(next_ - Clock::now()), milliseconds::zero()));
+        timer_.start(0);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
 #include <QWebEngineHttpRequest>
+#include <QWebEngineLoadingInfo>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
@@ -68,7 +69,7 @@ WebMapView::WebMapView(MapView &view, QWidget *parent)
         browser_->stop();
         finish(false);
     });
-    connect(browser_, &QWebEngineView::loadFinished, this, &WebMapView::finish);
+    connect(page, &QWebEnginePage::loadingChanged, this, &WebMapView::loadingChanged);
     connect(browser_, &QWebEngineView::renderProcessTerminated, this, [this] {
         state_ = State::Loading;
         finish(false);
@@ -115,6 +116,15 @@ void WebMapView::run(const std::string &script) {
         waiting_.push_back(script);
     } else if (state_ == State::Loaded) {
         browser_->page()->runJavaScript(QString::fromStdString(script));
+    }
+}
+
+/// A load that is given up, for its time or for another load, is told of late: it may seem to be
+/// the end of that other one.
+void WebMapView::loadingChanged(const QWebEngineLoadingInfo &info) {
+    if (info.status() == QWebEngineLoadingInfo::LoadSucceededStatus ||
+        info.status() == QWebEngineLoadingInfo::LoadFailedStatus) {
+        finish(info.status() == QWebEngineLoadingInfo::LoadSucceededStatus);
     }
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+class QWebEngineLoadingInfo;
 class QWebEngineView;
 
 namespace pinmora {
@@ -33,6 +34,7 @@ private:
     void obey(const MapView::Command &command);
     void load(const PageRequest &request);
     void run(const std::string &script);
+    void loadingChanged(const QWebEngineLoadingInfo &info);
     void finish(bool ok);
 
     MapView &view_;

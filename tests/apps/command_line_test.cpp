@@ -22,6 +22,7 @@ private Q_SLOTS:
         QTest::newRow("relative") << Words{"a.jpg", "/b"} << Words{here + "a.jpg", "/b"};
         QTest::newRow("not UTF-8") << Words{"/\xE9.jpg"} << Words{"/\xE9.jpg"};
         QTest::newRow("like an option") << Words{"--", "-x.jpg"} << Words{here + "-x.jpg"};
+        QTest::newRow("empty") << Words{"", "/b"} << Words{"/b"};
         QTest::newRow("a mere dash") << Words{"-"} << Words{here + "-"};
     }
 

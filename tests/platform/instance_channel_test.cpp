@@ -94,6 +94,59 @@ private Q_SLOTS:
         QCOMPARE(socket.readAll(), QByteArray("+"));
     }
 
+    void busyProgramConfirms() {
+        std::vector<Paths> received;
+        InstanceChannel channel("busy", [&](const Paths &came) { received.push_back(came); });
+        QVERIFY(channel.listen());
+        // This thread's event loop stands still.
+        QVERIFY(InstanceChannel::handOver("busy", {"/a"}, 10s));
+        QVERIFY(InstanceChannel::handOver("busy", {"/b"}, 10s));
+        QVERIFY(received.empty());
+        QTRY_COMPARE(received, (std::vector<Paths>{{"/a"}, {"/b"}}));
+    }
+
+    void whatComesTooLateIsReturned() {
+        std::vector<Paths> received;
+        InstanceChannel channel("late", [&](const Paths &came) { received.push_back(came); });
+        QVERIFY(channel.listen());
+        QVERIFY(InstanceChannel::handOver("late", {"/a"}, 10s));
+        QCOMPARE(channel.stop(), std::vector<Paths>{{"/a"}});
+        QVERIFY(!InstanceChannel::handOver("late", {}, 1s));
+        QCoreApplication::processEvents();
+        QVERIFY(received.empty());
+        InstanceChannel next("late", [](const Paths &) {});
+        QCOMPARE(next.start({}, 100ms), InstanceChannel::Start::Stuck); // until that one is gone
+    }
+
+    /// Another starts between the lock of the first and its listening.
+    void startsMeet_data() {
+        QTest::addColumn<bool>("firstListens");
+        QTest::newRow("the first comes up") << true;
+        QTest::newRow("the first gives up") << false;
+    }
+
+    void startsMeet() {
+        QFETCH(bool, firstListens);
+        using Start = InstanceChannel::Start;
+        std::vector<Paths> received;
+        auto first = std::make_unique<InstanceChannel>(
+            "meet", [&](const Paths &came) { received.push_back(came); });
+        QCOMPARE(first->start({}, 10s), Start::Runs);
+        InstanceChannel second("meet", [](const Paths &) {});
+        QCOMPARE(second.start({"/a"}, 100ms), Start::Stuck);
+        auto result = std::async(std::launch::async, [&] { return second.start({"/a"}, 10s); });
+        if (firstListens) {
+            QVERIFY(first->listen());
+            QCOMPARE(result.get(), Start::HandedOver);
+            QTRY_COMPARE(received, std::vector<Paths>{{"/a"}});
+            QVERIFY(!second.listen());
+        } else {
+            first.reset();
+            QCOMPARE(result.get(), Start::Runs);
+            QVERIFY(second.listen());
+        }
+    }
+
     void onlyOneRuns() {
         int first = 0;
         auto running = std::make_unique<InstanceChannel>("two", [&](const Paths &) { ++first; });

@@ -176,6 +176,28 @@ private Q_SLOTS:
         }
     }
 
+    void theClockGoesOnAfterWorkIsBroughtBack() {
+        {
+            Desk desk;
+            desk.start();
+            desk.addPhoto("b", "2026:05:08 10:00:00");
+            desk.parts().matching.offsetObj.content()->setHours(2);
+            desk.endTurn();
+        }
+        Desk next;
+        next.start();
+        next.interface().quietBar.choose(0);
+        next.endTurn();
+        const auto hours = [&] {
+            const offset *const inForce = next.parts().matching.offsetObj.content();
+            return inForce ? inForce->hours().value_or(0) : -1;
+        };
+        QCOMPARE(hours(), 2);
+        next.parts().undoCommands.undoItem.press();
+        next.endTurn();
+        QCOMPARE(hours(), 0);
+    }
+
     void readsTheSystemsVersion_data() {
         QTest::addColumn<QByteArray>("version");
         QTest::addColumn<int>("minor");

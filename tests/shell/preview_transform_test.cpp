@@ -116,6 +116,27 @@ private Q_SLOTS:
         QVERIFY(strip.height() <= 32'000 && strip.width() >= 1);
     }
 
+    void noClaimedResolutionTakesAllMemory_data() {
+        QTest::addColumn<QSize>("stored");
+        QTest::addColumn<double>("orientation");
+        QTest::addColumn<QSize>("expected");
+        QTest::newRow("both sides") << QSize(20'000, 1000) << 1.0 << QSize(12'247, 12'247);
+        QTest::newRow("on its side") << QSize(20'000, 500) << 6.0 << QSize(8660, 17'321);
+        QTest::newRow("one side") << QSize(100, 5000) << 1.0 << QSize(32, 32'000);
+        QTest::newRow("within reason") << QSize(3000, 2000) << 6.0 << QSize(32'000, 2400);
+    }
+
+    /// The file says that its pixels are twenty times as high as wide.
+    void noClaimedResolutionTakesAllMemory() {
+        QFETCH(QSize, stored);
+        QFETCH(double, orientation);
+        const auto transform = imageTransform(properties(orientation, 2000, 100));
+        const PixelSize after = sizeAfter({stored.width(), stored.height()}, transform);
+        QTEST(QSize(after.width, after.height), "expected");
+        // One that is that large by itself stays as it is.
+        QCOMPARE(sizeAfter({20'000, 10'000}, {}).width, 20'000);
+    }
+
     void fitIsThatOfTheResult() {
         const auto before = [](double orientation, double dpiWidth, double dpiHeight) {
             const auto transform = imageTransform(properties(orientation, dpiWidth, dpiHeight));

@@ -107,6 +107,8 @@ private Q_SLOTS:
     void itComesInTheOrderOfLoading_data();
     void itComesInTheOrderOfLoading();
     void theWayBackIsOffered();
+    void theOfferIsUsedWhileAnotherLogIsOnTrial();
+    void unfitTextComesFirst();
     void whatIsKeptIsNotOfferedAgain();
     void logsThatHaveGoneAreNotOffered();
     void theEventLoopBringsIt();
@@ -179,6 +181,35 @@ void ReadingOfferTest::theWayBackIsOffered() {
     desk.bar.choose(0);
     QCOMPARE(tracksIn(desk.context), "1/a.gpx/exact/2");
     QCOMPARE(desk.defaults.text("logReading"), "exact");
+}
+
+void ReadingOfferTest::theOfferIsUsedWhileAnotherLogIsOnTrial() {
+    OfferDesk desk;
+    desk.loadLog("b.gpx", tenToEleven);
+    desk.loadPhoto("p.jpg", "13:01:00");
+    desk.said();
+    desk.loadLog("a.gpx", tenToEleven);
+    desk.bar.choose(0);
+    desk.loadLog("a.gpx", tenToEleven);
+    desk.loadPhoto("q.jpg", "10:01:00");
+    desk.loadPhoto("r.jpg", "11:01:00");
+    QVERIFY(desk.said().starts_with("a.gpx and 1 other log give their times in clock time."));
+}
+
+void ReadingOfferTest::unfitTextComesFirst() {
+    OfferDesk desk;
+    desk.loadLog("a.gpx", tenToEleven);
+    desk.loadPhoto("p.jpg", "13:01:00");
+    desk.said();
+    bool isFit = false;
+    desk.context.setEndEditing([&isFit] { return isFit; });
+    desk.bar.choose(0);
+    QCOMPARE(desk.gps.reading(), LogReading::Exact);
+    QCOMPARE(tracksIn(desk.context), "1/a.gpx/exact/2");
+    QCOMPARE(desk.said(), universal);
+    isFit = true;
+    desk.bar.choose(0);
+    QCOMPARE(tracksIn(desk.context), "1/a.gpx/tolerant/2");
 }
 
 void ReadingOfferTest::whatIsKeptIsNotOfferedAgain() {

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <fstream>
 
 #include "platform/tagged_photo.h"
 
@@ -120,6 +121,51 @@ private Q_SLOTS:
         QTRY_VERIFY(thumbnails.thumbnail(files[101]));
         QVERIFY(std::find(ready_.begin(), ready_.end(), files[50]) == ready_.end());
         QTRY_VERIFY(thumbnails.thumbnail(files[50]));
+    }
+
+    void anotherFileIsNoticed() {
+        Thumbnails thumbnails(160, 1U << 20U, std::chrono::milliseconds(0));
+        const Connection watch = watchReady(thumbnails);
+        const auto file = folder_.write("card.jpg", "not there yet");
+        const auto shown = [&] {
+            const Picture picture = thumbnails.thumbnail(file);
+            return picture ? described(*picture) : QByteArray("none");
+        };
+        std::filesystem::remove(file);
+        QCOMPARE(shown(), QByteArray("none"));
+        folder_.write("card.jpg", encoded(quarters(320, 160), "jpg"));
+        QTRY_COMPARE(shown(), QByteArray("160x80 RGBW"));
+        QVERIFY(!ready_.empty());
+        folder_.write("card.jpg", encoded(quarters(160, 320), "jpg"));
+        QTRY_COMPARE(shown(), QByteArray("80x160 RGBW"));
+        ready_.clear();
+        folder_.write("card.jpg", "no picture");
+        QTRY_COMPARE(shown(), QByteArray("none"));
+        QVERIFY(!ready_.empty());
+    }
+
+    void filesAtRestAreNotLookedAt_data() {
+        QTest::addColumn<int>("restTime"); // minutes
+        QTest::addColumn<bool>("isGone");
+        QTest::newRow("not asked for long enough ago") << 60 << false;
+        QTest::newRow("gone") << 0 << true;
+    }
+
+    void filesAtRestAreNotLookedAt() {
+        QFETCH(int, restTime);
+        QFETCH(bool, isGone);
+        Thumbnails thumbnails(160, 1U << 20U, std::chrono::minutes(restTime));
+        const auto files = writeMany(2);
+        QTRY_VERIFY(thumbnails.thumbnail(files[0]));
+        const Picture before = thumbnails.thumbnail(files[0]);
+        if (isGone) {
+            std::filesystem::remove(files[0]);
+        } else {
+            std::ofstream(files[0]) << "no picture";
+        }
+        thumbnails.thumbnail(files[0]);
+        QTRY_VERIFY(thumbnails.thumbnail(files[1])); // the work before has been done
+        QVERIFY(thumbnails.thumbnail(files[0]) == before);
     }
 
     void mayGoAtAnyTime() {

@@ -20,7 +20,8 @@ QString counts(const WindowDesk &desk) {
     return desk.window->statusBar()->findChild<QLabel *>(QStringLiteral("counts"))->text();
 }
 
-void drop(MainWindow &window, const QStringList &paths) {
+void drop(WindowDesk &desk, const QStringList &paths) {
+    MainWindow &window = *desk.window;
     QMimeData files;
     QList<QUrl> urls;
     for (const QString &path : paths) {
@@ -36,16 +37,16 @@ void drop(MainWindow &window, const QStringList &paths) {
     QDropEvent dropped(middle, Qt::CopyAction | Qt::MoveAction, &files, Qt::LeftButton,
                        Qt::NoModifier);
     QCoreApplication::sendEvent(&window, &dropped);
-    WindowDesk::settle();
+    desk.settle();
 }
 
 /// Drops the outing, changes a photo, and dies of it.
 [[noreturn]] void workAndDie() {
     WindowDesk desk;
-    drop(*desk.window, {outing});
+    drop(desk, {outing});
     desk.clickRow(1);
     desk.type("Latitude, decimal degrees", "46.5");
-    WindowDesk::settle();
+    desk.settle();
     desk.parts().unsavedWork.recorder().flush();
     std::raise(SIGKILL);
     std::abort();
@@ -74,7 +75,7 @@ private Q_SLOTS:
     void sampleOutingByItsLink() {
         WindowDesk desk;
         desk.button("Try it with the sample outing")->click();
-        WindowDesk::settle();
+        desk.settle();
         QCOMPARE(desk.photoTable()->model()->rowCount(), 8);
         QVERIFY(counts(desk).contains(QStringLiteral("8 photos")));
         QVERIFY(counts(desk).contains(QStringLiteral("3 tracks")));
@@ -112,7 +113,7 @@ private Q_SLOTS:
 
     void dropAndSelect() {
         WindowDesk desk;
-        drop(*desk.window, {outing});
+        drop(desk, {outing});
         QCOMPARE(desk.context().count<image>(), 8U);
         QVERIFY(!desk.parts().photoIntake.theBorder1.hasShadow.get());
         desk.clickRow(1);
@@ -125,10 +126,10 @@ private Q_SLOTS:
         QVERIFY(desk.named<QLineEdit>("Latitude, decimal degrees")->isEnabled());
         QVERIFY(!desk.named<QLineEdit>("Latitude, seconds")->isEnabled());
         desk.action(ActionName::RemovePictures)->trigger();
-        WindowDesk::settle();
+        desk.settle();
         QCOMPARE(desk.photoTable()->model()->rowCount(), 5);
         desk.action(ActionName::Undo)->trigger();
-        WindowDesk::settle();
+        desk.settle();
         QCOMPARE(desk.photoTable()->model()->rowCount(), 8);
     }
 
@@ -148,7 +149,7 @@ private Q_SLOTS:
     void coordinatesInEachNotation() {
         QFETCH(QList<QByteArray>, typed);
         WindowDesk desk;
-        drop(*desk.window, {outing});
+        drop(desk, {outing});
         desk.clickRow(1);
         desk.type("Latitude, decimal degrees", "47");
         desk.type("Longitude, decimal degrees", "8.5");
@@ -163,7 +164,7 @@ private Q_SLOTS:
 
     void unfitCoordinateStaysAndSaysWhy() {
         WindowDesk desk;
-        drop(*desk.window, {outing});
+        drop(desk, {outing});
         desk.clickRow(1);
         desk.type("Latitude, decimal degrees", "95");
         QCOMPARE(desk.photo(1).lat().string(), std::string());
@@ -173,9 +174,52 @@ private Q_SLOTS:
         QCOMPARE(field->text(), QString());
     }
 
+    /// A field that has nothing of its own to take back leaves the keys to the program.
+    void undoKeyWorksInAField() {
+        WindowDesk desk;
+        drop(desk, {outing});
+        desk.clickRow(1);
+        desk.type("Latitude, decimal degrees", "46.9");
+        desk.settle();
+        QTest::keyClick(desk.named<QLineEdit>("Latitude, decimal degrees"), Qt::Key_Z,
+                        Qt::ControlModifier);
+        QCOMPARE(desk.photo(1).lat().string(), std::string());
+    }
+
+    void unfitTextOnTheHiddenTabIsShown() {
+        WindowDesk desk;
+        drop(desk, {outing});
+        desk.clickRow(1);
+        desk.action(ActionName::ShowDetails)->trigger();
+        desk.settle();
+        desk.type("Altitude in metres", "high");
+        desk.action(ActionName::ShowPosition)->trigger();
+        desk.window->close();
+        QVERIFY(!desk.sheet());
+        QCOMPARE(desk.interface().mainTabs.selectedIdentifier.get(), std::string("2"));
+        QVERIFY(desk.interface().quietBar.message());
+        QTest::keyClick(desk.named<QLineEdit>("Altitude in metres"), Qt::Key_Escape);
+        QVERIFY(desk.delegate.editing.commitEditing());
+        QVERIFY(!desk.interface().quietBar.message());
+    }
+
+    void damagedLibraryIsToldAtTheStart() {
+        const std::filesystem::path folder =
+            qEnvironmentVariable("XDG_DATA_HOME").toStdString() + "/Pinmora";
+        std::filesystem::create_directories(folder);
+        std::ofstream(folder / "Pinmora.xml") << "<pinmora";
+        WindowDesk desk;
+        QVERIFY(desk.sheet());
+        QTest::keyClick(desk.sheet(), Qt::Key_Return);
+        QVERIFY(!desk.sheet());
+        desk.action(ActionName::SaveLibrary)->trigger(); // and the next one as well
+        QVERIFY(desk.sheet());
+        desk.sheet()->close();
+    }
+
     void renameBySheet() {
         WindowDesk desk;
-        drop(*desk.window, {outing});
+        drop(desk, {outing});
         desk.clickRow(1);
         desk.action(ActionName::Rename)->trigger();
         QVERIFY(!desk.button("Rename Selected")->isEnabled());
@@ -186,30 +230,31 @@ private Q_SLOTS:
         QVERIFY(!desk.sheet());
         QCOMPARE(desk.photo(1).image_name().string(), std::string("trip_1"));
         QCOMPARE(desk.photo(0).image_name().string(), std::string("IMG_0371"));
-        WindowDesk::settle();
+        desk.settle();
         QVERIFY(desk.window->windowTitle().contains(QStringLiteral("trip_1")));
     }
 
     void applyAndUndo() {
         WindowDesk desk;
-        drop(*desk.window, {outing});
+        drop(desk, {outing});
         QVERIFY(desk.action(ActionName::ApplyToAll)->isEnabled());
         desk.action(ActionName::ApplyToAll)->trigger();
         QVERIFY(!desk.sheet());
         for (const image *photo : desk.context().records<image>()) {
             QVERIFY(photo->lat_and_lon());
         }
-        WindowDesk::settle();
+        desk.settle();
         QVERIFY(counts(desk).contains(QStringLiteral("8 with a position")));
         desk.action(ActionName::Undo)->trigger();
-        WindowDesk::settle();
+        desk.settle();
         QVERIFY(counts(desk).contains(QStringLiteral("1 with a position")));
     }
 
     void detailsGoToAllSelected() {
         WindowDesk desk;
-        drop(*desk.window, {outing});
+        drop(desk, {outing});
         desk.action(ActionName::ShowDetails)->trigger();
+        desk.settle();
         desk.clickRow(1);
         desk.clickRow(2, Qt::ControlModifier);
         desk.type("City", "Zug");
@@ -227,7 +272,7 @@ private Q_SLOTS:
         QCOMPARE(desk.context().count<image>(), 0U);
         QVERIFY(desk.button("Bring Back"));
         desk.button("Bring Back")->click();
-        WindowDesk::settle();
+        desk.settle();
         QCOMPARE(desk.photoTable()->model()->rowCount(), 8);
         QCOMPARE(desk.photo(1).lat().string(), std::string("46.5"));
         QCOMPARE(desk.context().count<track_part>(), 1259U);
@@ -236,7 +281,7 @@ private Q_SLOTS:
 
     void quitsAtOnceWithoutChanges() {
         WindowDesk desk;
-        drop(*desk.window, {outing});
+        drop(desk, {outing});
         QTimer::singleShot(0, desk.window.get(), [&] { desk.window->close(); });
         QCOMPARE(QApplication::exec(), 0);
         QVERIFY(!desk.sheet());
@@ -244,7 +289,7 @@ private Q_SLOTS:
 
     void quitAsksAboutChanges() {
         WindowDesk desk;
-        drop(*desk.window, {outing});
+        drop(desk, {outing});
         desk.clickRow(1);
         desk.type("Latitude, decimal degrees", "47");
         desk.window->close();
@@ -257,7 +302,7 @@ private Q_SLOTS:
 
     void fitsASmallScreen() {
         WindowDesk desk({960, 540});
-        drop(*desk.window, {outing});
+        drop(desk, {outing});
         desk.clickRow(1);
         QVERIFY(desk.window->width() <= 960 && desk.window->height() <= 540);
         QVERIFY(desk.photoTable()->isVisible());

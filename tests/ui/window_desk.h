@@ -3,7 +3,6 @@
 #include "shell/desk.h"
 #include "ui/main_window.h"
 #include "ui/photo_table.h"
-#include "ui/theme.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -15,18 +14,26 @@
 /// The program with its main window, driven as a person would.
 struct WindowDesk : Desk {
     explicit WindowDesk(QSize size = {1280, 800}) {
-        pinmora::applyTheme(*qApp, pinmora::Appearance::Light);
         start();
         window = std::make_unique<pinmora::MainWindow>(delegate, nullptr);
         window->resize(size);
         quitting = delegate.terminate.connect([this] { window->quit(); });
-        static_cast<void>(QTest::qWaitForWindowExposed(window.get()));
+        window->activateWindow();
+        static_cast<void>(QTest::qWaitForWindowActive(window.get()));
     }
 
-    /// What an action has left for the turns of the event loop after it.
-    static void settle() {
+    /// What an action has left for the turns of the event loop after it. The list follows a load
+    /// when there is time.
+    void settle() {
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
+        const bool followed = QTest::qWaitFor([this] {
+            return photoTable()->model()->rowCount() ==
+                   static_cast<int>(parts().arrays.pictureArray.count());
+        });
+        if (!followed) {
+            qFatal("the list does not follow the library");
+        }
     }
     QAction *action(pinmora::ActionName name) const { return window->action(name); }
     /// What is shown to assistive technology by this name; it must be there, and to be seen.
@@ -57,7 +64,7 @@ struct WindowDesk : Desk {
         QTest::keyClick(edit, Qt::Key_Return);
     }
     QTableView *photoTable() const { return window->findChild<pinmora::PhotoTable *>(); }
-    void clickRow(int row, Qt::KeyboardModifiers keys = Qt::NoModifier) const {
+    void clickRow(int row, Qt::KeyboardModifiers keys = Qt::NoModifier) {
         QTableView *const table = photoTable();
         QTest::mouseClick(table->viewport(), Qt::LeftButton, keys,
                           table->visualRect(table->model()->index(row, 0)).center());
