@@ -19,7 +19,7 @@ class Gps;
 class offset;
 class track;
 
-/// Tries the other reading of the logs that were loaded in this session, and judges the two by the
+/// Tries the other reading of the logs that were loaded in this run, and judges the two by the
 /// photos of the library. Logs that have left the library since, or stand in it under another
 /// reading than that in force, are forgotten.
 class LogComparison {
