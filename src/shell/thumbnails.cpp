@@ -49,7 +49,7 @@ public:
         if (const auto found = entries_.find(path); found != entries_.end()) {
             Entry &entry = found->second;
             uses_.splice(uses_.begin(), uses_, entry.use);
-            const Picture picture = entry.picture;
+            Picture picture = entry.picture;
             if (Clock::now() - entry.looked >= restTime_) {
                 entry.looked = Clock::now();
                 lookAgain(path);

@@ -32,8 +32,8 @@ QLabel *labelOf(Role role, const QString &text = {}) {
 
 } // namespace
 
-ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing, std::function<void()> find,
-                       QWidget *parent)
+ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing,
+                       const std::function<void()> &find, QWidget *parent)
     : QWidget(parent), outlets_(outlets),
       chooseFirst_(labelOf(Role::Quiet, tr("Choose a photo first."))), times_(new QWidget),
       instead_(new QStackedLayout), taken_(new QLabel), corrected_(labelOf(Role::Strong)),
@@ -44,7 +44,7 @@ ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing, std::function
     column->addWidget(labelOf(Role::Heading, tr("Camera clock")));
     addSteppers(*column);
     addTimes(*column);
-    more_ = makeMore(std::move(find));
+    more_ = makeMore(find);
     addActions(*column);
     column->addWidget(more_);
     column->addStretch();
@@ -149,7 +149,7 @@ void ClockPanel::addActions(QVBoxLayout &column) {
     column.addLayout(row);
 }
 
-QWidget *ClockPanel::makeMore(std::function<void()> find) {
+QWidget *ClockPanel::makeMore(const std::function<void()> &find) {
     auto *more = new QWidget;
     auto *grid = new QGridLayout(more);
     grid->setContentsMargins(0, 0, 0, 0);

@@ -26,14 +26,14 @@ class ClockPanel : public QWidget {
 public:
     /// The outlets and `editing` must outlive the panel. `find` looks for the track point nearest
     /// to the known position (Matcher::guessFromLatLon).
-    ClockPanel(MatchingOutlets &outlets, Editing &editing, std::function<void()> find,
+    ClockPanel(MatchingOutlets &outlets, Editing &editing, const std::function<void()> &find,
                QWidget *parent = nullptr);
 
 private:
     void addSteppers(QVBoxLayout &column);
     void addTimes(QVBoxLayout &column);
     void addActions(QVBoxLayout &column);
-    QWidget *makeMore(std::function<void()> find);
+    QWidget *makeMore(const std::function<void()> &find);
     void showTimes();
 
     MatchingOutlets &outlets_;
