@@ -22,7 +22,7 @@ std::optional<std::filesystem::path> onlyEntryLike(const std::filesystem::path &
     std::error_code error;
     for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
-        const std::string &bytes = entry->path().filename().native();
+        const std::string bytes = entry->path().filename().native();
         if (QFile::decodeName(QByteArray::fromStdString(bytes)) == name) {
             if (found) {
                 return std::nullopt;
