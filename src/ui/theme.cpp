@@ -1,5 +1,6 @@
 #include "ui/theme.h"
 
+#include "ui/calm_style.h"
 #include "ui/style_sheet.h"
 
 #include <QApplication>
@@ -134,7 +135,7 @@ void applyColours(QApplication &application, Appearance appearance) {
                           : appearance == Appearance::Dark;
     inForce() = coloursFor(dark, desktopAccent(desktop));
     if (application.styleSheet().isEmpty()) {
-        QApplication::setStyle(QStringLiteral("Fusion"));
+        QApplication::setStyle(new CalmStyle); // the application owns it
     }
     QApplication::setPalette(paletteIn(inForce()));
 }
