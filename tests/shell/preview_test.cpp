@@ -120,10 +120,10 @@ private Q_SLOTS:
         timer.start();
         preview_->dealWithPict(slow);
         QTRY_VERIFY_WITH_TIMEOUT(!preview_->loading.get(), 30'000);
-        if (timer.elapsed() < 400) {
-            QSKIP("this computer is too fast to keep anybody waiting");
-        }
-        QCOMPARE(shown, (std::vector<QByteArray>{"none", "300x225 RGBW"}));
+        QVERIFY(!shown.empty());
+        QCOMPARE(shown.back(), QByteArray("300x225 RGBW"));
+        constexpr int longWait = 400; // ms; a fast computer keeps nobody waiting
+        QVERIFY(timer.elapsed() < longWait || shown.front() == "none");
     }
 
     void mayGoAtAnyTime() {
