@@ -1,0 +1,84 @@
+#include "services/map_page.h"
+
+#include "services/escaped_text.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace pinmora {
+namespace {
+
+/// The scheme and host that a tile address leads to, as a source of the policy: a part of the host
+/// that is filled in for each tile, and what stands before it, stands for any. "" where there is
+/// no such host.
+std::string tileSource(std::string_view address) {
+    const std::size_t scheme = address.find("://");
+    if (scheme == std::string_view::npos ||
+        (address.substr(0, scheme) != "https" && address.substr(0, scheme) != "http")) {
+        return {};
+    }
+    const std::string_view begin = address.substr(0, scheme + 3);
+    std::string_view host = address.substr(begin.size());
+    host = host.substr(0, host.find_first_of("/?#"));
+    std::string_view any;
+    if (const std::size_t filled = host.rfind('}'); filled != std::string_view::npos) {
+        host = host.substr(std::min(host.find('.', filled), host.size()));
+        host.remove_prefix(std::min<std::size_t>(1, host.size()));
+        any = "*.";
+    }
+    const bool plain = !host.empty() && std::all_of(host.begin(), host.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+               c == '.' || c == '-' || c == ':' || c == '[' || c == ']';
+    });
+    return plain ? std::string(begin).append(any).append(host) : std::string();
+}
+
+} // namespace
+
+std::string tileAddress(const std::string &setting) {
+    if (setting.empty()) {
+        return "https://tile.openstreetmap.org/{z}/{x}/{y}.png";
+    }
+    return setting == "none" ? std::string() : setting;
+}
+
+std::string mapPage(std::string_view page, std::string_view tileAddress) {
+    constexpr std::string_view kept = "@TILE_SERVER@";
+    const std::string address = escapedForXml(tileAddress);
+    std::string filled;
+    for (std::size_t at = page.find(kept); at != std::string_view::npos; at = page.find(kept)) {
+        filled.append(page.substr(0, at)).append(address);
+        page.remove_prefix(at + kept.size());
+    }
+    return filled.append(page);
+}
+
+std::string contentSecurityPolicy(std::string_view tileAddress) {
+    std::string pictures = "'self' data:";
+    if (const std::string source = tileSource(tileAddress); !source.empty()) {
+        pictures += " " + source;
+    }
+    return "default-src 'none'; script-src 'self'; style-src 'self' 'unsafe-inline'; img-src " +
+           pictures +
+           "; connect-src 'self'; base-uri 'none'; form-action 'none'; frame-ancestors 'none'";
+}
+
+std::string contentType(std::string_view fileName) {
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 6> types{{
+        {".html", "text/html; charset=utf-8"},
+        {".css", "text/css; charset=utf-8"},
+        {".js", "text/javascript; charset=utf-8"},
+        {".json", "application/json"},
+        {".svg", "image/svg+xml"},
+        {".png", "image/png"},
+    }};
+    for (const auto &[ending, type] : types) {
+        if (fileName.ends_with(ending)) {
+            return std::string(type);
+        }
+    }
+    return "application/octet-stream";
+}
+
+} // namespace pinmora
