@@ -5,6 +5,7 @@
 #include "persistence/undo_manager.h"
 
 #include <algorithm>
+#include <functional>
 #include <span>
 
 namespace pinmora {
@@ -97,6 +98,9 @@ void UndoStep::addChange(ValueChange change) {
         change.otherMark = markBefore_;
     }
     markedBefore_ = nullptr;
+    if (keys_) {
+        keys_->insert({change.record, change.property});
+    }
     last<Changes>().push_back(std::move(change));
 }
 
@@ -116,6 +120,7 @@ void UndoStep::dropChangeIfNone(const Record &record, const Property &property) 
         latest.other == property.primitive(record)) {
         markedBefore_ = &record;
         markBefore_ = latest.otherMark;
+        keys_.reset();
         changes->pop_back();
         if (changes->empty()) {
             runs_.pop_back();
@@ -123,17 +128,35 @@ void UndoStep::dropChangeIfNone(const Record &record, const Property &property) 
     }
 }
 
+std::size_t UndoStep::KeyHash::operator()(const Key &key) const {
+    const std::size_t record = std::hash<const Record *>()(key.first);
+    return record * 31 + std::hash<const Property *>()(key.second);
+}
+
+void UndoStep::addKeys(const Changes &changes) const {
+    for (const ValueChange &change : changes) {
+        keys_->insert({change.record, change.property});
+    }
+}
+
 bool UndoStep::changes(const Record &record, const Property &property) const {
-    return std::any_of(runs_.begin(), runs_.end(), [&](const Run &run) {
-        const auto *changes = std::get_if<Changes>(&run);
-        return changes &&
-               std::any_of(changes->begin(), changes->end(), [&](const ValueChange &one) {
-                   return one.record == &record && one.property == &property;
-               });
-    });
+    if (!keys_) {
+        keys_.emplace();
+        for (const Run &run : runs_) {
+            if (const auto *changes = std::get_if<Changes>(&run)) {
+                addKeys(*changes);
+            }
+        }
+    }
+    return keys_->contains({&record, &property});
 }
 
 void UndoStep::append(UndoStep later) {
+    for (const Run &run : later.runs_) {
+        if (const auto *changes = std::get_if<Changes>(&run); changes && keys_) {
+            addKeys(*changes);
+        }
+    }
     if (runs_.empty()) {
         runs_ = std::move(later.runs_);
         return;

@@ -2,8 +2,12 @@
 
 #include "persistence/value.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <unordered_set>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -55,7 +59,7 @@ public:
     /// Takes the latest change back out if the record has the same value again. Its mark counts for
     /// the record's next change: what drew the mark on may be both of them.
     void dropChangeIfNone(const Record &record, const Property &property);
-    /// Whether a key of a record is among the changes.
+    /// Whether a key of a record is among the changes. The first question costs a walk over them.
     bool changes(const Record &record, const Property &property) const;
     /// Adds what a later part of the same action has done.
     void append(UndoStep later);
@@ -76,7 +80,15 @@ private:
         return std::get<R>(runs_.back());
     }
 
+    using Key = std::pair<const Record *, const Property *>;
+    struct KeyHash {
+        std::size_t operator()(const Key &key) const;
+    };
+    void addKeys(const Changes &changes) const;
+
     std::vector<Run> runs_;
+    /// What the changes are of, once it has been asked for: answers come by the thousand.
+    mutable std::optional<std::unordered_set<Key, KeyHash>> keys_;
     const Record *markedBefore_ = nullptr; ///< whose latest change was none
     std::uint8_t markBefore_ = 0;          ///< and the mark that it had then
 };
