@@ -2,8 +2,8 @@
 
 #include "matching/matching_outlets.h"
 #include "matching/placing.h"
-#include "matching/pointer_script.h"
 #include "matching/time_distance.h"
+#include "outlets/pointer_script.h"
 #include "persistence/context.h"
 #include "persistence/undo_group.h"
 #include "store/calendar_formats.h"

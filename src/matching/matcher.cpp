@@ -4,7 +4,7 @@
 #include "matching/clock_offset.h"
 #include "matching/matching_outlets.h"
 #include "matching/placing.h"
-#include "matching/pointer_script.h"
+#include "outlets/pointer_script.h"
 #include "persistence/context.h"
 #include "persistence/undo_group.h"
 #include "platform/notification_centre.h"

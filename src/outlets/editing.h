@@ -19,9 +19,14 @@ public:
 
     /// Asks all editors, in the order in which they came; false when one has refused.
     bool commitEditing() const {
+        const bool fine = takeOver();
+        ended.emit(fine);
+        return fine;
+    }
+    /// The same for what is done in any case: nobody is told, and what is unfit stays half typed.
+    bool takeOver() const {
         bool fine = true;
         asked_.emit(fine);
-        ended.emit(fine);
         return fine;
     }
 

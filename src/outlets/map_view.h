@@ -21,6 +21,13 @@ struct PageRequest {
     friend bool operator==(const PageRequest &, const PageRequest &) = default;
 };
 
+/// What a script of the page has called: a function of the published object, with the one argument
+/// that those functions take. Anybody may have written the page: nothing of it is checked yet.
+struct PageCall {
+    std::string function;
+    std::variant<std::string, double> argument;
+};
+
 /// The page that shows the map; it is spoken to in scripts. Whoever shows the page may come later:
 /// what was asked for until then is kept and handed over in its order.
 class MapView {
@@ -32,7 +39,11 @@ public:
     struct PublishedName {
         std::string name;
     };
-    using Command = std::variant<PageRequest, PublishedName, Script>;
+    /// What the page is to draw, as JSON. Only a page that is there hears it.
+    struct Feed {
+        std::string json;
+    };
+    using Command = std::variant<PageRequest, PublishedName, Script, Feed>;
     using Handler = std::function<void(const Command &)>;
 
     void load(PageRequest request) { give(std::move(request)); }
@@ -41,6 +52,12 @@ public:
     void evaluate(const std::string &script) {
         scripts.emit(script);
         give(Script{script});
+    }
+    /// Nothing is kept: what is to be drawn is sent anew after each load.
+    void feed(std::string json) {
+        if (handler_) {
+            handler_(Feed{std::move(json)});
+        }
     }
 
     /// One only; it gets what has been kept at once.
@@ -54,6 +71,10 @@ public:
 
     /// Every script, when it is given.
     Signal<const std::string &> scripts;
+
+    // What whoever shows the page tells.
+    Signal<> loaded; ///< a page has been loaded, the first time or again
+    Signal<const PageCall &> called;
 
 private:
     void give(Command command) {

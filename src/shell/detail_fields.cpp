@@ -38,10 +38,11 @@ DetailFields::~DetailFields() {
 
 void DetailFields::didChange(Record &, std::string_view key) {
     const auto ours = fields();
+    const bool goesWithAnother = key == "place_distance"; // also where that is written here
     const bool isShown = key == "image_name" ||
                          std::any_of(ours.begin(), ours.end(),
                                      [&](const DetailField *field) { return field->key == key; });
-    if (isShown && !writing_) {
+    if (goesWithAnother || (isShown && !writing_)) {
         endOfTurn_.ask();
     }
 }
@@ -71,8 +72,10 @@ void DetailFields::show() {
             show(*field);
         }
     }
+    const image *const only = photos_.size() == 1 ? *photos_.begin() : nullptr;
     image_name.enabled.set(!photos_.empty());
-    image_name.text.set(photos_.size() == 1 ? (*photos_.begin())->image_name().string() : "");
+    image_name.text.set(only ? only->image_name().string() : "");
+    place_distance.set(only ? only->place_distance() : std::nullopt);
 }
 
 void DetailFields::show(DetailField &field) {

@@ -11,6 +11,7 @@
 #include "store/image.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -70,7 +71,9 @@ public:
     DetailField prov{"prov", "Change Province"};
     DetailField country{"country", "Change Country"};
     DetailField alt{"alt", "Change Altitude"};
-    TextField image_name; ///< of the one selected photo; only shown
+    // Of the one selected photo; only shown.
+    TextField image_name;
+    Observable<std::optional<double>> place_distance; ///< metres, to the city
 
     std::array<DetailField *, 6> fields() {
         return {&img_description, &comments, &city, &prov, &country, &alt};

@@ -2,7 +2,7 @@
 
 #include "matching/matching_outlets.h"
 #include "matching/placing.h"
-#include "matching/pointer_script.h"
+#include "outlets/pointer_script.h"
 #include "persistence/context.h"
 #include "persistence/undo_group.h"
 #include "platform/date.h"
@@ -165,6 +165,29 @@ void Inspector::showOnMap(image &photo) {
         pointerScript(lat, lon, photo.zoom().value_or(0), photo.original_name().view()));
 }
 
+/// Several photos that have been placed together have one pointer, until one of them goes elsewhere
+/// (or all go back by undo).
+void Inspector::showWhereAllAre(const std::vector<image *> &photos) {
+    const auto elsewhere = [&photos](const image *photo) {
+        return !photo->lat_and_lon() || photo->lat() != photos.front()->lat() ||
+               photo->lon() != photos.front()->lon();
+    };
+    const bool together =
+        photos.size() > 1 && std::none_of(photos.begin(), photos.end(), elsewhere);
+    activeMap().evaluate(
+        together ? pointerScript(photos.front()->lat().view(), photos.front()->lon().view())
+                 : "removePointer()");
+}
+
+void Inspector::sendPointer() {
+    const std::vector<image *> selected = arrays_.pictureArray.selectedObjects();
+    if (selected.size() == 1) {
+        showOnMap(*selected.front());
+    } else {
+        showWhereAllAre(selected);
+    }
+}
+
 void Inspector::logsLoaded() {
     const std::vector<image *> &selected = arrays_.pictureArray.selectedObjects();
     if (selected.size() == 1) {
@@ -182,6 +205,7 @@ void Inspector::didChange(Record &record, std::string_view key) {
     const std::vector<image *> &selected = arrays_.pictureArray.selectedObjects();
     if (selected.size() != 1 || selected.front() == &record) {
         pictureStale_ = pictureStale_ || isPath;
+        pointerStale_ = pointerStale_ || key == "lat" || key == "lon";
         endOfTurn_.ask();
     }
 }
@@ -210,6 +234,7 @@ void Inspector::didDelete(Record &record) {
 }
 
 void Inspector::catchUp() {
+    const bool movePointer = std::exchange(pointerStale_, false);
     if (selectionStale_ || std::exchange(pictureStale_, false)) {
         tableSelectionChanged();
         return;
@@ -220,6 +245,9 @@ void Inspector::catchUp() {
     matching_.matchButton.enabled.set(!selected.empty() && hasTrackData());
     if (selected.size() != 1) {
         showMarkersOf(selected);
+        if (movePointer) {
+            showWhereAllAre(selected);
+        }
         return;
     }
     showCorrectedTime(*selected.front());
@@ -227,8 +255,10 @@ void Inspector::catchUp() {
     const bool placed = photo.lat_and_lon();
     showMarkerButtons(placed ? "Remove Marker" : "Add Marker", placed ? 1 : 0);
     enableOffsetButtons(placed && hasTrackData());
-    activeMap().evaluate(placed ? pointerScript(photo.lat().view(), photo.lon().view())
-                                : "removePointer()");
+    if (movePointer) {
+        activeMap().evaluate(placed ? pointerScript(photo.lat().view(), photo.lon().view())
+                                    : "removePointer()");
+    }
 }
 
 } // namespace pinmora

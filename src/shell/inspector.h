@@ -71,6 +71,8 @@ public:
     std::string window_title() const;
     /// To be called after logs have been loaded.
     void logsLoaded();
+    /// Sends the pointer to the active map once more: its page knows of none.
+    void sendPointer();
 
     /// Typing a photo's new name makes the buttons that give it available.
     void textDidBeginEditing(const TextField &field);
@@ -104,6 +106,7 @@ private:
     void showMarkersOf(const std::vector<image *> &photos);
     void showMarkerButtons(const std::string &title, int tag);
     void showOnMap(image &photo);
+    void showWhereAllAre(const std::vector<image *> &photos);
     void enableOffsetButtons(bool yes);
     void enableNameFields(bool yes);
     void enableChangeButtons(bool yes);
@@ -122,6 +125,7 @@ private:
     image *lastPictObjectWithLatLon_ = nullptr;
     bool selectionStale_ = false; ///< it has changed and nobody has said so yet
     bool pictureStale_ = false;   ///< the selected photo has another file
+    bool pointerStale_ = false;   ///< a selected photo has another position
     bool hadTrackData_ = false;   ///< when the controls were last set
     EndOfTurn endOfTurn_;
     std::vector<Connection> connections_;

@@ -1,8 +1,8 @@
 #include "shell/pinmora_app_delegate.h"
 
 #include "gps/log_reading.h"
-#include "matching/pointer_script.h"
 #include "persistence/context.h"
+#include "places/place_settings.h"
 #include "shell/subsystems.h"
 
 #include <algorithm>
@@ -12,9 +12,10 @@
 
 namespace pinmora {
 
-Pinmora_AppDelegate::Pinmora_AppDelegate(std::filesystem::path resourceFolder, PixelSize screen)
+Pinmora_AppDelegate::Pinmora_AppDelegate(std::filesystem::path resourceFolder, PixelSize screen,
+                                         BuiltInServices services)
     : library(notifications, interface.errors), resourceFolder_(std::move(resourceFolder)),
-      screen_(screen) {}
+      screen_(screen), services_(std::move(services)) {}
 
 Pinmora_AppDelegate::~Pinmora_AppDelegate() = default;
 
@@ -41,14 +42,16 @@ void Pinmora_AppDelegate::awakeFromNib() {
     subsystems_->recoveryOffers.post();
 }
 
-/// Without a service, the map views stay empty.
+/// From the server that the settings name, else from the built-in one. Without a server, the map
+/// views stay empty.
 void Pinmora_AppDelegate::loadMapPages() {
-    const std::string service = defaults.text("mapServiceURL").value_or("");
-    if (service.empty()) {
+    const std::string chosen = defaults.text("mapServer").value_or("");
+    const std::string server = chosen.empty() ? services_.address() : chosen;
+    if (server.empty()) {
         return;
     }
     for (MapView *view : {&interface.webView1, &interface.webView2}) {
-        view->load({.address = service + "/maps/index3.php?w=434&h=400", .ignoresCache = true});
+        view->load({.address = server + "/maps/index3.php?w=434&h=400", .ignoresCache = true});
     }
 }
 
@@ -69,19 +72,15 @@ void Pinmora_AppDelegate::observeNotifications() {
             [this](const Notification &) { subsystems_->inspector.tableSelectionChanged(); });
     observe(controlTextDidChange, onField(&Inspector::textDidChange));
     observe(locationChange, [this](const Notification &notice) {
-        if (const auto *position = std::any_cast<PositionTexts>(&notice.object)) {
-            updateMap(*position);
+        const auto *position = std::any_cast<PositionTexts>(&notice.object);
+        if (position && subsystems_) {
+            subsystems_->markers.updateMap(*position);
         }
     });
 }
 
-/// The pointer follows a photo that is given a position.
-void Pinmora_AppDelegate::updateMap(const PositionTexts &position) {
-    if (!subsystems_ || subsystems_->matcher.runningApplyToAll()) {
-        return;
-    }
-    MapView &map = interface.inWizard ? interface.webView2 : interface.webView1;
-    map.evaluate(pointerScript(position[0], position[1]));
+PlaceService Pinmora_AppDelegate::placeService() const {
+    return placeServiceFrom(defaults, services_.address, services_.placeNamespace);
 }
 
 void Pinmora_AppDelegate::setMissingDefaults() {

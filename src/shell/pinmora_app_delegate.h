@@ -2,6 +2,7 @@
 
 #include "outlets/editing.h"
 #include "photos/photo_types.h"
+#include "places/place_names.h"
 #include "platform/defaults.h"
 #include "platform/notification_centre.h"
 #include "shell/interface.h"
@@ -9,6 +10,7 @@
 #include "store/library.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -19,19 +21,30 @@ struct Subsystems;
 
 enum class TerminateReply { Now, Cancel };
 
+/// The services that come with the program, for whom the settings name no others.
+struct BuiltInServices {
+    /// Base URL of the map page and the place names, started at the first call; "" without any.
+    std::function<std::string()> address = [] { return std::string(); };
+    std::string placeNamespace{}; ///< of the place names
+};
+
 /// The one controller: it owns the library and all subsystems, wires them, and answers for the
 /// program's life. Interface and subsystems are there for whoever shows them.
 class Pinmora_AppDelegate {
 public:
     /// `init`: nothing is read or shown yet. `resourceFolder` is the program's own.
     explicit Pinmora_AppDelegate(std::filesystem::path resourceFolder,
-                                 PixelSize screen = {1920, 1080});
+                                 PixelSize screen = {1920, 1080}, BuiltInServices services = {});
     ~Pinmora_AppDelegate();
     Pinmora_AppDelegate(const Pinmora_AppDelegate &) = delete;
     Pinmora_AppDelegate &operator=(const Pinmora_AppDelegate &) = delete;
 
     /// The one-time set-up: opens the library and shows the window. Later calls do nothing.
     void awakeFromNib();
+
+    /// Where place names are asked for, by the settings "placeServer", "placeServerHost" and
+    /// "placeServerNamespace", else the built-in service.
+    PlaceService placeService() const;
 
     TerminateReply applicationShouldTerminate();
     /// Asks whoever runs the event loop to quit, which asks applicationShouldTerminate().
@@ -53,11 +66,11 @@ private:
     void setMissingDefaults();
     /// 1 shows the wizard, anything else the main window.
     void setStartWindow(int useWizard);
-    void updateMap(const PositionTexts &position);
     bool somePhotoHasChanges();
 
     const std::filesystem::path resourceFolder_;
     const PixelSize screen_;
+    const BuiltInServices services_;
     bool firstLoad_ = true;
     bool firstQuit_ = true;
     std::vector<NotificationCentre::Observation> observations_;

@@ -1,5 +1,6 @@
 #include "shell/subsystems.h"
 
+#include "places/place_settings.h"
 #include "shell/pinmora_app_delegate.h"
 #include "store/start_records.h"
 
@@ -9,8 +10,9 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
                        PixelSize screen)
     : arrays(owner.library.arrays()),
       gps(owner.library.managedObjectContext(), owner.interface.progress, owner.interface.errors),
-      unsavedWork(owner.library, gps), logs(gps),
-      photos(owner.library.managedObjectContext(), logs, owner.photoTypes),
+      unsavedWork(owner.library, gps),
+      placeNames(owner.library.managedObjectContext(), [&owner] { return owner.placeService(); }),
+      logs(gps), photos(owner.library.managedObjectContext(), logs, owner.photoTypes),
       gpsIntake(owner.library.managedObjectContext(), gps, owner.interface.progress, owner.defaults,
                 owner.interface.workingWindow, owner.interface.loadRunning),
       photoIntake(owner.library.managedObjectContext(), photos, owner.interface.progress,
@@ -56,6 +58,27 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
                                        " is gone. Put the file back, or add it again from where "
                                        "it is now.");
                 }),
+      mapFeed(owner.library.managedObjectContext(), {.webView1 = owner.interface.webView1,
+                                                     .webView2 = owner.interface.webView2,
+                                                     .pictureArray = arrays.pictureArray}),
+      mapBridge(owner.library.managedObjectContext(), {.webView1 = owner.interface.webView1,
+                                                       .webView2 = owner.interface.webView2,
+                                                       .inWizard = owner.interface.inWizard,
+                                                       .pictureArray = arrays.pictureArray,
+                                                       .degreeObj = owner.interface.degreeObj,
+                                                       .editing = owner.editing}),
+      markers(
+          owner.library.managedObjectContext(),
+          {.webView1 = owner.interface.webView1,
+           .webView2 = owner.interface.webView2,
+           .inWizard = owner.interface.inWizard,
+           .addRemoveMarker = owner.interface.addRemoveMarker,
+           .addRemoveMarker2 = owner.interface.addRemoveMarker2,
+           .offsetButton2 = matching.offsetButton2,
+           .pictureArray = arrays.pictureArray,
+           .editing = owner.editing},
+          [this] { return inspector.lastPictObjectWithLatLon(); },
+          [this] { return matcher.runningApplyToAll(); }),
       quitWarning(owner.interface.workingWindow,
                   {.updatePicts = [] {},
                    .saveAction = [&library = owner.library] { library.saveAction(); },
@@ -70,12 +93,15 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
                      owner.interface.statusLine),
       sampleOuting(photoIntake, resourceFolder) {
     gps.setImportJournal(&unsavedWork.recorder());
+    placeNames.setEnabled(looksUpPlaces(owner.defaults));
+    owner.library.managedObjectModel().setPlaceNames(&placeNames);
     owner.library.managedObjectContext().setEndEditing(
         [&editing = owner.editing] { return editing.commitEditing(); });
     connections_.push_back(gpsIntake.loaded.connect([this](auto &) { inspector.logsLoaded(); }));
     connections_.push_back(
         photoIntake.loaded.connect([this](auto &, auto &) { inspector.tableSelectionChanged(); }));
     connections_.push_back(readingOffer.readAgain.connect([this] { inspector.logsLoaded(); }));
+    connections_.push_back(mapBridge.pointerWanted.connect([this] { inspector.sendPointer(); }));
     // Nothing saves photos yet.
     savePhotosButton.enabled.set(false);
     quitWarning.saveAndQuitButton.enabled.set(false);

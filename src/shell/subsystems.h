@@ -3,12 +3,16 @@
 #include "coords/coordinate_fields.h"
 #include "gps/gps.h"
 #include "gps/gps_intake.h"
+#include "map/map_bridge.h"
+#include "map/map_feed.h"
+#include "map/markers.h"
 #include "matching/clock_offset.h"
 #include "matching/matcher.h"
 #include "matching/matching_outlets.h"
 #include "matching/photo_gaps.h"
 #include "photos/photo_intake.h"
 #include "photos/photos.h"
+#include "places/place_names.h"
 #include "recovery/unsaved_work_keeper.h"
 #include "saving/quit_warning.h"
 #include "saving/renaming.h"
@@ -46,6 +50,7 @@ struct Subsystems {
     LibraryArrays &arrays;
     Gps gps;
     UnsavedWorkKeeper unsavedWork;
+    PlaceNames placeNames;
     LogIntakeAdapter logs;
     Photos photos;
     GpsIntake gpsIntake;
@@ -68,6 +73,9 @@ struct Subsystems {
     Renaming renaming;
     InspectorOutlets inspectorOutlets;
     Inspector inspector;
+    MapFeed mapFeed; ///< before the bridge: a new page gets the drawing before the pointer
+    MapBridge mapBridge;
+    Markers markers;
     QuitWarning quitWarning;
     IntakeNotes intakeNotes;
     ReadingOffer readingOffer;

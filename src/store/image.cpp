@@ -22,12 +22,14 @@ std::string_view longitudeLetter(std::string_view longitude) {
 void image::setLat(Text lat) {
     setLat_ref(latitudeLetter(lat.view()));
     changeAndMark("lat", lat_, std::move(lat));
+    forgetPlaceDistance();
     setLocationDetails();
 }
 
 void image::setLon(Text lon) {
     setLon_ref(longitudeLetter(lon.view()));
     changeAndMark("lon", lon_, std::move(lon));
+    forgetPlaceDistance();
     setLocationDetails();
 }
 
@@ -36,7 +38,19 @@ void image::updateLatAndLon(const PositionTexts &position) {
     changeAndMark("lon", lon_, Text(position[1]));
     setLat_ref(latitudeLetter(position[0]));
     setLon_ref(longitudeLetter(position[1]));
+    forgetPlaceDistance();
     setLocationDetails();
+}
+
+void image::setCity(Text name) {
+    changeAndMark("city", city_, std::move(name));
+    forgetPlaceDistance();
+}
+
+void image::forgetPlaceDistance() {
+    if (place_distance_) {
+        setPlace_distance(std::nullopt);
+    }
 }
 
 void image::setDate(const Text &text) {

@@ -88,12 +88,20 @@ public:
     }
 
     const Text &city() const { return read("city", city_); }
-    void setCity(Text name) { changeAndMark("city", city_, std::move(name)); }
+    void setCity(Text name);
     /// Province or state.
     const Text &prov() const { return read("prov", prov_); }
     void setProv(Text name) { changeAndMark("prov", prov_, std::move(name)); }
     const Text &country() const { return read("country", country_); }
     void setCountry(Text name) { changeAndMark("country", country_, std::move(name)); }
+    /// Metres from the position to the place that the names are of, where they were looked up. Does
+    /// not outlive the city's name or the position.
+    const std::optional<double> &place_distance() const {
+        return read("place_distance", place_distance_);
+    }
+    void setPlace_distance(std::optional<double> metres) {
+        change("place_distance", place_distance_, metres);
+    }
     const Text &comments() const { return read("comments", comments_); }
     void setComments(Text text) { changeAndMark("comments", comments_, std::move(text)); }
     const Text &img_description() const { return read("img_description", img_description_); }
@@ -152,6 +160,7 @@ private:
         hasChanges_ = true;
     }
     void setLocationDetails();
+    void forgetPlaceDistance();
 
     Text image_name_;
     Text original_name_;
@@ -169,6 +178,7 @@ private:
     Text city_;
     Text prov_;
     Text country_;
+    std::optional<double> place_distance_;
     Text comments_;
     Text img_description_;
     Text camera_;

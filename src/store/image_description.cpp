@@ -28,6 +28,8 @@ const EntityDescription &image::description() {
             attribute<&I::city, &I::setCity, &I::city_>("city"),
             attribute<&I::prov, &I::setProv, &I::prov_>("prov"),
             attribute<&I::country, &I::setCountry, &I::country_>("country"),
+            attribute<&I::place_distance, &I::setPlace_distance, &I::place_distance_>(
+                "place_distance"),
             attribute<&I::comments, &I::setComments, &I::comments_>("comments"),
             attribute<&I::img_description, &I::setImg_description, &I::img_description_>(
                 "img_description"),

@@ -1,7 +1,6 @@
 #include "matching/clock_offset.h"
 
 #include "matching/desk.h"
-#include "matching/pointer_script.h"
 
 #include <QTest>
 
@@ -98,38 +97,6 @@ private Q_SLOTS:
         desk.clockOffset.setNewOffset(true);
         QVERIFY(!desk.context.hasChanges());
         QCOMPARE(desk.scripts + desk.outlets.offsetText.text.get(), std::string());
-    }
-
-    void pointerScripts_data() {
-        QTest::addColumn<std::string>("lat");
-        QTest::addColumn<std::string>("lon");
-        QTest::addColumn<std::string>("script");
-
-        const auto row = [](const std::string &lat, const std::string &lon,
-                            const std::string &script) {
-            QTest::addRow("%s, %s", lat.c_str(), lon.c_str()) << lat << lon << script;
-        };
-        const std::string remove = "removePointer()";
-        row("47.0", "8", "movePointer(47.0,8,7,'')");
-        row(" -47.5 ", "+.5", "movePointer(-47.5,+.5,7,'')");
-        row("07.50", "-008.", "movePointer(7.50,-8.,7,'')");
-        row("00.5", "000", "movePointer(0.5,0,7,'')");
-        row("", "8", remove);
-        row("47", "-.", remove);
-        row("4.7.1", "8", remove);
-        row("4 7", "8", remove);
-        row("1e2", "8", remove);
-        row("47,5", "8", remove);
-        row("0x10", "8", remove);
-        row("47", "8);alert(1", remove);
-        row("nan", "inf", remove);
-        row("--1", "1-", remove);
-    }
-
-    void pointerScripts() {
-        QFETCH(std::string, lat);
-        QFETCH(std::string, lon);
-        QTEST(pointerScript(lat, lon, 7), "script");
     }
 
     void steppersReachAsFarAsTheyShould() {

@@ -49,7 +49,7 @@ private Q_SLOTS:
 
     void mapPagesAreAskedForBeforeTheControllerIsPublished() {
         Desk desk;
-        desk.delegate.defaults.setText("mapServiceURL", "http://maps.test");
+        desk.delegate.defaults.setText("mapServer", "http://maps.test");
         desk.start();
         const std::vector<std::string> expected{
             "load http://maps.test/maps/index3.php?w=434&h=400 anew 60", "publish controlObj"};

@@ -46,6 +46,8 @@ private Q_SLOTS:
     void date_data();
     void date();
     void theEmptyDateIsNow();
+    void placeDistance_data();
+    void placeDistance();
     void changeFlag();
     void shownTexts();
     void photosOfNoLibraryKeepPositions();
@@ -216,10 +218,31 @@ void ImageTest::theEmptyDateIsNow() {
     QVERIFY(!photo_->date());
 }
 
+void ImageTest::placeDistance_data() {
+    QTest::addColumn<Step>("step");
+    QTest::addColumn<bool>("stays");
+    const auto row = [](const char *name, bool stays, const Step &step) {
+        QTest::newRow(name) << step << stays;
+    };
+    row("another city", false, [](image &p) { p.setCity("Bern"); });
+    row("another latitude", false, [](image &p) { p.setLat("1"); });
+    row("another longitude", false, [](image &p) { p.setLon("1"); });
+    row("no position", false, [](image &p) { p.updateLatAndLon({"", ""}); });
+    row("another country", true, [](image &p) { p.setCountry("CH"); });
+    row("a comment", true, [](image &p) { p.setComments("x"); });
+}
+
+void ImageTest::placeDistance() {
+    QFETCH(Step, step);
+    photo_->setPlace_distance(2312);
+    step(*photo_);
+    QTEST(photo_->place_distance() == 2312, "stays");
+}
+
 /// Which keys are a person's work on the photo, and which only how it is shown or found.
 void ImageTest::changeFlag() {
-    const QByteArrayList quiet{"zoom",   "zoom_reset",      "valid_file",    "no_capture_time",
-                               "camera", "position_source", "full_file_path"};
+    const QByteArrayList quiet{"zoom",   "zoom_reset",      "valid_file",     "no_capture_time",
+                               "camera", "position_source", "full_file_path", "place_distance"};
     int marking = 0;
     for (const Property &property : image::description().properties()) {
         if (property.kind != Property::Kind::Attribute) {

@@ -1,4 +1,4 @@
-#include "matching/pointer_script.h"
+#include "outlets/pointer_script.h"
 
 #include "platform/number_text.h"
 
@@ -36,11 +36,11 @@ std::string quoted(std::string_view text) {
     return script + "'";
 }
 
-/// "FUNCTION(LAT,LON" and what follows.
+/// "FUNCTION(LAT,LON" and what follows; `otherwise` where the position is no number.
 std::string scriptFor(std::string_view function, std::string_view lat, std::string_view lon,
-                      const std::string &rest) {
+                      const std::string &rest, std::string_view otherwise = "removePointer()") {
     if (!plainDecimal(lat) || !plainDecimal(lon)) {
-        return "removePointer()";
+        return std::string(otherwise);
     }
     return std::string(function) + "(" + withoutLeadingZeros(trimmed(lat)) + "," +
            withoutLeadingZeros(trimmed(lon)) + "," + rest + ")";
@@ -59,6 +59,15 @@ std::string pointerScript(std::string_view lat, std::string_view lon) {
 std::string pointerScript(std::string_view lat, std::string_view lon, int zoom,
                           std::string_view label) {
     return scriptFor("movePointerWithZoom", lat, lon, std::to_string(zoom) + "," + quoted(label));
+}
+
+std::string newMarkerScript(std::string_view lat, std::string_view lon, int zoom) {
+    return scriptFor("addNewMarkerToMap", lat.empty() ? "0" : lat, lon.empty() ? "0" : lon,
+                     std::to_string(zoom), newMarkerScript());
+}
+
+std::string newMarkerScript() {
+    return "addNewMarkerToMap(0,0,1)";
 }
 
 } // namespace pinmora

@@ -17,4 +17,9 @@ std::string pointerScript(std::string_view lat, std::string_view lon);
 std::string pointerScript(std::string_view lat, std::string_view lon, int zoom,
                           std::string_view label);
 
+/// The script that has the page begin a new marker at a position; "" counts as 0. Where the texts
+/// are no numbers, the script for when no position is known.
+std::string newMarkerScript(std::string_view lat, std::string_view lon, int zoom);
+std::string newMarkerScript();
+
 } // namespace pinmora

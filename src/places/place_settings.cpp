@@ -1,0 +1,26 @@
+#include "places/place_settings.h"
+
+#include "platform/defaults.h"
+
+namespace pinmora {
+
+bool looksUpPlaces(const Defaults &defaults) {
+    return defaults.text(lookUpPlacesKey) != "0";
+}
+
+PlaceService placeServiceFrom(const Defaults &defaults,
+                              const std::function<std::string()> &builtInAddress,
+                              std::string_view builtInNamespace) {
+    PlaceService service{.address = defaults.text("placeServer").value_or(""),
+                         .host = defaults.text("placeServerHost").value_or(""),
+                         .nameSpace = defaults.text("placeServerNamespace").value_or("")};
+    if (service.address.empty()) {
+        service = {.address = builtInAddress(), .host = "", .nameSpace = ""};
+    }
+    if (service.nameSpace.empty()) {
+        service.nameSpace = builtInNamespace;
+    }
+    return service;
+}
+
+} // namespace pinmora

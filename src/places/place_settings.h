@@ -1,0 +1,25 @@
+#pragma once
+
+#include "places/place_service.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace pinmora {
+
+class Defaults;
+
+/// The setting that turns lookups off: "0".
+inline constexpr std::string_view lookUpPlacesKey = "lookUpPlaces";
+
+/// Whether names are looked up, as they are unless a person has turned that off.
+bool looksUpPlaces(const Defaults &defaults);
+
+/// The service that the settings "placeServer", "placeServerHost" and "placeServerNamespace" name;
+/// without a server among them the built-in one, which is not asked for its address before.
+PlaceService placeServiceFrom(const Defaults &defaults,
+                              const std::function<std::string()> &builtInAddress,
+                              std::string_view builtInNamespace);
+
+} // namespace pinmora

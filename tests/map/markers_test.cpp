@@ -1,0 +1,150 @@
+#include "map/map_desk.h"
+
+#include <QTest>
+
+using namespace pinmora;
+
+class MarkersTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void adding_data() {
+        QTest::addColumn<bool>("wizard");
+        QTest::addColumn<int>("selected");
+        QTest::addColumn<std::string>("last"); // "LAT,LON,ZOOM" of the photo shown last; "": none
+        QTest::addColumn<std::string>("script");
+        QTest::addColumn<std::string>("state");
+        const auto row = [](const char *what, int selected, const char *last, const char *script,
+                            const char *state) {
+            for (const bool wizard : {false, true}) {
+                QTest::addRow("%s%s", what, wizard ? ", wizard" : "")
+                    << wizard << selected << std::string(last) << std::string(script)
+                    << std::string(state);
+            }
+        };
+        row("nothing shown yet", 1, "", "addNewMarkerToMap(0,0,1)", "  - - -");
+        row("none selected", 0, "47.10,-8.2,14", "addNewMarkerToMap(47.10,-8.2,14)", "  - - -");
+        row("one", 1, "47.10,-8.2,14", "addNewMarkerToMap(47.10,-8.2,14)", "  14 1 -");
+        row("three, no zoom", 3, "47,8,", "addNewMarkerToMap(47,8,2)", "  2 1 -");
+        row("position lost", 1, ",,1", "addNewMarkerToMap(0,0,1)", "  1 1 -");
+        row("latitude lost", 1, ",8,5", "addNewMarkerToMap(0,8,5)", "  5 1 -");
+        row("hostile", 1, "0);alert(1//,8,5", "addNewMarkerToMap(0,0,1)", "  5 1 -");
+        row("zeros", 1, "007.50,+8.,5", "addNewMarkerToMap(7.50,+8.,5)", "  5 1 -");
+    }
+
+    void adding() {
+        QFETCH(bool, wizard);
+        QFETCH(int, selected);
+        QFETCH(std::string, last);
+        QFETCH(std::string, script);
+        MapDesk desk;
+        std::vector<image *> photos{&desk.addPhoto(), &desk.addPhoto(), &desk.addPhoto()};
+        image &first = *photos.front();
+        if (!last.empty()) {
+            const QStringList parts = QString::fromStdString(last).split(u',');
+            desk.last = &desk.addPhoto(qPrintable(parts[0]), qPrintable(parts[1]));
+            if (!parts[2].isEmpty()) {
+                desk.last->setZoom(parts[2].toInt());
+            }
+        }
+        photos.resize(static_cast<std::size_t>(selected));
+        desk.pictureArray.setSelectedObjects(photos);
+        desk.settle();
+        desk.offsetButton2.enabled.set(false);
+        Button &button = wizard ? desk.addRemoveMarker2 : desk.addRemoveMarker;
+        button.press();
+        QCOMPARE(desk.scripts, (wizard ? "2:" : "1:") + script + " ");
+        QTEST(MapDesk::stateOf(first), "state");
+        QCOMPARE(button.title.get(),
+                 std::string(selected > 1 ? "Remove Markers" : "Remove Marker"));
+        QCOMPARE(button.tag, 1);
+        QCOMPARE(desk.offsetButton2.enabled.get(), wizard);
+        QCoreApplication::processEvents();
+        QVERIFY(!desk.undo.canUndo()); // the map's zoom levels are no work of a person
+        QVERIFY(!first.getHasChanges());
+    }
+
+    void removing_data() {
+        QTest::addColumn<bool>("wizard");
+        QTest::addColumn<int>("selected");
+        for (const int selected : {0, 1, 3}) {
+            QTest::addRow("%d", selected) << false << selected;
+            QTest::addRow("%d, wizard", selected) << true << selected;
+        }
+    }
+
+    void removing() {
+        QFETCH(bool, wizard);
+        QFETCH(int, selected);
+        MapDesk desk;
+        std::vector<image *> photos;
+        for (int i = 0; i < 3; ++i) {
+            image &photo = desk.addPhoto("-47", "-8");
+            photo.setZoom(9);
+            photo.setCity("Lima");
+            photo.setProv("Lima");
+            photo.setCountry("Peru");
+            photo.setPosition_source(PositionSource::map);
+            photos.push_back(&photo);
+        }
+        image &kept = desk.addPhoto("5", "6");
+        const std::vector<image *> all = photos;
+        photos.resize(static_cast<std::size_t>(selected));
+        desk.pictureArray.setSelectedObjects(photos);
+        desk.settle();
+        Button &button = wizard ? desk.addRemoveMarker2 : desk.addRemoveMarker;
+        button.tag = 1;
+        button.press();
+        QCOMPARE(desk.scripts, std::string(wizard ? "2:removePointer() " : "1:removePointer() "));
+        QCOMPARE(button.title.get(), std::string("Add Marker"));
+        QCOMPARE(button.tag, 0);
+        QCOMPARE(desk.offsetButton2.enabled.get(), !wizard);
+        for (const image *photo : photos) {
+            QCOMPARE(MapDesk::stateOf(*photo), std::string("  - - -"));
+            for (const char *key : {"city", "prov", "country", "lat_ref", "lon_ref"}) {
+                QCOMPARE(photo->valueForKey(key).toText(), Text(""));
+            }
+            QVERIFY(photo->getHasChanges());
+        }
+        QCOMPARE(MapDesk::stateOf(kept), std::string("5 6 - - -"));
+        QCoreApplication::processEvents();
+        QCOMPARE(desk.undo.undoActionName(), std::string(selected == 0   ? ""
+                                                         : selected == 1 ? "Remove Marker"
+                                                                         : "Remove Markers"));
+        desk.undo.undo();
+        for (const image *photo : all) {
+            QCOMPARE(MapDesk::stateOf(*photo), std::string("-47 -8 9 - map"));
+            QCOMPARE(photo->country().string(), std::string("Peru"));
+            QCOMPARE(photo->lat_ref().string(), std::string("S"));
+        }
+    }
+
+    void buttonsSayWhatAClickDoes() {
+        MapDesk desk;
+        image &placed = desk.addPhoto("47", "8");
+        image &unplaced = desk.addPhoto();
+        const auto saidFor = [&](const std::vector<image *> &photos) {
+            desk.pictureArray.setSelectedObjects(photos);
+            const bool one = desk.markers.add_remove_marker();
+            return std::to_string(one) + desk.addRemoveMarker.title.get() +
+                   std::to_string(desk.addRemoveMarker2.tag);
+        };
+        QCOMPARE(saidFor({&placed}), std::string("1Remove Marker1"));
+        QCOMPARE(saidFor({&placed, &unplaced}), std::string("0Remove Marker1"));
+        QCOMPARE(saidFor({&unplaced}), std::string("1Add Marker0"));
+        QCOMPARE(saidFor({}), std::string("0Add Marker0"));
+    }
+
+    void pointerFollowsInTheActiveMap() {
+        MapDesk desk;
+        desk.markers.updateMap({"47.10", "-8"});
+        desk.inWizard = true;
+        desk.markers.updateMap({"47.10", "8);alert(1"});
+        desk.applying = true;
+        desk.markers.updateMap({"1", "2"});
+        QCOMPARE(desk.scripts, std::string("1:movePointer(47.10,-8,'') 2:removePointer() "));
+    }
+};
+
+QTEST_GUILESS_MAIN(MarkersTest)
+#include "markers_test.moc"
