@@ -19,7 +19,10 @@ PixelSize screenSize() {
 } // namespace
 
 Program::Program(const std::filesystem::path &resourceFolder, MapPane::MakePage makePage)
-    : delegate_(resourceFolder, screenSize()) {
+    : services_({.tileServer = Defaults().text("tileServer").value_or("")}),
+      delegate_(resourceFolder, screenSize(),
+                {.address = [this] { return services_.address(); },
+                 .placeNamespace = LocalServer::placeNamespace}) {
     // The main window decides, after the person has been asked.
     QApplication::setQuitOnLastWindowClosed(false);
     delegate_.awakeFromNib();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "services/local_server.h"
 #include "shell/pinmora_app_delegate.h"
 #include "ui/main_window.h"
 
@@ -29,6 +30,7 @@ public:
     MainWindow &window() { return *window_; }
 
 private:
+    LocalServer services_;
     Pinmora_AppDelegate delegate_;
     std::unique_ptr<MainWindow> window_;
     Connection terminating_;

@@ -39,6 +39,8 @@ constexpr std::array table{
               "Give the copies of the photos other names", true},
     ActionRow{OriginalNames, MenuName::Photo, "Use &Original Names", "Shift+F2", "",
               "Give all photos the names of their files again"},
+    ActionRow{LookUpPlaces, MenuName::Photo, "Look &Up Place Names", "F4", "",
+              "Find city, province and country of each new position", true, true},
     ActionRow{RemovePictures, MenuName::Photo, "&Remove Picture", "Del", "remove",
               "Take the selected photos off the list; their files stay", true},
 

@@ -32,6 +32,7 @@ enum class ActionName {
     FullSize,
     Rename,
     OriginalNames,
+    LookUpPlaces,
     RemovePictures,
     ApplyToAll,
     MatchPhoto,

@@ -4,6 +4,7 @@
 #include "ui/field_bindings.h"
 #include "ui/field_edit.h"
 #include "ui/note_edit.h"
+#include "ui/photo_texts.h"
 #include "ui/picture_view.h"
 #include "ui/roles.h"
 #include "ui/theme.h"
@@ -50,7 +51,7 @@ DetailsTab::DetailsTab(Parts parts, QWidget *parent) : QWidget(parent) {
     addName(*grid, parts.details, parts.rename);
     addNote(*grid, parts.details.img_description, tr("Description"), 2);
     addNote(*grid, parts.details.comments, tr("Comment"), 2);
-    addLine(*grid, 0, parts.details.city, tr("City"));
+    addCity(*grid, parts.details);
     addLine(*grid, 2, parts.details.prov, tr("Province or state"));
     addLine(*grid, 0, parts.details.country, tr("Country"));
     addAltitude(*grid, parts.details.alt);
@@ -93,6 +94,27 @@ void DetailsTab::addLine(QGridLayout &grid, int column, DetailField &field, cons
     tie(bindings_, field, edit);
     addLabel(grid, column, name)->setBuddy(edit);
     grid.addWidget(edit, grid.rowCount() - 1, column + 1);
+}
+
+void DetailsTab::addCity(QGridLayout &grid, DetailFields &details) {
+    auto *edit = new FieldEdit;
+    edit->setAccessibleName(tr("City"));
+    tie(bindings_, details.city, edit);
+    addLabel(grid, 0, tr("City"))->setBuddy(edit);
+    auto *distance = new QLabel(this); // it is shown before it has its place
+    distance->setObjectName(QStringLiteral("cityDistance"));
+    setRole(distance, Role::Quiet);
+    distance->setAccessibleName(tr("Distance to the city"));
+    distance->setToolTip(tr("From the photo to the place of this name"));
+    bindings_.watch(details.place_distance, [distance](std::optional<double> metres) {
+        distance->setText(photo_texts::distance(metres));
+        distance->setVisible(metres.has_value());
+    });
+    auto *row = new QHBoxLayout;
+    row->setSpacing(gap);
+    row->addWidget(edit, 1);
+    row->addWidget(distance);
+    grid.addLayout(row, grid.rowCount() - 1, 1);
 }
 
 void DetailsTab::addAltitude(QGridLayout &grid, DetailField &field) {

@@ -35,6 +35,7 @@ private:
     void addName(QGridLayout &grid, DetailFields &details, const std::function<void()> &rename);
     void addNote(QGridLayout &grid, DetailField &field, const QString &name, int lines);
     void addLine(QGridLayout &grid, int column, DetailField &field, const QString &name);
+    void addCity(QGridLayout &grid, DetailFields &details);
     void addAltitude(QGridLayout &grid, DetailField &field);
 
     Bindings bindings_;

@@ -52,7 +52,8 @@ MainWindow::MainWindow(Pinmora_AppDelegate &delegate, MapPane::MakePage makePage
     setCentralWidget(surface);
     addLists();
     addTabs();
-    setStatusBar(new LibraryStatus(parts_.counts, delegate.interface.statusLine));
+    setStatusBar(
+        new LibraryStatus(parts_.counts, parts_.placeNames.awaited, delegate.interface.statusLine));
     connectActions();
     connectLooks(look);
     restoreLayout();

@@ -65,6 +65,7 @@ private:
     QWidget *makeDetailsTab();
     void addSheets();
     void connectActions();
+    void connectPlaceNames();
     void connectLooks(Appearance inForce);
     void chooseLook(Appearance look);
     void followWindow();

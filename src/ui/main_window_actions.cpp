@@ -1,9 +1,11 @@
 #include "ui/main_window.h"
 
+#include "places/place_settings.h"
 #include "platform/defaults.h"
 #include "shell/pinmora_app_delegate.h"
 #include "shell/subsystems.h"
 #include "ui/file_names.h"
+#include "ui/photo_drag.h"
 #include "ui/photo_panel.h"
 #include "ui/theme.h"
 #include "ui/undo_keys.h"
@@ -130,6 +132,17 @@ void MainWindow::connectActions() {
     QAction *const filter = photos_->onlyWithoutPosition();
     connect(only, &QAction::toggled, filter, &QAction::setChecked);
     connect(filter, &QAction::toggled, only, &QAction::setChecked);
+    connectPlaceNames();
+}
+
+void MainWindow::connectPlaceNames() {
+    QAction *const action = actions_[ActionName::LookUpPlaces];
+    action->setChecked(looksUpPlaces(delegate_.defaults));
+    connect(action, &QAction::toggled, this, [this](bool on) {
+        delegate_.defaults.setText(lookUpPlacesKey, on ? "1" : "0");
+        delegate_.defaults.synchronize();
+        parts_.placeNames.setEnabled(on);
+    });
 }
 
 void MainWindow::connectLooks(Appearance inForce) {
@@ -179,7 +192,7 @@ void MainWindow::keepLayout() {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent *event) {
-    if (!isBusy()) {
+    if (!isBusy() && !carriesPhotos(*event)) { // those are the map's
         answerDrag(*event, parts_.photoIntake.draggingEntered(dragInfo(*event, this)));
     }
 }

@@ -2,16 +2,20 @@
 
 #include "shell/thumbnails.h"
 #include "ui/photo_delegate.h"
+#include "ui/photo_drag.h"
 #include "ui/photo_filter.h"
 #include "ui/photo_header.h"
 #include "ui/photo_table_model.h"
 #include "ui/theme.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace pinmora {
@@ -105,6 +109,34 @@ void PhotoTable::keyPressEvent(QKeyEvent *event) {
         return;
     }
     QTableView::keyPressEvent(event);
+}
+
+void PhotoTable::mousePressEvent(QMouseEvent *event) {
+    QTableView::mousePressEvent(event);
+    const QPoint place = event->position().toPoint();
+    const bool picks = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier &&
+                       selectionModel()->isSelected(indexAt(place));
+    pressed_ = picks ? std::optional(place) : std::nullopt;
+}
+
+void PhotoTable::mouseMoveEvent(QMouseEvent *event) {
+    if (pressed_ && event->buttons().testFlag(Qt::LeftButton)) {
+        const QPoint way = event->position().toPoint() - *pressed_;
+        if (way.manhattanLength() < QApplication::startDragDistance()) {
+            return;
+        }
+        pressed_.reset();
+        if (2 * std::abs(way.x()) >= std::abs(way.y())) {
+            dragPhotos(this, selectionModel()->selectedRows().size());
+            return;
+        }
+    }
+    QTableView::mouseMoveEvent(event);
+}
+
+void PhotoTable::mouseReleaseEvent(QMouseEvent *event) {
+    pressed_.reset();
+    QTableView::mouseReleaseEvent(event);
 }
 
 } // namespace pinmora

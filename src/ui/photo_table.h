@@ -5,6 +5,7 @@
 #include <QTableView>
 
 #include <functional>
+#include <optional>
 
 namespace pinmora {
 
@@ -12,7 +13,8 @@ class PhotoFilter;
 class PhotoOrder;
 class Thumbnails;
 
-/// The table in which photos are seen and chosen.
+/// The table in which photos are seen and chosen, and from which the selected ones are dragged: the
+/// mouse drags them when it goes aside first, and selects rows when it goes up or down.
 class PhotoTable : public QTableView {
     Q_OBJECT
 
@@ -26,6 +28,9 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -33,6 +38,7 @@ private:
     void fitColumns();
 
     std::function<void()> open_;
+    std::optional<QPoint> pressed_; ///< on a row, and what that becomes is open
     Connection thumbnailReady_;
 };
 

@@ -130,6 +130,9 @@ QVariant PhotoTableModel::data(const QModelIndex &index, int role) const {
             return tr("Time from the photo to the nearest point of a track, with the camera clock "
                       "as it is set");
         }
+        if (column == Position) { // the line may be too long for its column
+            return photo_texts::altitudeAndPlace(*photo).toHtmlEscaped();
+        }
         return column == Name
                    ? QVariant(
                          QString::fromStdString(photo->full_file_path().string()).toHtmlEscaped())

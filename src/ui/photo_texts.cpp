@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <cmath>
 #include <string_view>
 
 namespace pinmora {
@@ -64,7 +65,25 @@ QString altitude(const image &photo) {
     return photo.alt().view().empty() ? QString() : rounded(photo.alt(), 0) + QStringLiteral(" m");
 }
 
+QString distance(std::optional<double> metres) {
+    constexpr double kilometre = 1000;
+    if (!metres) {
+        return {};
+    }
+    if (const double whole = std::round(*metres); whole < kilometre) {
+        return QCoreApplication::translate("photo", "%1 m").arg(whole, 0, 'f', 0);
+    }
+    const double tenths = std::round(*metres / kilometre * 10);
+    const bool isFar = tenths >= 100;
+    return QCoreApplication::translate("photo", "%1 km")
+        .arg(isFar ? std::round(*metres / kilometre) : tenths / 10);
+}
+
 QString place(const image &photo) {
+    if (!photo.city().view().empty() && photo.place_distance()) {
+        return textOf(photo.city().view()) + QStringLiteral(", ") +
+               distance(photo.place_distance());
+    }
     for (const Text *name : {&photo.city(), &photo.prov(), &photo.country()}) {
         if (!name->view().empty()) {
             return textOf(name->view());

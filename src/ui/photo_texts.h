@@ -28,9 +28,12 @@ QString taken(const image &photo);
 QString position(const image &photo);
 /// "412 m"
 QString altitude(const image &photo);
-/// The city, or else the larger region that is known.
+/// "340 m", "2.3 km", "12 km": as far as a person wants to know it. Nothing gives "".
+QString distance(std::optional<double> metres);
+/// The city, with the distance to it where that is known ("Zürich, 2.3 km"), or else the larger
+/// region that is known.
 QString place(const image &photo);
-/// "412 m · Zürich"
+/// "412 m · Zürich, 2.3 km"
 QString altitudeAndPlace(const image &photo);
 /// Its size: "0:03", "1:02:40" from an hour, "2 d" from a day.
 QString gap(std::optional<std::chrono::seconds> gap);

@@ -1,85 +1,82 @@
 #include "ui/web_map_view.h"
 
+#include "ui/drop_highlight.h"
+#include "ui/map_web_page.h"
+#include "ui/page_bridge.h"
+#include "ui/photo_drag.h"
 #include "ui/theme.h"
+#include "ui/web_profile.h"
 
-#include <QDesktopServices>
+#include <QDropEvent>
+#include <QEvent>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
 #include <QWebEngineHttpRequest>
 #include <QWebEngineLoadingInfo>
-#include <QWebEngineNewWindowRequest>
-#include <QWebEnginePage>
 #include <QWebEngineProfile>
-#include <QWebEngineSettings>
 #include <QWebEngineView>
 
 #include <utility>
 
 namespace pinmora {
-
 namespace {
 
-void openOutside(const QUrl &address) {
-    if (address.scheme() == QLatin1String("https") || address.scheme() == QLatin1String("http")) {
-        QDesktopServices::openUrl(address);
-    }
+std::string jsonOf(const QJsonObject &message) {
+    return QJsonDocument(message).toJson(QJsonDocument::Compact).toStdString();
 }
-
-/// A page that stays what it is: whatever leads elsewhere opens outside.
-class MapWebPage : public QWebEnginePage {
-public:
-    MapWebPage(QWebEngineProfile *profile, QObject *parent) : QWebEnginePage(profile, parent) {
-        setBackgroundColor(colours().window);
-        connect(
-            this, &QWebEnginePage::newWindowRequested, this,
-            [](const QWebEngineNewWindowRequest &request) { openOutside(request.requestedUrl()); });
-    }
-
-protected:
-    bool acceptNavigationRequest(const QUrl &address, NavigationType type,
-                                 bool isMainFrame) override {
-        if (isMainFrame &&
-            (type == NavigationTypeLinkClicked || type == NavigationTypeFormSubmitted)) {
-            openOutside(address);
-            return false;
-        }
-        return true;
-    }
-};
 
 } // namespace
 
 WebMapView::WebMapView(MapView &view, QWidget *parent)
-    : MapPage(parent), view_(view), browser_(new QWebEngineView(this)) {
-    // Without a name: nothing is written to disk.
-    auto *profile = new QWebEngineProfile(browser_);
-    auto *page = new MapWebPage(profile, browser_);
-    page->settings()->setAttribute(QWebEngineSettings::PluginsEnabled, false);
-    page->settings()->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
-    browser_->setPage(page);
+    : MapPage(parent), view_(view), profile_(sharedWebProfile()),
+      browser_(new QWebEngineView(this)) {
     browser_->setContextMenuPolicy(Qt::NoContextMenu);
     browser_->setAcceptDrops(false);
     browser_->setAccessibleName(tr("Map"));
+    setAcceptDrops(true);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(browser_);
+    auto *highlight = new DropHighlight(dropArea_, QString(), this);
+    highlight->setStyleSheet(QStringLiteral("background: transparent")); // the map is aimed at
+    navigation_.setSingleShot(true);
+    connect(&navigation_, &QTimer::timeout, this, &WebMapView::navigate);
     timeout_.setSingleShot(true);
     connect(&timeout_, &QTimer::timeout, this, [this] {
         browser_->stop();
         finish(false);
     });
-    connect(page, &QWebEnginePage::loadingChanged, this, &WebMapView::loadingChanged);
-    connect(browser_, &QWebEngineView::renderProcessTerminated, this, [this] {
-        state_ = State::Loading;
-        finish(false);
-    });
+    makePage();
 }
 
 WebMapView::~WebMapView() {
     view_.detach();
-    // The page must go before its profile, and both before the view.
-    delete browser_->page();
+    // The page must go before its profile.
+    bridge_.reset();
+    delete page_;
+}
+
+/// In place of the one before it, if there is one.
+void WebMapView::makePage() {
+    bridge_.reset();
+    MapWebPage *const before = std::exchange(page_, new MapWebPage(profile_.get(), browser_));
+    browser_->setPage(page_);
+    delete before;
+    bridge_ = std::make_unique<PageBridge>(*page_);
+    connect(bridge_.get(), &PageBridge::begun, this, [this] {
+        isListening_ = true;
+        arrive();
+    });
+    connect(bridge_.get(), &PageBridge::called, this,
+            [this](const PageCall &call) { view_.called.emit(call); });
+    connect(page_, &QWebEnginePage::loadingChanged, this, &WebMapView::loadingChanged);
+    connect(page_, &QWebEnginePage::renderProcessTerminated, this, [this] {
+        hasCrashed_ = true;
+        finish(false);
+    });
 }
 
 void WebMapView::begin() {
@@ -93,52 +90,157 @@ void WebMapView::obey(const MapView::Command &command) {
         run(script->text);
     } else if (const auto *published = std::get_if<MapView::PublishedName>(&command)) {
         publishedName_ = published->name;
+    } else if (const auto *feed = std::get_if<MapView::Feed>(&command)) {
+        if (state_ == State::Loaded) {
+            bridge_->feed(feed->json);
+        }
     }
 }
 
 void WebMapView::load(const PageRequest &request) {
+    if (std::exchange(hasCrashed_, false)) {
+        makePage(); // the old one's new process would have no channel
+    }
     request_ = request;
     waiting_.clear();
     state_ = State::Loading;
+    isComplete_ = isListening_ = false;
     Q_EMIT loadStarted();
     timeout_.start(request.timeout);
-    QWebEngineHttpRequest http(QUrl(QString::fromStdString(request.address)));
-    if (request.ignoresCache) {
+    navigation_.start();
+}
+
+/// A document has the scripts that stood before its load began: the name under which the controller
+/// is published may follow the request.
+void WebMapView::navigate() {
+    const QUrl address(QString::fromStdString(request_.address));
+    bridge_->serve(address, publishedName_);
+    QWebEngineHttpRequest http(address);
+    if (request_.ignoresCache) {
         http.setHeader("Cache-Control", "no-cache");
         http.setHeader("Pragma", "no-cache");
     }
     browser_->load(http);
 }
 
-/// Where no page has been asked for, or none could be loaded, nobody is there to hear it.
+/// Where no page has been asked for, or none could be loaded, nobody is there to hear it. Thousands
+/// of photos that are placed together move the pointer to one place: once is enough.
 void WebMapView::run(const std::string &script) {
+    if (script == lastScript_) {
+        return;
+    }
+    if (lastScript_.empty()) {
+        QTimer::singleShot(0, this, [this] { lastScript_.clear(); });
+    }
+    lastScript_ = script;
     if (state_ == State::Loading) {
         waiting_.push_back(script);
-    } else if (state_ == State::Loaded) {
-        browser_->page()->runJavaScript(QString::fromStdString(script));
+    } else if (state_ == State::Loaded && bridge_->isAtHome()) {
+        page_->runJavaScript(QString::fromStdString(script));
     }
 }
 
-/// A load that is given up, for its time or for another load, is told of late: it may seem to be
-/// the end of that other one.
+/// The page may also load itself again, or lead elsewhere; until that has come to something, it is
+/// spoken to as before.
 void WebMapView::loadingChanged(const QWebEngineLoadingInfo &info) {
-    if (info.status() == QWebEngineLoadingInfo::LoadSucceededStatus ||
-        info.status() == QWebEngineLoadingInfo::LoadFailedStatus) {
-        finish(info.status() == QWebEngineLoadingInfo::LoadSucceededStatus);
+    switch (info.status()) {
+    case QWebEngineLoadingInfo::LoadStartedStatus:
+        isComplete_ = isListening_ = false;
+        break;
+    case QWebEngineLoadingInfo::LoadSucceededStatus:
+        isComplete_ = true;
+        arrive();
+        break;
+    case QWebEngineLoadingInfo::LoadFailedStatus:
+        finish(false);
+        break;
+    case QWebEngineLoadingInfo::LoadStoppedStatus: // as where a link opens outside
+        break;
+    }
+}
+
+/// A page of ours is there when it can also be spoken to; one from elsewhere will not be.
+void WebMapView::arrive() {
+    if (isComplete_ && (isListening_ || publishedName_.empty() || !bridge_->isAtHome())) {
+        finish(true);
     }
 }
 
 void WebMapView::finish(bool ok) {
-    if (state_ != State::Loading) {
-        return; // it has been given up, or a frame of the page has been loaded again
+    if (state_ == State::Empty) {
+        return; // it has been given up
     }
     timeout_.stop();
-    state_ = ok ? State::Loaded : State::Empty;
-    for (const std::string &script : std::exchange(waiting_, {})) {
-        run(script);
+    state_ = !ok ? State::Empty : bridge_->isAtHome() ? State::Loaded : State::Elsewhere;
+    if (state_ == State::Loaded) {
+        welcome();
     }
+    waiting_.clear();
     browser_->history()->clear();
     Q_EMIT loadFinished(ok);
+}
+
+/// What is to be drawn comes first, then what has been asked of the page meanwhile.
+void WebMapView::welcome() {
+    const std::vector<std::string> waiting = std::exchange(waiting_, {});
+    sendLook();
+    lastScript_.clear();
+    view_.loaded.emit();
+    lastScript_.clear();
+    for (const std::string &script : waiting) {
+        run(script);
+    }
+}
+
+/// The colours that the page draws with.
+void WebMapView::sendLook() {
+    const Colours &look = colours();
+    bridge_->feed(jsonOf({{QStringLiteral("kind"), QStringLiteral("look")},
+                          {QStringLiteral("dark"), look.dark},
+                          {QStringLiteral("window"), look.window.name()},
+                          {QStringLiteral("text"), look.text.name()},
+                          {QStringLiteral("quiet"), look.quietText.name()},
+                          {QStringLiteral("lines"), look.line.name()},
+                          {QStringLiteral("accent"), look.accent.name()},
+                          {QStringLiteral("track"), look.track.name()}}));
+}
+
+void WebMapView::changeEvent(QEvent *event) {
+    MapPage::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        page_->setBackgroundColor(colours().window);
+        if (state_ == State::Loaded) {
+            sendLook();
+        }
+    }
+}
+
+void WebMapView::dragEnterEvent(QDragEnterEvent *event) {
+    const bool takes = state_ == State::Loaded && carriesPhotos(*event);
+    dropArea_.setHasShadow(takes);
+    if (takes) {
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+    } else {
+        event->ignore(); // it is the window's, or nobody's
+    }
+}
+
+void WebMapView::dragLeaveEvent(QDragLeaveEvent *) {
+    dropArea_.setHasShadow(false);
+}
+
+/// Which place that is, the page knows: it answers with a call.
+void WebMapView::dropEvent(QDropEvent *event) {
+    dropArea_.setHasShadow(false);
+    const QPointF place = browser_->mapFrom(this, event->position()) / page_->zoomFactor();
+    if (state_ == State::Loaded) {
+        bridge_->feed(jsonOf({{QStringLiteral("kind"), QStringLiteral("drop")},
+                              {QStringLiteral("x"), place.x()},
+                              {QStringLiteral("y"), place.y()}}));
+    }
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
 }
 
 MapPage *makeWebMapView(MapView &view, QWidget *parent) {

@@ -13,6 +13,8 @@ class PhotoTextsTest : public QObject {
 private Q_SLOTS:
     void gap_data();
     void gap();
+    void distance_data();
+    void distance();
     void place_data();
     void place();
     void positions();
@@ -36,6 +38,30 @@ void PhotoTextsTest::gap() {
     QFETCH(const int, size);
     QTEST(photo_texts::gap(seconds(size)), "text");
     QCOMPARE(photo_texts::gap(std::nullopt), QString());
+}
+
+void PhotoTextsTest::distance_data() {
+    QTest::addColumn<double>("metres");
+    QTest::addColumn<QString>("text");
+    const auto row = [](double metres, const char *text) {
+        QTest::addRow("%g", metres) << metres << QString::fromLatin1(text);
+    };
+    row(0, "0 m");
+    row(340.4, "340 m");
+    row(999.4, "999 m");
+    row(999.5, "1 km");
+    row(2312, "2.3 km");
+    row(2049, "2 km");
+    row(9949, "9.9 km");
+    row(9950, "10 km");
+    row(10'499, "10 km");
+    row(20'015'086, "20015 km");
+}
+
+void PhotoTextsTest::distance() {
+    QFETCH(const double, metres);
+    QTEST(photo_texts::distance(metres), "text");
+    QCOMPARE(photo_texts::distance(std::nullopt), QString());
 }
 
 void PhotoTextsTest::place_data() {
@@ -66,6 +92,9 @@ void PhotoTextsTest::place() {
     photo.setCity(city.toStdString());
     photo.setProv(province.toStdString());
     QTEST(photo_texts::altitudeAndPlace(photo), "text");
+    photo.setPlace_distance(340);
+    const bool isOfACity = !city.isEmpty();
+    QCOMPARE(photo_texts::place(photo).endsWith(QStringLiteral(", 340 m")), isOfACity);
 }
 
 void PhotoTextsTest::positions() {

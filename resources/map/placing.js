@@ -1,0 +1,127 @@
+// What puts photos somewhere, or leads there: clicks on the map and on tracks, photos dropped on
+// it, and positions pasted.
+"use strict";
+
+mapPage.placing = (() => {
+    /** Pixels between a click and a track that still mean the track. */
+    const reach = 8;
+
+    const {view, positions, pointer, tracks, status} = mapPage;
+    const {map} = view;
+    let selection = {count: 0, clickPlaces: false};
+
+    function report(lat, lon) {
+        mapPage.reportPosition(positions.report(lat, lon, map.getZoom()));
+    }
+
+    function trackAt({lat, lng}) {
+        return tracks.near(lat, lng, reach / 2 ** map.getZoom());
+    }
+
+    function line(text, className) {
+        return Object.assign(document.createElement("div"), {textContent: text, className});
+    }
+
+    /** Seconds of the wall clock that the program shows, which needs no zone of time here. */
+    function timeText(seconds) {
+        return new Date(seconds * 1000).toLocaleString("en-GB", {timeZone: "UTC", day: "numeric",
+            month: "short", year: "numeric", hour: "2-digit", minute: "2-digit", second: "2-digit"});
+    }
+
+    function useButton(point) {
+        const button = document.createElement("button");
+        button.type = "button";
+        button.textContent = selection.count > 0 ? "Use This Point" : "Select photos first";
+        button.disabled = selection.count === 0;
+        button.addEventListener("click", () => {
+            map.closePopup();
+            report(point.lat, point.lon);
+        });
+        return button;
+    }
+
+    function offer(point) {
+        const content = line("", "point");
+        if (Number.isFinite(point.time)) {
+            content.append(line(timeText(point.time), "time"));
+        }
+        content.append(line(positions.shown(point.lat, point.lon), "quiet"), useButton(point));
+        map.openPopup(content, [point.lat, view.nearestCopy(point.lon)],
+                      {closeButton: false, minWidth: 120, autoPanPaddingTopLeft: [48, 48],
+                       autoPanPaddingBottomRight: [8, 40]});
+    }
+
+    function clicked({latlng, originalEvent}) {
+        if (originalEvent.detail > 1) {
+            return; // the second of a double click, which zooms
+        }
+        if (pointer.isDraft()) {
+            pointer.placeDraft(latlng.lat, latlng.lng);
+        } else if (selection.clickPlaces) {
+            report(latlng.lat, latlng.lng);
+        } else {
+            const point = trackAt(latlng);
+            if (point) {
+                offer(point);
+            }
+        }
+    }
+
+    let hovering = 0;
+    function hovered({latlng}) {
+        cancelAnimationFrame(hovering);
+        hovering = requestAnimationFrame(() => {
+            const places = pointer.isDraft() || selection.clickPlaces;
+            map.getContainer().classList.toggle("places", places);
+            map.getContainer().classList.toggle("on-track", !places && trackAt(latlng) !== null);
+        });
+    }
+
+    /** Goes to a position that somebody has named; the level is the person's choice. */
+    function go({lat, lon, zoom}) {
+        view.setView(lat, lon, view.levelFor(zoom));
+    }
+
+    function pasted(event) {
+        if (event.target instanceof HTMLInputElement) {
+            return;
+        }
+        event.preventDefault();
+        const read = mapPage.coordinates(event.clipboardData?.getData("text/plain") ?? "");
+        if (!read || read.refused) {
+            status.note(read?.refused ?? "What was pasted is no position.");
+            return;
+        }
+        go(read);
+        if (selection.count > 0) {
+            report(read.lat, read.lon);
+        }
+    }
+
+    function dropped(x, y) {
+        const size = map.getSize();
+        if (x >= 0 && y >= 0 && x <= size.x && y <= size.y) {
+            const {lat, lng} = map.containerPointToLatLng([x, y]);
+            report(lat, lng);
+        }
+    }
+
+    map.on("click", clicked);
+    map.on("mousemove", hovered);
+    document.addEventListener("paste", pasted);
+    document.addEventListener("keydown", (event) => {
+        if (event.key === "Escape" && !event.defaultPrevented && !pointer.escape()) {
+            map.closePopup();
+        }
+    });
+
+    return {
+        go,
+        dropped,
+        /** {count: how many photos are selected, clickPlaces: whether a click places them} */
+        setSelection({count, clickPlaces}) {
+            selection = {count: Number(count) || 0, clickPlaces: clickPlaces === true};
+            map.closePopup();
+        },
+    };
+})();

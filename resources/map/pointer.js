@@ -1,0 +1,158 @@
+// The pin: where the photo is that is shown, or, as a draft, where photos are to be put.
+"use strict";
+
+mapPage.pointer = (() => {
+    const longestLabel = 200;
+    const hint = "Drag the pin or click the map to place the photos";
+    const pin = '<svg viewBox="0 0 30 40" width="30" height="40" aria-hidden="true">' +
+        '<path class="body" d="M15 38.5C12 31 3 24 3 15a12 12 0 0 1 24 0c0 9-9 16-12 23.5z"/>' +
+        '<circle class="eye" cx="15" cy="15" r="4.5"/></svg>';
+
+    const {view, positions} = mapPage;
+    let marker = null;
+    let isDraft = false;
+    let shownLabel = "";
+    let draggedFrom = null; // where the pin was when the drag under way began
+
+    function remove() {
+        const old = marker;
+        marker = null; // first: what ends a drag in its midst is no report
+        draggedFrom = null;
+        old?.remove();
+        if (isDraft) {
+            isDraft = false;
+            mapPage.status.setHint("");
+        }
+    }
+
+    function report() {
+        const {lat, lng} = marker.getLatLng();
+        mapPage.reportPosition(positions.report(lat, lng, view.map.getZoom()));
+    }
+
+    /** The pin is where it is to be: a draft becomes the pointer. */
+    function place() {
+        draggedFrom = null;
+        describe(isDraft ? "" : shownLabel, false);
+        report();
+    }
+
+    function made(lat, lon) {
+        const icon = L.divIcon({html: pin, className: "pin", iconSize: [30, 40],
+                                iconAnchor: [15, 39]});
+        const one = L.marker([lat, lon], {icon, draggable: true, autoPan: true, keyboard: true});
+        const ifShown = (act) => () => { if (one === marker) { act(); } };
+        one.on("dragstart", ifShown(() => { draggedFrom = one.getLatLng(); }));
+        one.on("dragend", ifShown(place));
+        one.on("click", ifShown(() => { if (isDraft) { place(); } }));
+        one.addTo(view.map).getElement().addEventListener("keydown", (event) => {
+            if (event.key === "Enter" && isDraft) {
+                place();
+            }
+        });
+        return one;
+    }
+
+    /** What the pin is: a draft, or the pointer, perhaps with a label. */
+    function describe(label, draft) {
+        if (isDraft !== draft) {
+            mapPage.status.setHint(draft ? hint : "");
+        }
+        isDraft = draft;
+        shownLabel = label;
+        const element = marker.getElement();
+        element.classList.toggle("draft", draft);
+        element.setAttribute("role", "button");
+        element.setAttribute("aria-label", draft ? "New position" : label || "Position");
+        marker.unbindTooltip();
+        if (label) {
+            const text = document.createElement("span");
+            text.textContent = label;
+            marker.bindTooltip(text, {direction: "top", offset: [0, -38], className: "label"});
+        }
+    }
+
+    function put(lat, lon, label, draft) {
+        if (draggedFrom) {
+            remove(); // it does not go on following the mouse
+        }
+        const at = [lat, view.nearestCopy(lon)];
+        marker = marker?.setLatLng(at) ?? made(...at);
+        describe(label, draft);
+    }
+
+    /** Ends a drag in its midst; whether there was one. */
+    function takeDragBack() {
+        if (!draggedFrom) {
+            return false;
+        }
+        put(draggedFrom.lat, draggedFrom.lng, shownLabel, isDraft);
+        return true;
+    }
+
+    const labelOf = (label) => (typeof label === "string" ? label.slice(0, longestLabel) : "");
+
+    view.map.on("moveend", () => {
+        if (marker && !draggedFrom) {
+            const {lat, lng} = marker.getLatLng();
+            const nearest = view.nearestCopy(lng);
+            if (Math.abs(nearest - lng) > 1) {
+                marker.setLatLng([lat, nearest]);
+            }
+        }
+    });
+
+    return {
+        remove,
+        /** The draft is to be there. */
+        placeDraft(lat, lon) {
+            put(lat, lon, "", true);
+            place();
+        },
+        isShown: () => marker !== null,
+        isDraft: () => isDraft,
+        /** Takes back what is being done with the pin; whether there was anything. */
+        escape() {
+            if (takeDragBack()) {
+                return true;
+            }
+            if (isDraft) {
+                remove();
+                return true;
+            }
+            return false;
+        },
+        /** Moves the pointer; the view only if it would be out of sight. */
+        move(lat, lon, label) {
+            if (!positions.isPosition(lat, lon)) {
+                remove();
+                return;
+            }
+            view.byProgram(() => view.bringIntoSight(lat, lon));
+            put(lat, lon, labelOf(label), false);
+        },
+        /** Moves the pointer and the view. */
+        moveWithView(lat, lon, level, label) {
+            if (!positions.isPosition(lat, lon)) {
+                remove();
+                return;
+            }
+            view.byProgram(() => view.setView(lat, lon, view.levelFor(level)));
+            put(lat, lon, labelOf(label), false);
+        },
+        /** A draft there, at that level; in the middle of what is seen when no place is known. */
+        addDraft(lat, lon, level) {
+            const known = positions.isPosition(lat, lon) && !(lat === 0 && lon === 0 && level === 1);
+            if (known) {
+                view.byProgram(() => view.setView(lat, lon, view.levelFor(level)));
+                put(lat, lon, "", true);
+                return;
+            }
+            if (!mapPage.tracks.box() && !mapPage.photos.box()) {
+                view.showWorld();
+            }
+            const {lat: middle, lng} = view.map.getCenter();
+            put(middle, lng, "", true);
+        },
+    };
+})();
