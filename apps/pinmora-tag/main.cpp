@@ -3,7 +3,9 @@
 #include "shown_text.h"
 #include "tag_job.h"
 
+#include "places/place_settings.h"
 #include "platform/defaults.h"
+#include "services/local_server.h"
 
 #include <QCoreApplication>
 
@@ -65,9 +67,17 @@ void requestStop(int signal) {
 
 int tagPhotos(const Options &options, const std::filesystem::path &resources) {
     Console console;
+    const Defaults defaults;
+    LocalServer server({});
+    const auto service = [&] {
+        return placeServiceFrom(
+            defaults, [&server] { return server.address(); }, LocalServer::placeNamespace);
+    };
+    const bool withPlaces = options.places && looksUpPlaces(defaults);
     const Report report =
         runTagJob(options, {.resources = resources,
-                            .logReading = Defaults().text("logReading"),
+                            .placeService = withPlaces ? service : std::function<PlaceService()>(),
+                            .logReading = defaults.text("logReading"),
                             .tell = [&](const std::string &line) { console.tell(line); },
                             .progress = [&](std::string_view what, std::size_t done,
                                             std::size_t of) { console.progress(what, done, of); },

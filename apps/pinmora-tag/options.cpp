@@ -13,8 +13,8 @@ namespace {
 constexpr std::string_view help =
     R"(Usage: pinmora-tag [OPTION]... --out DIR PATH...
 
-Gives every photo the position of the GPS track point nearest in time, and saves
-tagged copies. The photos themselves are never changed.
+Gives every photo the position of the GPS track point nearest in time and the
+names of the place there, and saves tagged copies. The photos themselves are never changed.
 
 PATHs are photos, folders of photos (one level deep) and GPS logs; logs found in
 a folder are read too.
@@ -28,6 +28,8 @@ a folder are read too.
                           clock time; tolerant: any time form, universal time,
                           modern receivers, gaps in the log. auto (the default)
                           takes your setting, and tolerant where only that fits
+  --no-places             do not look up city, province and country of the new
+                          positions; your setting may say so too
   --out DIR               the folder for the copies; made if it is missing.
                           Nothing in it is ever replaced
   --dry-run               say what would be done, and save nothing
@@ -38,13 +40,14 @@ Exit status: 0 all done; 1 a photo failed or found no track point, or something
 that was named could not be read; 2 wrong usage.
 )";
 
-enum Option { Gps = 1000, Offset, Name, Logs, Out, DryRun, Json, Help, Version };
+enum Option { Gps = 1000, Offset, Name, Logs, NoPlaces, Out, DryRun, Json, Help, Version };
 
 constexpr std::array options{
     option{"gps", required_argument, nullptr, Gps},
     option{"offset", required_argument, nullptr, Offset},
     option{"name", required_argument, nullptr, Name},
     option{"logs", required_argument, nullptr, Logs},
+    option{"no-places", no_argument, nullptr, NoPlaces},
     option{"out", required_argument, nullptr, Out},
     option{"dry-run", no_argument, nullptr, DryRun},
     option{"json", no_argument, nullptr, Json},
@@ -113,6 +116,9 @@ std::optional<Usage> take(int which, const char *argument, Options &into) {
             return wrongUsage("--logs wants auto, exact or tolerant, not \"" + std::string(text) +
                               "\"");
         }
+        break;
+    case NoPlaces:
+        into.places = false;
         break;
     case Out:
         into.out = text;

@@ -20,6 +20,7 @@ struct Options {
     std::chrono::seconds offset{0};           ///< signed; added to the photos' times
     std::optional<std::string> name;          ///< base of the copies' new names
     LogsChoice reading = LogsChoice::Auto;
+    bool places = true; ///< names of the new positions are looked up
     bool dryRun = false;
     bool json = false;
 };

@@ -55,6 +55,9 @@ std::string jsonText(const Report &report) {
             {QStringLiteral("lat"), toQString(photo.lat)},
             {QStringLiteral("lon"), toQString(photo.lon)},
             {QStringLiteral("alt"), toQString(photo.alt)},
+            {QStringLiteral("city"), toQString(validText(photo.city))},
+            {QStringLiteral("prov"), toQString(validText(photo.prov))},
+            {QStringLiteral("country"), toQString(validText(photo.country))},
             {QStringLiteral("seconds_apart"),
              photo.secondsApart ? QJsonValue(static_cast<qint64>(*photo.secondsApart))
                                 : QJsonValue()},

@@ -22,10 +22,11 @@ std::string_view statusName(Status status);
 
 /// One photo of the report.
 struct PhotoLine {
-    std::string file = {};                         ///< full path of the original
-    std::optional<WallClock> taken = {};           ///< as the camera's clock showed it
-    std::optional<WallClock> corrected = {};       ///< with the offset
-    std::string lat = {}, lon = {}, alt = {};      ///< as the record holds them; "" for none
+    std::string file = {};                    ///< full path of the original
+    std::optional<WallClock> taken = {};      ///< as the camera's clock showed it
+    std::optional<WallClock> corrected = {};  ///< with the offset
+    std::string lat = {}, lon = {}, alt = {}; ///< as the record holds them; "" for none
+    std::string city = {}, prov = {}, country = {};
     std::optional<std::int64_t> secondsApart = {}; ///< from the corrected time to the point's
     std::string savedAs = {};                      ///< full path of the copy; "" for none
     Status status = Status::Saved;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "places/place_service.h"
+
 #include <cstddef>
 #include <filesystem>
 #include <functional>
@@ -11,7 +13,9 @@ namespace pinmora::tag {
 
 /// What the command has around it besides its options.
 struct Surroundings {
-    std::filesystem::path resources;               ///< the program's resource folder
+    std::filesystem::path resources; ///< the program's resource folder
+    /// Where place names are asked for; empty when they are not to be looked up.
+    std::function<PlaceService()> placeService;
     std::optional<std::string> logReading;         ///< the person's setting: "exact" or "tolerant"
     std::function<void(const std::string &)> tell; ///< one line for the person, without line end
     /// How far the work has come; `of` is 0 where the end is not known.

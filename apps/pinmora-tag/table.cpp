@@ -16,10 +16,11 @@ namespace pinmora::tag {
 
 namespace {
 
-constexpr std::size_t columns = 7;
+constexpr std::size_t columns = 8;
 using Row = std::array<QString, columns>;
 
-constexpr std::array<bool, columns> alignedRight{false, false, false, false, true, true, false};
+constexpr std::array<bool, columns> alignedRight{false, false, false, false,
+                                                 true,  false, true,  false};
 
 QString toQString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -34,6 +35,14 @@ QString shownTime(const std::optional<WallClock> &time, const char *without) {
                 : QString::fromUtf8(without);
 }
 
+/// "Zug, Switzerland"; the province only where there is no city.
+QString place(const PhotoLine &photo) {
+    QStringList names{toQString(terminalText(photo.city.empty() ? photo.prov : photo.city)),
+                      toQString(terminalText(photo.country))};
+    names.removeAll(QString());
+    return names.join(QStringLiteral(", "));
+}
+
 Row rowOf(const PhotoLine &photo) {
     const bool hasPosition = !photo.lat.empty() && !photo.lon.empty();
     return {
@@ -43,6 +52,7 @@ Row rowOf(const PhotoLine &photo) {
         hasPosition ? toQString(terminalText(photo.lat + ", " + photo.lon)) : QStringLiteral("-"),
         photo.alt.empty() ? QString()
                           : toQString(terminalText(photo.alt)).trimmed() + QStringLiteral(" m"),
+        place(photo),
         photo.secondsApart ? QStringLiteral("%1 s").arg(*photo.secondsApart) : QString(),
         photo.savedAs.empty() ? QStringLiteral("-") : fileName(photo.savedAs),
     };
@@ -94,8 +104,8 @@ QString summaryOf(const Report &report) {
 std::string tableText(const Report &report) {
     std::vector<Row> rows{{QStringLiteral("Name"), QStringLiteral("Taken"),
                            QStringLiteral("Corrected"), QStringLiteral("Position"),
-                           QStringLiteral("Altitude"), QStringLiteral("Apart"),
-                           QStringLiteral("Saved as")}};
+                           QStringLiteral("Altitude"), QStringLiteral("Place"),
+                           QStringLiteral("Apart"), QStringLiteral("Saved as")}};
     for (const PhotoLine &photo : report.photos) {
         rows.push_back(rowOf(photo));
     }

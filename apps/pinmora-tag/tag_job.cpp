@@ -2,6 +2,7 @@
 
 #include "loading.h"
 #include "memory_library.h"
+#include "place_lookup.h"
 
 #include "matching/nearest_points.h"
 #include "matching/placing.h"
@@ -79,6 +80,15 @@ PhotoLine placePhoto(image &photo, const offset &clockOffset, NearestPoints *poi
     return line;
 }
 
+void reportPlaces(const std::vector<image *> &photos, Report &report) {
+    for (std::size_t i = 0; i < photos.size(); ++i) {
+        PhotoLine &line = report.photos[i];
+        line.city = photos[i]->city().string();
+        line.prov = photos[i]->prov().string();
+        line.country = photos[i]->country().string();
+    }
+}
+
 /// Makes the folder for the copies if it is missing; says why nothing can be saved there.
 bool prepareSaving(const Saving &saving, const std::filesystem::path &folder,
                    const Surroundings &surroundings) {
@@ -138,10 +148,13 @@ Report runTagJob(const Options &options, const Surroundings &surroundings) {
                   .trouble = loaded.trouble};
     NearestPoints points(library.context);
     LocalZone zone;
+    PlaceLookup places(library, surroundings);
     for (image *photo : loaded.photos) {
         report.photos.push_back(
             placePhoto(*photo, clockOffset, loaded.hadLogs ? &points : nullptr, zone));
     }
+    places.wait();
+    reportPlaces(loaded.photos, report);
     if (options.dryRun) {
         for (PhotoLine &line : report.photos) {
             line.status = line.status == Status::Saved ? Status::Matched : line.status;

@@ -83,15 +83,16 @@ void OptionsTest::refusesWrongUsage() {
 }
 
 void OptionsTest::takesEverythingInAnyOrder() {
-    const auto result =
-        parse({"photos", "--gps", "a.gpx", "--dry-run", "--gps=b.log", "--json", "--logs",
-               "tolerant", "--name", "trip", "--out", "there", "--", "--odd.jpg", "caf\xe9.jpg"});
+    const auto result = parse({"photos", "--gps", "a.gpx", "--dry-run", "--gps=b.log", "--json",
+                               "--logs", "tolerant", "--no-places", "--name", "trip", "--out",
+                               "there", "--", "--odd.jpg", "caf\xe9.jpg"});
     QVERIFY(std::holds_alternative<Options>(result));
     const auto &options = std::get<Options>(result);
     QVERIFY(options.logs == (std::vector<std::filesystem::path>{"a.gpx", "b.log"}));
     QVERIFY(options.paths ==
             (std::vector<std::filesystem::path>{"photos", "--odd.jpg", "caf\xe9.jpg"}));
     QVERIFY(options.out == "there" && options.name == "trip");
+    QVERIFY(!options.places && Options().places);
     QVERIFY(options.dryRun && options.json && options.reading == LogsChoice::Tolerant);
 
     const auto help = parse({"--help"});

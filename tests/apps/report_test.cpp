@@ -23,19 +23,23 @@ namespace {
 
 Report sample() {
     const WallClock taken = std::chrono::local_days(std::chrono::year(2025) / 6 / 14) + 10h;
-    return {
-        .tracks = 2,
-        .points = 900,
-        .photos = {
-            {.file = "/p/IMG_0001.JPG",
-             .taken = taken,
-             .corrected = taken + 40s,
-             .lat = "+47.3825",
-             .lon = "8.50",
-             .alt = "412.5",
-             .secondsApart = 3,
-             .savedAs = "/out/IMG_0001.JPG"},
-            {.file = "/p/caf\xe9 \xc3\xa9.jpg", .status = Status::Failed, .message = "disk full"}}};
+    return {.tracks = 2,
+            .points = 900,
+            .photos = {{.file = "/p/IMG_0001.JPG",
+                        .taken = taken,
+                        .corrected = taken + 40s,
+                        .lat = "+47.3825",
+                        .lon = "8.50",
+                        .alt = "412.5",
+                        .city = "Zürich",
+                        .prov = "ZH",
+                        .country = "Switzerland",
+                        .secondsApart = 3,
+                        .savedAs = "/out/IMG_0001.JPG"},
+                       {.file = "/p/caf\xe9 \xc3\xa9.jpg",
+                        .prov = "ZH",
+                        .status = Status::Failed,
+                        .message = "disk full"}}};
 }
 
 } // namespace
@@ -69,6 +73,9 @@ void ReportTest::jsonKeepsTextsAndTellsNullFromEmpty() {
     QCOMPARE(first[u"corrected"].toString(), QStringLiteral("2025-06-14T10:00:40"));
     QCOMPARE(first[u"lat"].toString(), QStringLiteral("+47.3825"));
     QCOMPARE(first[u"lon"].toString(), QStringLiteral("8.50"));
+    QCOMPARE(first[u"city"].toString(), QStringLiteral("Zürich"));
+    QCOMPARE(first[u"prov"].toString(), QStringLiteral("ZH"));
+    QCOMPARE(first[u"country"].toString(), QStringLiteral("Switzerland"));
     QCOMPARE(first[u"seconds_apart"].toInt(), 3);
     QCOMPARE(first[u"status"].toString(), QStringLiteral("saved"));
     const QJsonObject second = document[u"photos"][1].toObject();
@@ -84,7 +91,8 @@ void ReportTest::tableColumnsStandUnderEachOther() {
     QCOMPARE(lines[1].indexOf(QStringLiteral("2025-06-14")), lines[0].indexOf(u"Taken"));
     QCOMPARE(lines[2].indexOf(QStringLiteral("no capture time")), lines[0].indexOf(u"Taken"));
     QCOMPARE(lines[1].indexOf(QStringLiteral("+47.3825, 8.50")), lines[0].indexOf(u"Position"));
-    QVERIFY(lines[1].contains(QStringLiteral("412.5 m")));
+    QVERIFY(lines[1].contains(QStringLiteral("412.5 m  Zürich, Switzerland ")));
+    QCOMPARE(lines[2].indexOf(QStringLiteral("ZH ")), lines[0].indexOf(u"Place"));
     QVERIFY(lines[1].endsWith(QStringLiteral("IMG_0001.JPG")));
     QVERIFY(lines[3].contains(QStringLiteral("failed: disk full")));
     QCOMPARE(lines[4], QStringLiteral("2 photos: 1 saved, 1 failed. 2 tracks, 900 points."));

@@ -22,6 +22,9 @@ private Q_SLOTS:
     void tagsTheSampleOuting();
     void leavesOriginalsAsTheyAre();
     void aDryRunSavesNothing();
+    void writesThePlacesOfNewPositions();
+    void looksNoPlacesUp_data();
+    void looksNoPlacesUp();
     void withoutLogsPhotosAreSavedAsTheyAre();
     void anEmptyLogLeavesPhotosUnmatched();
     void readsTolerantOnlyWhereExactPlacesNothing();
@@ -170,6 +173,49 @@ void TagCommandTest::aDryRunSavesNothing() {
     QCOMPARE(result.exit, 0);
     QCOMPARE(result.statuses(), QStringList{QStringLiteral("matched")});
     QVERIFY(!QFileInfo::exists(out));
+}
+
+void TagCommandTest::writesThePlacesOfNewPositions() {
+    const QString photo = outing + QStringLiteral("/IMG_0412.JPG");
+    const QString log = outing + QStringLiteral("/zugerberg.gpx");
+    const QStringList tags{QStringLiteral("-City"), QStringLiteral("-Country-PrimaryLocationName")};
+    const Run result = run({log, photo});
+    QVERIFY2(result.exit == 0, qPrintable(result.errors));
+    const QJsonObject tagged = result.photo(photo);
+    QCOMPARE(tagged[u"city"].toString(), QStringLiteral("Zug"));
+    QCOMPARE(tagged[u"prov"].toString(), QStringLiteral("Zug"));
+    QCOMPARE(tagged[u"country"].toString(), QStringLiteral("Switzerland"));
+    QCOMPARE(exifTool(tagged[u"saved_as"].toString(), tags), QByteArray("Zug\nSwitzerland"));
+
+    // Positions that photos come with are not looked up.
+    const QString placed = folder->filePath(QStringLiteral("placed.jpg"));
+    QVERIFY(QFile::copy(outing + QStringLiteral("/IMG_0371.JPG"), placed));
+    exifTool(placed, {QStringLiteral("-overwrite_original"), QStringLiteral("-City=")});
+    const QJsonObject untouched = run({placed}).photo(placed);
+    QVERIFY(!untouched[u"lat"].toString().isEmpty());
+    QCOMPARE(untouched[u"city"], QJsonValue(QString()));
+}
+
+void TagCommandTest::looksNoPlacesUp_data() {
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("settings");
+    QTest::newRow("told so") << QStringList{QStringLiteral("--no-places")} << QByteArray();
+    QTest::newRow("set so") << QStringList() << QByteArray("lookUpPlaces=0");
+    QTest::newRow("at a service that is not there")
+        << QStringList() << QByteArray("placeServer=http://127.0.0.1:9");
+}
+
+void TagCommandTest::looksNoPlacesUp() {
+    QFETCH(QStringList, options);
+    QFETCH(QByteArray, settings);
+    const QByteArray config = qgetenv("XDG_CONFIG_HOME");
+    QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("Pinmora")));
+    write(QStringLiteral("Pinmora/Pinmora.ini"), "[General]\n" + settings + '\n');
+    qputenv("XDG_CONFIG_HOME", folder->path().toUtf8());
+    const Run result = run(options << QStringLiteral("--dry-run") << outing);
+    qputenv("XDG_CONFIG_HOME", config);
+    QCOMPARE(result.statuses(), QStringList{QStringLiteral("matched")});
+    QCOMPARE(result.photo(QStringLiteral("IMG_0412.JPG"))[u"city"], QJsonValue(QString()));
 }
 
 void TagCommandTest::withoutLogsPhotosAreSavedAsTheyAre() {
