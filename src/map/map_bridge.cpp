@@ -4,9 +4,7 @@
 #include "persistence/undo_group.h"
 #include "platform/number_text.h"
 
-#include <cmath>
 #include <cstdint>
-#include <limits>
 
 namespace pinmora {
 
@@ -63,13 +61,12 @@ void MapBridge::latLonJavascript(const std::string &position) {
 
 void MapBridge::zoomChangeJavascript(const std::string &level) {
     const std::vector<image *> &photos = outlets_.pictureArray.selectedObjects();
-    const std::optional<double> number = plainDecimal(level);
-    if (!number || std::abs(*number) > std::numeric_limits<std::int32_t>::max() ||
-        photos.size() != 1 || !photos.front()->lat_and_lon()) {
+    const std::optional<std::int32_t> zoom = zoomFrom(level);
+    if (!zoom || photos.size() != 1 || !photos.front()->lat_and_lon()) {
         return;
     }
     const UnregisteredChanges mapsOwn(context_);
-    photos.front()->setZoom(leadingInt(level));
+    photos.front()->setZoom(zoom);
     photos.front()->setZoom_reset(1);
 }
 

@@ -3,24 +3,21 @@
 #include "platform/number_text.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace pinmora {
 namespace {
 
 constexpr std::size_t longestPart = 64;
 
-/// A number that a page has written: without blanks, and of a sensible length.
-bool isPosition(std::string_view text, double limit) {
-    return text.size() <= longestPart && trimmed(text) == text && degreesWithin(text, limit);
+/// Whether a page may have written it for a number: without blanks, and of a sensible length.
+bool isNumberText(std::string_view text) {
+    return text.size() <= longestPart && trimmed(text) == text;
 }
 
-std::optional<std::int32_t> wholeNumber(std::string_view text) {
-    std::int32_t number = 0;
-    const char *const end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, number);
-    return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
+bool isPosition(std::string_view text, double limit) {
+    return isNumberText(text) && degreesWithin(text, limit);
 }
 
 } // namespace
@@ -28,6 +25,12 @@ std::optional<std::int32_t> wholeNumber(std::string_view text) {
 std::optional<double> degreesWithin(std::string_view text, double limit) {
     const std::optional<double> number = plainDecimal(text);
     return number && std::abs(*number) <= limit ? number : std::nullopt;
+}
+
+std::optional<std::int32_t> zoomFrom(std::string_view text) {
+    const std::optional<double> level = isNumberText(text) ? plainDecimal(text) : std::nullopt;
+    const bool isLevel = level && std::abs(*level) <= std::numeric_limits<std::int32_t>::max();
+    return isLevel ? std::optional(leadingInt(text)) : std::nullopt;
 }
 
 std::optional<Placement> placementFrom(std::string_view said) {
@@ -43,7 +46,7 @@ std::optional<Placement> placementFrom(std::string_view said) {
         }
         said.remove_prefix(end + 1);
     }
-    const std::optional<std::int32_t> zoom = wholeNumber(parts[2]);
+    const std::optional<std::int32_t> zoom = zoomFrom(parts[2]);
     if (!isPosition(parts[0], 90) || !isPosition(parts[1], 180) || !zoom) {
         return std::nullopt;
     }

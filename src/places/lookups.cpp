@@ -64,24 +64,25 @@ void PlaceNames::Lookups::lookUp(image &photo) {
     cancel(photo);
     if (enabled_ && canBeAsked(positionOf(photo))) {
         UndoManager *const undo = context_.undoManager();
-        ask(photo, undo ? undo->currentStep() : 0);
+        ask(photo, undo ? undo->currentStep() : 0, namesOf(photo));
     }
     countAwaited();
 }
 
-void PlaceNames::Lookups::ask(image &photo, std::uint64_t step) {
+void PlaceNames::Lookups::ask(image &photo, std::uint64_t step, const Names &held) {
     const RequestQueue::Number number = queue_.add(positionOf(photo));
-    lookups_[&photo] = {number, step, namesOf(photo)};
+    lookups_[&photo] = {number, step, held};
     photos_[number] = &photo;
     if (step != 0) {
-        unanswered_[step].insert(&photo);
+        unanswered_[step][&photo] = held;
     }
 }
 
 void PlaceNames::Lookups::askAgain(image &photo, std::uint64_t step) {
     if (enabled_ && !photo.isDeleted() && !lookups_.contains(&photo) &&
         canBeAsked(positionOf(photo))) {
-        ask(photo, step);
+        const Names held = unanswered_[step].try_emplace(&photo, namesOf(photo)).first->second;
+        ask(photo, step, held);
     }
 }
 
@@ -178,8 +179,8 @@ void PlaceNames::Lookups::follow(const UndoStep &step) {
 void PlaceNames::Lookups::didRedo(const UndoStep &step) {
     follow(step);
     if (const auto found = unanswered_.find(step.id); found != unanswered_.end()) {
-        const std::unordered_set<image *> photos = found->second;
-        for (image *photo : photos) {
+        const auto photos = found->second;
+        for (const auto &[photo, held] : photos) {
             askAgain(*photo, step.id);
         }
         countAwaited();

@@ -11,7 +11,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace pinmora {
@@ -36,10 +35,11 @@ public:
     void setEnabled(bool enabled);
 
 private:
+    using Names = std::array<Text, 3>;
     struct Lookup {
         RequestQueue::Number number;
-        std::uint64_t step;       ///< of undo, that wrote the position; 0 without undo
-        std::array<Text, 3> held; ///< the names that may be written over
+        std::uint64_t step; ///< of undo, that wrote the position; 0 without undo
+        Names held;         ///< those that may be written over
     };
 
     void didChange(Record &record, std::string_view key) override;
@@ -49,7 +49,9 @@ private:
     void didRedo(const UndoStep &step) override;
     void didChangeHistory() override;
 
-    void ask(image &photo, std::uint64_t step);
+    void ask(image &photo, std::uint64_t step, const Names &held);
+    /// What was held when the step asked for the first time still counts: names that have been
+    /// typed since are to stay.
     void askAgain(image &photo, std::uint64_t step);
     void cancel(image &photo);
     void follow(const UndoStep &step);
@@ -62,8 +64,8 @@ private:
     bool enabled_ = true;
     std::unordered_map<image *, Lookup> lookups_;
     std::unordered_map<RequestQueue::Number, image *> photos_;
-    /// By step: whose names it has asked for and not got.
-    std::unordered_map<std::uint64_t, std::unordered_set<image *>> unanswered_;
+    /// By step: whose names it has asked for and not got, and those held then.
+    std::unordered_map<std::uint64_t, std::unordered_map<image *, Names>> unanswered_;
     /// By serial: photos that were deleted while their names were asked for, and for which step.
     std::unordered_map<std::uint32_t, std::uint64_t> deleted_;
     std::vector<image *> broughtBack_; ///< by what is being undone or done again

@@ -36,13 +36,14 @@ QNetworkRequest requestFor(const QUrl &url, const PlaceService &service) {
     return request;
 }
 
-/// An answer of any status is one.
-bool isAnswer(QNetworkReply::NetworkError error) {
+/// An answer of any status is one, if it is whole. Some statuses show as errors of the proxy or of
+/// the protocol.
+bool isAnswer(const QNetworkReply &reply) {
+    constexpr int firstOfErrors = 400;
+    const QNetworkReply::NetworkError error = reply.error();
     return error == QNetworkReply::NoError ||
-           (error > QNetworkReply::UnknownProxyError &&
-            error != QNetworkReply::ProtocolUnknownError &&
-            error != QNetworkReply::ProtocolInvalidOperationError &&
-            error != QNetworkReply::ProtocolFailure);
+           (error > QNetworkReply::UnknownNetworkError &&
+            reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() >= firstOfErrors);
 }
 
 } // namespace
@@ -99,7 +100,7 @@ void PlaceRequest::connectionDidFinishLoading() {
     if (!ended_) {
         return; // it has been broken off
     }
-    PlaceOutcome outcome{.isAnswered = isAnswer(reply_->error())};
+    PlaceOutcome outcome{.isAnswered = isAnswer(*reply_)};
     if (outcome.isAnswered) {
         outcome.answer = readPlaceAnswer(receivedData_);
     }

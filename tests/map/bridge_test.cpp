@@ -44,7 +44,7 @@ private Q_SLOTS:
         row(":8:3", untouched);
         row("90.0001:8:3", untouched);
         row("47:180.5:3", untouched);
-        row("47:8:3.5", untouched);
+        row("47:8:3.7", "47 8 3 - map");
         row("47:8:x", untouched);
         row("47:8: 3", untouched);
         row("47:8:99999999999", untouched);

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void redoAsksWhereNamesNeverArrived();
     void undoOfALaterPositionAsksNothing();
     void aDeletionTakenBackAsksAgain();
+    void typedNamesStayWhereItIsAskedAgain();
     void typedNamesStay_data();
     void typedNamesStay();
     void switchedOffNothingIsAsked();
@@ -163,6 +164,19 @@ void LookupsTest::undoOfALaterPositionAsksNothing() {
     desk.undo.undo();
     QCOMPARE(namesOf(desk.photo), QByteArray("||"));
     QVERIFY(!desk.undo.canUndo());
+}
+
+void LookupsTest::typedNamesStayWhereItIsAskedAgain() {
+    Asked desk;
+    desk.endTurn();
+    desk.photo.setCity("Here");
+    desk.endTurn();
+    desk.context.deleteObject(desk.photo);
+    desk.endTurn();
+    desk.undo.undo();
+    QVERIFY(desk.isAsked(2));
+    QVERIFY(desk.answer("A, B, C"));
+    QCOMPARE(namesOf(desk.photo), QByteArray("Here|B|C"));
 }
 
 void LookupsTest::aDeletionTakenBackAsksAgain() {

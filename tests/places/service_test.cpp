@@ -57,8 +57,10 @@ void ServiceTest::otherAnswers_data() {
     row("an error's status", "A|B|C", [=](const Request &request) {
         request.send(TestService::whole(good, "500 Internal Server Error"));
     });
-    row("another error's status", "A|B|C",
-        [=](const Request &request) { request.send(TestService::whole(good, "404 Not Found")); });
+    for (const char *status : {"400 Bad Request", "404 Not Found", "407 For a Proxy", "999 ?"}) {
+        row(status, "A|B|C",
+            [=](const Request &request) { request.send(TestService::whole(good, status)); });
+    }
     row("a piece at a time", "A|B|C", [=](const Request &request) {
         const QByteArray all = TestService::whole(good);
         for (qsizetype i = 0; i < all.size(); i += 50) {
