@@ -35,9 +35,9 @@ QString shownTime(const std::optional<WallClock> &time, const char *without) {
                 : QString::fromUtf8(without);
 }
 
-/// "Zug, Switzerland"; the province only where there is no city.
+/// "Zürich, Zurich, Switzerland", without what is not known.
 QString place(const PhotoLine &photo) {
-    QStringList names{toQString(terminalText(photo.city.empty() ? photo.prov : photo.city)),
+    QStringList names{toQString(terminalText(photo.city)), toQString(terminalText(photo.prov)),
                       toQString(terminalText(photo.country))};
     names.removeAll(QString());
     return names.join(QStringLiteral(", "));

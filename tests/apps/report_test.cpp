@@ -91,7 +91,7 @@ void ReportTest::tableColumnsStandUnderEachOther() {
     QCOMPARE(lines[1].indexOf(QStringLiteral("2025-06-14")), lines[0].indexOf(u"Taken"));
     QCOMPARE(lines[2].indexOf(QStringLiteral("no capture time")), lines[0].indexOf(u"Taken"));
     QCOMPARE(lines[1].indexOf(QStringLiteral("+47.3825, 8.50")), lines[0].indexOf(u"Position"));
-    QVERIFY(lines[1].contains(QStringLiteral("412.5 m  Zürich, Switzerland ")));
+    QVERIFY(lines[1].contains(QStringLiteral("412.5 m  Zürich, ZH, Switzerland ")));
     QCOMPARE(lines[2].indexOf(QStringLiteral("ZH ")), lines[0].indexOf(u"Place"));
     QVERIFY(lines[1].endsWith(QStringLiteral("IMG_0001.JPG")));
     QVERIFY(lines[3].contains(QStringLiteral("failed: disk full")));
