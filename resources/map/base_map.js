@@ -13,6 +13,8 @@ mapPage.baseMap = (() => {
     const stretch = 8;
     /** Apart by less than this many pixels, points of an outline look like one. */
     const closest = 0.5;
+    /** The level from which the grid is drawn. */
+    const firstOfGrid = 8;
 
     let world = null; // {land, borders}: [{box, points}]
     let cuts = new Map(); // shapes by tile, the oldest first
@@ -123,9 +125,7 @@ mapPage.baseMap = (() => {
             context.moveTo(Math.round(at) + 0.5, 0);
             context.lineTo(Math.round(at) + 0.5, tileSize);
         }
-        const latAt = (unit) => (Math.atan(Math.sinh(Math.PI * (1 - (2 * unit) / mapPage.worldSize))) *
-            180) / Math.PI;
-        for (let n = Math.floor(latAt(y * side) / degrees + 1e-9); ; --n) {
+        for (let n = Math.floor(mapPage.positions.latAt(y * side) / degrees + 1e-9); ; --n) {
             const at = (mapPage.positions.y(n * degrees) - y * side) * (tileSize / side);
             if (at >= tileSize - 1e-6 || n * degrees < -85) {
                 break;
@@ -161,7 +161,7 @@ mapPage.baseMap = (() => {
         context.lineWidth = coords.z < 4 ? 0.75 : 1.25;
         context.strokeStyle = border;
         context.stroke();
-        if (coords.z >= 8) {
+        if (coords.z >= firstOfGrid) {
             drawGrid(context, coords, side);
         }
     }
@@ -199,6 +199,8 @@ mapPage.baseMap = (() => {
 
     return {
         layer,
+        firstOfGrid,
+        gridStep,
         /** The world as {unit, land, borders}, lists of flat lists. */
         setWorld({unit, land, borders}) {
             world = {land: land.flatMap((ring) => allRound(closed(decoded(ring, unit)))),

@@ -9,6 +9,7 @@ mapPage.CanvasLayer = L.Layer.extend({
     /**
      * paint(context, view) gets the pixels of the whole world, from its north-west corner at the
      * level that is shown: view.left, top, width, height, of which the context's first is left, top;
+     * view.level: that level;
      * view.scale: pixels in a unit of the world's map; view.copies: which copies of the world are
      * seen, as numbers of widths to the east.
      */
@@ -65,7 +66,8 @@ mapPage.CanvasLayer = L.Layer.extend({
         for (let copy = Math.floor(origin.x / world); copy * world < origin.x + width; ++copy) {
             copies.push(copy);
         }
-        this.paint(context, {left: origin.x, top: origin.y, width, height, scale, copies});
+        this.paint(context, {left: origin.x, top: origin.y, width, height, scale, copies,
+                             level: this.zoom});
     },
 
     /** The canvas, empty, in the screen's own pixels. */

@@ -29,13 +29,16 @@ mapPage.feed = (() => {
         },
         photos(message) {
             photos.change(message);
+            mapPage.hover.leave();
+            pointer.nameAgain();
             if (photos.box() && !tracks.box() && !view.hasMoved() && !pointer.isShown()) {
                 view.byProgram(() => view.fit(photos.box()));
             }
             updateFitButton();
         },
         selection(message) {
-            photos.select(message.ids ?? []);
+            photos.select(message.ids ?? [], message.count);
+            pointer.nameAgain();
             placing.setSelection(message);
         },
         drop(message) {

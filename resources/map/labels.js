@@ -9,9 +9,13 @@ mapPage.labels = (() => {
     const roomForPlace = 12000;
     const settles = 150; // milliseconds after a move until places are asked for
     const longest = 60; // letters of a name
+    /** Where no place is seen, they are looked for within so many widths of the view around it. */
+    const widths = [3, 12, 48, 192, 768];
+    const mostBeyond = 3;
 
     let countries = []; // {name, x, y, size}, the largest first
     let places = []; // {name, x, y}
+    let beyond = []; // the nearest ones, {name, x, y, metres}, where none is seen
     let asked = null;
     let askLater = 0;
 
@@ -52,7 +56,7 @@ mapPage.labels = (() => {
     }
 
     function paint(context, view) {
-        const level = layer.zoom;
+        const {level} = view;
         const taken = [];
         context.textAlign = "center";
         context.textBaseline = "middle";
@@ -63,6 +67,8 @@ mapPage.labels = (() => {
         if (level >= levels.firstOfPlaces) {
             context.font = "13px system-ui, sans-serif";
             writeAll(context, view, taken, places, true);
+            context.font = "12px system-ui, sans-serif";
+            mapPage.bearings.paint(context, view, layer.around, taken, beyond);
         }
         if (level <= levels.lastOfCountries) {
             const degree = (view.scale * mapPage.worldSize) / 360;
@@ -75,23 +81,45 @@ mapPage.labels = (() => {
     const placeOf = (name, lat, lon) => ({name: String(name).slice(0, longest),
         x: mapPage.positions.x(lon), y: mapPage.positions.y(lat)});
 
-    async function ask() {
-        asked?.abort();
-        asked = new AbortController();
-        const {map} = mapPage.view;
-        const bounds = map.getBounds();
-        const size = map.getSize();
+    async function placesIn(bounds, limit, signal) {
         const whole = bounds.getEast() - bounds.getWest() >= 360;
         const box = new URLSearchParams({
             south: Math.max(-90, bounds.getSouth()), north: Math.min(90, bounds.getNorth()),
             west: whole ? -180 : mapPage.positions.wrapped(bounds.getWest()),
             east: whole ? 180 : mapPage.positions.wrapped(bounds.getEast()),
-            limit: Math.max(5, Math.min(200, Math.round((size.x * size.y) / roomForPlace))),
+            limit,
         });
+        const answer = await fetch(`names?${box}`, {signal});
+        return answer.ok ? answer.json() : [];
+    }
+
+    /** The nearest ones to the middle of a view that shows none. */
+    async function placesBeyond(bounds, middle, signal) {
+        for (const width of widths) {
+            const found = await placesIn(bounds.pad(width), 50, signal);
+            if (found.length > 0) {
+                return found.map(({name, lat, lon}) => {
+                    const near = mapPage.view.nearestCopy(lon);
+                    return {...placeOf(name, lat, near), metres: middle.distanceTo([lat, near])};
+                }).sort((one, other) => one.metres - other.metres).slice(0, mostBeyond);
+            }
+        }
+        return [];
+    }
+
+    async function ask() {
+        asked?.abort();
+        asked = new AbortController();
+        const {signal} = asked;
+        const {map} = mapPage.view;
+        const [bounds, size] = [map.getBounds(), map.getSize()];
+        const limit = Math.max(5, Math.min(200, Math.round((size.x * size.y) / roomForPlace)));
         try {
-            const answer = await fetch(`names?${box}`, {signal: asked.signal});
-            const found = answer.ok ? await answer.json() : [];
+            const found = await placesIn(bounds, limit, signal);
+            const further = found.length > 0 ? []
+                : await placesBeyond(bounds, map.getCenter(), signal);
             places = found.map(({name, lat, lon}) => placeOf(name, lat, lon));
+            beyond = further;
             layer.redraw();
         } catch {
             // Overtaken by the next question, or there are no names to be had.

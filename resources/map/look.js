@@ -34,7 +34,7 @@ mapPage.look = (() => {
         }
         read();
         root.style.setProperty("--accent-ground", `${colours.accent}2e`);
-        root.style.setProperty("--veil", `${colours.window}bf`);
+        root.style.setProperty("--veil", `${colours.window}e6`);
         listeners.forEach((listener) => listener());
     }
 

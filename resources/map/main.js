@@ -13,6 +13,7 @@
     mapPage.tracks.layer.addTo(view.map);
     mapPage.photos.layer.addTo(view.map);
     mapPage.tiles.begin();
+    mapPage.hover.begin();
     mapPage.search.begin();
     mapPage.feed.begin();
     mapPage.begin({

@@ -8,6 +8,7 @@ mapPage.photos = (() => {
 
     const photos = new Map(); // by id: {name, lat, lon, x, y}
     let selected = new Set();
+    let count; // of all selected ones; unknown until the program tells
     const layer = new mapPage.CanvasLayer(paint, {pane: "photos"});
 
     /** The dot as a picture, which is drawn faster than a circle. */
@@ -54,8 +55,35 @@ mapPage.photos = (() => {
 
     mapPage.look.changed(() => layer.redraw());
 
+    /** The same as a distance to the east and to the south of the photo's nearest copy. */
+    function away(photo, x, y) {
+        const east = photo.x - x;
+        return [east - mapPage.worldSize * Math.round(east / mapPage.worldSize), photo.y - y];
+    }
+
     return {
         layer,
+        /** Whether a photo is seen within [west, north, east, south] of the world's map. */
+        areIn([west, north, east, south]) {
+            const middle = [(west + east) / 2, (north + south) / 2];
+            return [...photos.values()].some((photo) => {
+                const [x, y] = away(photo, ...middle);
+                return Math.abs(x) <= (east - west) / 2 && Math.abs(y) <= (south - north) / 2;
+            });
+        },
+        /** Those within `reach` units of the world's map, the nearest first: [{name, lat, lon}]. */
+        near(lat, lon, reach) {
+            const [x, y] = [mapPage.positions.x(lon), mapPage.positions.y(lat)];
+            return [...photos.values()]
+                .map((photo) => ({photo, distance: Math.hypot(...away(photo, x, y))}))
+                .filter(({distance}) => distance <= reach)
+                .sort((one, other) => one.distance - other.distance)
+                .map(({photo}) => photo);
+        },
+        countOfSelected: () => count,
+        /** The name of the only photo that is selected; "" when there is none such. */
+        nameOfSelected: () => (selected.size === 1 && count === 1
+            ? photos.get([...selected][0])?.name ?? "" : ""),
         /** {all, photos: [{id, name, lat, lon}], gone: [id]}: all of them, or what has changed. */
         change(message) {
             if (message.all) {
@@ -63,15 +91,17 @@ mapPage.photos = (() => {
             }
             for (const {id, name, lat, lon} of message.photos ?? []) {
                 if (mapPage.positions.isPosition(lat, lon)) {
-                    photos.set(id, {name, lat, lon, x: mapPage.positions.x(lon),
-                                    y: mapPage.positions.y(lat)});
+                    photos.set(id, {name: typeof name === "string" ? name : "", lat, lon,
+                                    x: mapPage.positions.x(lon), y: mapPage.positions.y(lat)});
                 }
             }
             (message.gone ?? []).forEach((id) => photos.delete(id));
             layer.redraw();
         },
-        select(ids) {
+        /** The selected ones that have a position, of so many that are selected. */
+        select(ids, ofHowMany) {
             selected = new Set(ids);
+            count = ofHowMany;
             layer.redraw();
         },
         /** {south, west, north, east} of all of them; null when there are none. */

@@ -67,14 +67,11 @@ mapPage.placing = (() => {
         }
     }
 
-    let hovering = 0;
-    function hovered({latlng}) {
-        cancelAnimationFrame(hovering);
-        hovering = requestAnimationFrame(() => {
-            const places = pointer.isDraft() || selection.clickPlaces;
-            map.getContainer().classList.toggle("places", places);
-            map.getContainer().classList.toggle("on-track", !places && trackAt(latlng) !== null);
-        });
+    /** What a click there would do. */
+    function showCursor(latlng) {
+        const places = pointer.isDraft() || selection.clickPlaces;
+        map.getContainer().classList.toggle("places", places);
+        map.getContainer().classList.toggle("on-track", !places && trackAt(latlng) !== null);
     }
 
     /** Goes to a position that somebody has named; the level is the person's choice. */
@@ -107,7 +104,6 @@ mapPage.placing = (() => {
     }
 
     map.on("click", clicked);
-    map.on("mousemove", hovered);
     document.addEventListener("paste", pasted);
     document.addEventListener("keydown", (event) => {
         if (event.key === "Escape" && !event.defaultPrevented && !pointer.escape()) {
@@ -118,6 +114,7 @@ mapPage.placing = (() => {
     return {
         go,
         dropped,
+        showCursor,
         /** {count: how many photos are selected, clickPlaces: whether a click places them} */
         setSelection({count, clickPlaces}) {
             selection = {count: Number(count) || 0, clickPlaces: clickPlaces === true};

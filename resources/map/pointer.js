@@ -3,7 +3,6 @@
 
 mapPage.pointer = (() => {
     const longestLabel = 200;
-    const hint = "Drag the pin or click the map to place the photos";
     const pin = '<svg viewBox="0 0 30 40" width="30" height="40" aria-hidden="true">' +
         '<path class="body" d="M15 38.5C12 31 3 24 3 15a12 12 0 0 1 24 0c0 9-9 16-12 23.5z"/>' +
         '<circle class="eye" cx="15" cy="15" r="4.5"/></svg>';
@@ -13,6 +12,12 @@ mapPage.pointer = (() => {
     let isDraft = false;
     let shownLabel = "";
     let draggedFrom = null; // where the pin was when the drag under way began
+
+    function hint() {
+        const count = mapPage.photos.countOfSelected();
+        return count === 0 ? "Select photos first, then add the marker"
+            : `Drag the pin or click the map to place the ${count === 1 ? "photo" : "photos"}`;
+    }
 
     function remove() {
         const old = marker;
@@ -30,9 +35,12 @@ mapPage.pointer = (() => {
         mapPage.reportPosition(positions.report(lat, lng, view.map.getZoom()));
     }
 
-    /** The pin is where it is to be: a draft becomes the pointer. */
+    /** The pin is where it is to be: a draft becomes the pointer, if there is anything to place. */
     function place() {
         draggedFrom = null;
+        if (isDraft && mapPage.photos.countOfSelected() === 0) {
+            return;
+        }
         describe(isDraft ? "" : shownLabel, false);
         report();
     }
@@ -53,17 +61,40 @@ mapPage.pointer = (() => {
         return one;
     }
 
+    const isSeen = (lat, lon) => view.map.getBounds().contains([lat, view.nearestCopy(lon)]);
+
+    /**
+     * The photo that the pointer showed has no position. Where only the program has led to it, the
+     * person is led back to the tracks, and is not left on empty ground.
+     */
+    function leave() {
+        const at = marker?.getLatLng();
+        const led = at && !isDraft && !view.isByPerson() && isSeen(at.lat, at.lng);
+        remove();
+        const {tracks, photos} = mapPage;
+        const box = tracks.box() ?? photos.box();
+        const seen = view.seen();
+        if (led && box && !tracks.areIn(seen) &&
+            !((view.isTouched() || !tracks.box()) && photos.areIn(seen))) {
+            view.byProgram(() => view.fit(box));
+        }
+    }
+
     /** What the pin is: a draft, or the pointer, perhaps with a label. */
-    function describe(label, draft) {
+    function describe(given, draft) {
         if (isDraft !== draft) {
-            mapPage.status.setHint(draft ? hint : "");
+            mapPage.status.setHint(draft ? hint() : "");
         }
         isDraft = draft;
-        shownLabel = label;
+        shownLabel = given;
+        const label = given || (draft ? "" : labelOf(mapPage.photos.nameOfSelected()));
         const element = marker.getElement();
         element.classList.toggle("draft", draft);
         element.setAttribute("role", "button");
         element.setAttribute("aria-label", draft ? "New position" : label || "Position");
+        if (marker.getTooltip()?.getContent().textContent === label) {
+            return; // it may be open, and stays so
+        }
         marker.unbindTooltip();
         if (label) {
             const text = document.createElement("span");
@@ -103,7 +134,15 @@ mapPage.pointer = (() => {
     });
 
     return {
-        remove,
+        remove: leave,
+        /** The selected photo may be another one, or have another name. */
+        nameAgain() {
+            if (isDraft) {
+                mapPage.status.setHint(hint());
+            } else if (marker && !shownLabel && !draggedFrom) {
+                describe("", false);
+            }
+        },
         /** The draft is to be there. */
         placeDraft(lat, lon) {
             put(lat, lon, "", true);
@@ -111,6 +150,7 @@ mapPage.pointer = (() => {
         },
         isShown: () => marker !== null,
         isDraft: () => isDraft,
+        isDragged: () => draggedFrom !== null,
         /** Takes back what is being done with the pin; whether there was anything. */
         escape() {
             if (takeDragBack()) {
@@ -125,7 +165,7 @@ mapPage.pointer = (() => {
         /** Moves the pointer; the view only if it would be out of sight. */
         move(lat, lon, label) {
             if (!positions.isPosition(lat, lon)) {
-                remove();
+                leave();
                 return;
             }
             view.byProgram(() => view.bringIntoSight(lat, lon));
@@ -134,21 +174,24 @@ mapPage.pointer = (() => {
         /** Moves the pointer and the view. */
         moveWithView(lat, lon, level, label) {
             if (!positions.isPosition(lat, lon)) {
-                remove();
+                leave();
                 return;
             }
             view.byProgram(() => view.setView(lat, lon, view.levelFor(level)));
             put(lat, lon, labelOf(label), false);
         },
-        /** A draft there, at that level; in the middle of what is seen when no place is known. */
+        /**
+         * A draft there, at that level; in the middle of what is seen when no place is known, and
+         * when a track is seen and the place is not: where the last photo was is only a guess.
+         */
         addDraft(lat, lon, level) {
             const known = positions.isPosition(lat, lon) && !(lat === 0 && lon === 0 && level === 1);
-            if (known) {
+            if (known && (isSeen(lat, lon) || !mapPage.tracks.areIn(view.seen()))) {
                 view.byProgram(() => view.setView(lat, lon, view.levelFor(level)));
                 put(lat, lon, "", true);
                 return;
             }
-            if (!mapPage.tracks.box() && !mapPage.photos.box()) {
+            if (!known && !mapPage.tracks.box() && !mapPage.photos.box()) {
                 view.showWorld();
             }
             const {lat: middle, lng} = view.map.getCenter();

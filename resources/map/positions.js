@@ -26,12 +26,20 @@ mapPage.positions = (() => {
     return {
         isPosition,
         wrapped,
+        /** Which copies of the world a box shows, as numbers of widths to the east. */
+        copiesIn([west, , east]) {
+            const first = Math.floor(west / mapPage.worldSize);
+            const last = Math.floor(east / mapPage.worldSize);
+            return Array.from({length: last - first + 1}, (_, i) => first + i);
+        },
         x: (lon) => (lon + 180) * (mapPage.worldSize / 360),
         y(lat) {
             const clamped = Math.max(-northernmost, Math.min(northernmost, lat));
             const sine = Math.sin(clamped * (Math.PI / 180));
             return mapPage.worldSize * (0.5 - Math.log((1 + sine) / (1 - sine)) / (4 * Math.PI));
         },
+        latAt: (y) => (Math.atan(Math.sinh(Math.PI * (1 - (2 * y) / mapPage.worldSize))) * 180) /
+            Math.PI,
         /** As the program is told it; six decimals are 11 cm. */
         report: (lat, lon, level) => `${decimals(Math.max(-90, Math.min(90, lat)), 6)}:` +
             `${decimals(wrapped(lon), 6)}:${Math.round(level)}`,

@@ -83,7 +83,9 @@ mapPage.tiles = (() => {
     function allAnswered() {
         clearTimeout(slow);
         if (errors > 0 && !online) {
-            goOffline();
+            // Later: Leaflet has yet to end what it does with the layer.
+            clearTimeout(slow);
+            slow = setTimeout(goOffline);
         }
     }
 

@@ -117,13 +117,31 @@ mapPage.tracks = (() => {
     return {
         layer,
         box: () => box,
-        /** All tracks, [{number, lat: [], lon: [], time: []}]; whether they lie elsewhere now. */
+        /**
+         * All tracks, [{number, lat: [], lon: [], time: []}]; whether there are any now where none
+         * were.
+         */
         set(all) {
-            const before = JSON.stringify(box);
+            const before = box;
             tracks = all.filter(({lat}) => lat.length > 0).map(measured);
             box = boxOf(tracks);
             layer.redraw();
-            return box !== null && JSON.stringify(box) !== before;
+            return box !== null && !(before && box.south >= before.south &&
+                box.north <= before.north && box.west >= before.west && box.east <= before.east);
+        },
+        /** Whether a line is seen within [west, north, east, south] of the world's map. */
+        areIn(around) {
+            let found = false;
+            forBlocksIn(around, withNeighbours(mapPage.positions.copiesIn(around)),
+                        ({x, y}, {first, last}, shift) => {
+                for (let i = first; i <= last && !found; ++i) {
+                    const next = Math.min(i + 1, last);
+                    found = mapPage.clipping.meet(around, [
+                        Math.min(x[i], x[next]) + shift, Math.min(y[i], y[next]),
+                        Math.max(x[i], x[next]) + shift, Math.max(y[i], y[next])]);
+                }
+            });
+            return found;
         },
         /**
          * The point that is nearest to a position by the line it belongs to: {number, lat, lon,

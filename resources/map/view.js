@@ -24,6 +24,9 @@ mapPage.view = (() => {
     let toldLevel = NaN;
     let programMoves = false;
     let moved = false;
+    let byPerson = false; // who has brought the map where it is
+    let touched = false; // by the person, since it has been fitted
+    let fitted = null; // {box, center, level} as the last fit has left it
     let zooming = false; // on the way to another level
     let newestMove = null; // of the program, since the screen was last shown
     let moveAgain = null; // after the way to another level
@@ -74,6 +77,12 @@ mapPage.view = (() => {
         map.setView([25, 0], level, {animate: false});
     }
 
+    /** Whether all is as the last fit has left it. */
+    function isFitted() {
+        return fitted !== null && fitted.level === map.getZoom() &&
+            map.latLngToContainerPoint(fitted.center).distanceTo(map.getSize().divideBy(2)) < 3;
+    }
+
     function fit(box) {
         if (!isSized() || zooming) {
             fitWanted = box;
@@ -81,8 +90,12 @@ mapPage.view = (() => {
         }
         fitWanted = null;
         moved = true;
+        const size = map.getSize();
+        const edge = Math.min(32, size.x / 8, size.y / 8);
         map.fitBounds([[box.south, box.west], [box.north, box.east]],
-                      {animate: false, maxZoom: closestFit, padding: [32, 32]});
+                      {animate: false, maxZoom: closestFit, padding: [edge, edge]});
+        fitted = {box, center: map.getCenter(), level: map.getZoom()};
+        touched = !programMoves;
     }
 
     function fitLater() {
@@ -91,8 +104,12 @@ mapPage.view = (() => {
         }
     }
 
+    /** What was fitted stays so: the window comes to its size in several steps. */
     function resized() {
         map.invalidateSize({animate: false, pan: true});
+        if (isFitted()) {
+            fitWanted ??= fitted.box;
+        }
         fitLater();
     }
 
@@ -119,9 +136,20 @@ mapPage.view = (() => {
     }
 
     map.on("zoomend", toldOfLevel);
-    map.on("dragstart", () => { moved = true; });
+    map.on("movestart", () => {
+        byPerson = !programMoves;
+        touched ||= byPerson;
+        moved ||= byPerson;
+    });
     map.on("zoomanim", zoomBegins);
     map.on("zoomend", zoomEnds);
+    map.getContainer().addEventListener("keydown", (event) => {
+        if (event.key === "+" && event.shiftKey) {
+            // Leaflet takes Shift for three levels at once; on many keyboards it makes the plus.
+            event.stopImmediatePropagation();
+            map.zoomIn();
+        }
+    }, true);
     byProgram(showWorld);
     new ResizeObserver(resized).observe(map.getContainer());
     L.control.scale({position: "bottomleft", imperial: false, maxWidth: 90}).addTo(map);
@@ -152,8 +180,19 @@ mapPage.view = (() => {
                 setView(lat, lon, map.getZoom());
             }
         },
+        /** [west, north, east, south] of what is seen, in units of the world's map. */
+        seen() {
+            const bounds = map.getBounds();
+            const {x, y} = mapPage.positions;
+            return [x(bounds.getWest()), y(bounds.getNorth()), x(bounds.getEast()),
+                    y(bounds.getSouth())];
+        },
         /** Whether anything but the world at the start has been shown. */
         hasMoved: () => moved,
+        /** Whether it is the person who has brought the map where it is. */
+        isByPerson: () => byPerson,
+        /** Whether the person has moved the map since it was last fitted to something. */
+        isTouched: () => touched,
         showWorld: () => byProgram(showWorld),
     };
 })();

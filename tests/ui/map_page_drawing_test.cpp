@@ -8,10 +8,15 @@ class MapPageDrawingTest : public QObject {
 private Q_SLOTS:
     void cleanupTestCase() { desks_.clear(); }
     void tracksAreShownWhenTheyCome();
+    void tracksStayFittedInAWindowThatGrows();
     void tracksThatComeLeaveAShownPhotoInPlace();
+    void aPhotoWithoutAPositionLeadsBack_data();
+    void aPhotoWithoutAPositionLeadsBack();
     void aTrackGoesOnOverTheDateLine_data();
     void aTrackGoesOnOverTheDateLine();
     void photosComeAndGoAndAreHighlighted();
+    void photosAreNamed();
+    void thereIsSomethingToGoByOnEmptyGround();
     void theWorldHasLandAndWaterEverywhere_data();
     void theWorldHasLandAndWaterEverywhere();
     void theLookIsTheDesktops();
@@ -49,7 +54,7 @@ void MapPageDrawingTest::tracksAreShownWhenTheyCome() {
     QVERIFY(isAt(fitted, 47, 8.1, 11));
     QVERIFY(becomesPainted(desk, {300, 200}, trackColour));
     // The same again moves nothing, others do.
-    desk.ask(QStringLiteral("movePointerWithZoom(10,20,5,''); removePointer()"));
+    desk.ask(QStringLiteral("movePointerWithZoom(47,8,5,''); removePointer()"));
     desk.feed(track("47,47", "8,8.2"));
     QVERIFY(desk.seenInMiddle().endsWith(QLatin1String(":5")));
     desk.ask(QStringLiteral("document.getElementById('fit').click()"));
@@ -60,6 +65,20 @@ void MapPageDrawingTest::tracksAreShownWhenTheyCome() {
     QVERIFY(desk.ask(QStringLiteral("document.getElementById('fit').disabled")).toBool());
 }
 
+/// A window comes to its size in several steps.
+void MapPageDrawingTest::tracksStayFittedInAWindowThatGrows() {
+    PageDesk &desk = desks_.fresh();
+    const auto isAsWideAs = [&](int width) {
+        return desk.becomes(QStringLiteral("mapPage.view.map.getSize().x === %1").arg(width));
+    };
+    desk.view().resize(100, 50);
+    QVERIFY(isAsWideAs(100));
+    desk.feed(track("47,47", "8,8.2"));
+    desk.view().resize(600, 400);
+    QVERIFY(isAsWideAs(600));
+    QVERIFY(isAt(desk.seenInMiddle(), 47, 8.1, 11));
+}
+
 void MapPageDrawingTest::tracksThatComeLeaveAShownPhotoInPlace() {
     PageDesk &desk = desks_.fresh();
     desk.ask(QStringLiteral("movePointerWithZoom(10,20,5,'')"));
@@ -67,6 +86,45 @@ void MapPageDrawingTest::tracksThatComeLeaveAShownPhotoInPlace() {
     desk.feed(track("47,47", "8,8.2"));
     QCOMPARE(desk.seenInMiddle(), before);
     QCOMPARE(desk.reports(), QStringList());
+}
+
+void MapPageDrawingTest::aPhotoWithoutAPositionLeadsBack_data() {
+    QTest::addColumn<bool>("tracks");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<bool>("zoom"); // by the person
+    QTest::addColumn<QString>("middle");
+
+    const char *const far = "movePointerWithZoom(-49.33,-72.88,13,'')";
+    QTest::newRow("to the tracks") << true << far << false << "47.000000:8.100000:11";
+    QTest::newRow("not from where the person has looked around")
+        << true << far << true << "-49.330000:-72.880000:14";
+    QTest::newRow("not when a track is seen")
+        << true << "movePointerWithZoom(47.01,8.1,12,'')" << false << "47.010000:8.100000:12";
+    QTest::newRow("not from a draft, which stays by the tracks")
+        << true << "addNewMarkerToMap(-49,-72,13)" << false << "47.000000:8.100000:11";
+    QTest::newRow("to the photos") << false << far << false << "10.000000:20.000000:16";
+    QTest::newRow("not when a photo is seen")
+        << false << "movePointerWithZoom(10,20.01,12,'')" << false << "10.000000:20.010000:12";
+}
+
+void MapPageDrawingTest::aPhotoWithoutAPositionLeadsBack() {
+    QFETCH(bool, tracks);
+    QFETCH(QString, before);
+    QFETCH(bool, zoom);
+    QFETCH(QString, middle);
+    PageDesk &desk = desks_.fresh();
+    desk.feed(R"({"kind":"photos","all":true,"photos":[{"id":7,"name":"a","lat":10,"lon":20}]})");
+    if (tracks) {
+        desk.feed(track("47,47", "8,8.2"));
+    }
+    desk.ask(before);
+    if (zoom) {
+        desk.ask(QStringLiteral("document.getElementById('zoom-in').click()"));
+        QVERIFY(desk.becomes(QStringLiteral("reports.length > 0")));
+    }
+    desk.ask(QStringLiteral("removePointer()"));
+    QVERIFY(!desk.pin());
+    QVERIFY(isSame(desk.seenInMiddle(), middle));
 }
 
 void MapPageDrawingTest::aTrackGoesOnOverTheDateLine_data() {
@@ -88,8 +146,8 @@ void MapPageDrawingTest::aTrackGoesOnOverTheDateLine() {
     const QString fitted = desk.seenInMiddle();
     QVERIFY2(qAbs(fitted.section(QLatin1Char(':'), 1, 1).toDouble()) > 179.9, qPrintable(fitted));
     QVERIFY2(fitted.section(QLatin1Char(':'), 2).toInt() >= 7, qPrintable(fitted));
-    desk.ask(view + QStringLiteral("; removePointer()"));
-    const QPoint at(300, 200);
+    desk.ask(view);
+    const QPoint at(340, 200); // beside the pin
     if (there) {
         QVERIFY(becomesPainted(desk, at, trackColour));
     } else {
@@ -116,6 +174,44 @@ void MapPageDrawingTest::photosComeAndGoAndAreHighlighted() {
     QVERIFY(becomesPainted(desk, middle + QPoint(4, 0), accent));
     desk.feed(R"({"kind":"photos","all":true,"photos":[],"gone":[]})");
     QVERIFY(becomesPainted(desk, middle + QPoint(4, 0), land));
+}
+
+void MapPageDrawingTest::photosAreNamed() {
+    PageDesk &desk = desks_.fresh();
+    const auto saysAt = [&](QPoint at, const char *text) {
+        QTest::mouseMove(desk.view().focusProxy(), at + QPoint(40, 40));
+        QTest::mouseMove(desk.view().focusProxy(), at);
+        return desk.becomes(QStringLiteral("document.querySelector('.label')?.textContent === '%1'")
+                                .arg(QString::fromUtf8(text)));
+    };
+    desk.feed(R"({"kind":"photos","all":true,"photos":[{"id":7,"name":"<b>","lat":47,"lon":8},)"
+              R"({"id":8,"name":"b","lat":47,"lon":8.1},{"id":9,"name":"c","lat":47,"lon":8.1}]})");
+    desk.ask(QStringLiteral("movePointerWithZoom(47,8,10,'')"));
+    desk.ask(QStringLiteral("removePointer()"));
+    QVERIFY(saysAt({300, 200}, "<b>"));
+    QVERIFY(saysAt({300 + 73, 200}, "b, c"));
+    // The pin of the selected one has its name, also when a call has none.
+    desk.feed(R"({"kind":"selection","ids":[7],"count":1,"clickPlaces":false})");
+    desk.ask(QStringLiteral("movePointer(47,8,'')"));
+    QVERIFY(saysAt({300, 180}, "<b>"));
+}
+
+void MapPageDrawingTest::thereIsSomethingToGoByOnEmptyGround() {
+    PageDesk &desk = desks_.fresh();
+    desk.ask(QStringLiteral("movePointerWithZoom(-45.501,-69.901,17,''); removePointer()"));
+    const QColor ink(0x6b, 0x71, 0x78);
+    const auto isWrittenIn = [&](QRect part) {
+        const QImage seen = desk.view().grab(part).toImage();
+        int count = 0;
+        for (int i = 0; i < seen.width() * seen.height(); ++i) {
+            const QColor one = seen.pixelColor(i % seen.width(), i / seen.width());
+            count += qAbs(one.red() - ink.red()) + qAbs(one.blue() - ink.blue()) < 24 ? 1 : 0;
+        }
+        return count > 5;
+    };
+    QVERIFY(PageDesk::waitFor([&] { return isWrittenIn({500, 60, 100, 290}); })); // latitudes
+    QVERIFY(PageDesk::waitFor([&] { return isWrittenIn({60, 0, 300, 30}); }));    // longitudes
+    QVERIFY(PageDesk::waitFor([&] { return isWrittenIn({60, 50, 420, 290}); }));  // places
 }
 
 void MapPageDrawingTest::theWorldHasLandAndWaterEverywhere_data() {

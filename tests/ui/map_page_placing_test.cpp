@@ -71,6 +71,7 @@ void MapPagePlacingTest::aClickPlacesOnlyWhenItIsMeantTo_data() {
     QTest::newRow("told to place") << QString() << 1 << true << true;
     QTest::newRow("told to place, with a pointer") << pointer << 3 << true << true;
     QTest::newRow("a draft") << draft << 3 << false << true;
+    QTest::newRow("a draft for nothing") << draft << 0 << false << false;
     QTest::newRow("a draft that is gone")
         << draft + QStringLiteral(";removePointer()") << 3 << false << false;
 }

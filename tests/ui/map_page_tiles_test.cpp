@@ -31,7 +31,8 @@ QString isSource(const QString &text) {
 }
 
 bool becomesPainted(PageDesk &desk, QColor colour) {
-    return PageDesk::waitFor([&] { return desk.isPainted({300, 200}, colour); });
+    const QPoint middle(desk.view().width() / 2, desk.view().height() / 2);
+    return PageDesk::waitFor([&] { return desk.isPainted(middle, colour); });
 }
 
 /// The bundled map is seen there: an own part of the world, so that it must be drawn anew.
@@ -76,21 +77,27 @@ void MapPageTilesTest::nothingIsFetchedThatIsNotSeen() {
 
 void MapPageTilesTest::aServerThatFailsIsLeftAlone_data() {
     QTest::addColumn<int>("mood"); // -1: gone
+    QTest::addColumn<QSize>("size");
 
-    QTest::newRow("refusing") << static_cast<int>(TileServer::Mood::Refusing);
-    QTest::newRow("silent") << static_cast<int>(TileServer::Mood::Silent);
-    QTest::newRow("gone") << -1;
+    const QSize large(600, 400);
+    QTest::newRow("refusing") << static_cast<int>(TileServer::Mood::Refusing) << large;
+    // All tiles there are have failed before it is known that the server does.
+    QTest::newRow("refusing two tiles")
+        << static_cast<int>(TileServer::Mood::Refusing) << QSize(500, 60);
+    QTest::newRow("silent") << static_cast<int>(TileServer::Mood::Silent) << large;
+    QTest::newRow("gone") << -1 << large;
 }
 
 void MapPageTilesTest::aServerThatFailsIsLeftAlone() {
     QFETCH(int, mood);
+    QFETCH(QSize, size);
     TileServer server;
     if (mood < 0) {
         server.leave();
     } else {
         server.mood = TileServer::Mood(mood);
     }
-    PageDesk desk({600, 400}, server.address());
+    PageDesk desk(size, server.address());
     QVERIFY(desk.becomes(isSource(offline), 20'000));
     QCOMPARE(desk.ask(QStringLiteral("document.getElementById('credits').textContent")).toString(),
              QStringLiteral("Natural Earth, GeoNames"));
@@ -101,6 +108,7 @@ void MapPageTilesTest::aServerThatFailsIsLeftAlone() {
     const int before = server.requests;
     QVERIFY(showsBundledMap(desk, "movePointerWithZoom(46.9402,7.4202,9,'')"));
     QCOMPARE(server.requests, before);
+    QCOMPARE(desk.ask(QStringLiteral("errors")).toStringList(), QStringList());
     // Until the person, or the network, wants another try.
     desk.ask(mood < 0 ? QStringLiteral("dispatchEvent(new Event('online'))")
                       : QStringLiteral("document.querySelector('#source button').click()"));

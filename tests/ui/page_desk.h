@@ -204,13 +204,14 @@ public:
 private:
     static QString listener() {
         return QStringLiteral(R"(
-            var reports = [], clicks = 0, keys = 0, refused = [];
+            var reports = [], clicks = 0, keys = 0, refused = [], errors = [];
             var controlObj = {
                 latLonJavascript: text => reports.push(`position ${text}`),
                 zoomChangeJavascript: level => reports.push(`level ${level}`),
             };
             addEventListener("mouseup", () => setTimeout(() => ++clicks), true);
             addEventListener("keyup", () => setTimeout(() => ++keys), true);
+            addEventListener("error", e => errors.push(e.message));
             addEventListener("securitypolicyviolation", e => refused.push(e.violatedDirective));
         )");
     }
