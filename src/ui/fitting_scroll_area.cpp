@@ -5,6 +5,9 @@
 #include <QBoxLayout>
 #include <QEvent>
 #include <QFrame>
+#include <QScrollBar>
+
+#include <algorithm>
 
 namespace pinmora {
 
@@ -38,6 +41,17 @@ FittingScrollArea::FittingScrollArea(const QList<QWidget *> &widgets, QWidget *p
 
 QSize FittingScrollArea::sizeHint() const {
     return widget()->sizeHint();
+}
+
+QSize FittingScrollArea::minimumSizeHint() const {
+    int widest = 0;
+    for (int i = 0; i < row_->count(); ++i) {
+        if (const QWidget *const one = row_->itemAt(i)->widget()) {
+            widest = std::max(widest, one->minimumSizeHint().width());
+        }
+    }
+    return {widest + verticalScrollBar()->sizeHint().width(),
+            QScrollArea::minimumSizeHint().height()};
 }
 
 bool FittingScrollArea::eventFilter(QObject *watched, QEvent *event) {

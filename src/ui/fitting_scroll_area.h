@@ -15,6 +15,8 @@ public:
     explicit FittingScrollArea(const QList<QWidget *> &widgets, QWidget *parent = nullptr);
 
     QSize sizeHint() const override;
+    /// Wide enough for each of the widgets: nobody looks for a button beyond an edge.
+    QSize minimumSizeHint() const override;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

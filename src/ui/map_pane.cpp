@@ -19,7 +19,7 @@ MapPane::MapPane(MapView &view, MakePage makePage, QWidget *parent)
       stack_(new QStackedLayout(this)), ground_(new QWidget), words_(new QLabel),
       again_(new QPushButton(tr("Try Again"))) {
     setAccessibleName(tr("Map"));
-    setMinimumSize(20 * spacing, 12 * spacing);
+    setMinimumSize(20 * spacing, 24 * spacing);
     ground_->setAutoFillBackground(true);
     ground_->setBackgroundRole(QPalette::Window);
     auto *column = new QVBoxLayout(ground_);

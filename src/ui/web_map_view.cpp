@@ -4,6 +4,7 @@
 #include "ui/map_web_page.h"
 #include "ui/page_bridge.h"
 #include "ui/photo_drag.h"
+#include "ui/sheet_redraw.h"
 #include "ui/theme.h"
 #include "ui/web_profile.h"
 
@@ -19,10 +20,13 @@
 #include <QWebEngineProfile>
 #include <QWebEngineView>
 
+#include <chrono>
 #include <utility>
 
 namespace pinmora {
 namespace {
+
+constexpr std::chrono::milliseconds pauseForWork{50};
 
 std::string jsonOf(const QJsonObject &message) {
     return QJsonDocument(message).toJson(QJsonDocument::Compact).toStdString();
@@ -44,6 +48,8 @@ WebMapView::WebMapView(MapView &view, QWidget *parent)
     highlight->setStyleSheet(QStringLiteral("background: transparent")); // the map is aimed at
     navigation_.setSingleShot(true);
     connect(&navigation_, &QTimer::timeout, this, &WebMapView::navigate);
+    arrival_.setSingleShot(true);
+    connect(&arrival_, &QTimer::timeout, this, &WebMapView::arrive);
     timeout_.setSingleShot(true);
     connect(&timeout_, &QTimer::timeout, this, [this] {
         browser_->stop();
@@ -159,9 +165,15 @@ void WebMapView::loadingChanged(const QWebEngineLoadingInfo &info) {
     }
 }
 
-/// A page of ours is there when it can also be spoken to; one from elsewhere will not be.
+/// A page of ours is there when it can also be spoken to; one from elsewhere will not be. In the
+/// middle of long work it has to wait: who hears of it may change something.
 void WebMapView::arrive() {
-    if (isComplete_ && (isListening_ || publishedName_.empty() || !bridge_->isAtHome())) {
+    const bool isThere =
+        isComplete_ && (isListening_ || publishedName_.empty() || !bridge_->isAtHome());
+    if (isThere && isRedrawingDuringWork()) {
+        timeout_.stop();
+        arrival_.start(pauseForWork);
+    } else if (isThere) {
         finish(true);
     }
 }
@@ -171,6 +183,7 @@ void WebMapView::finish(bool ok) {
         return; // it has been given up
     }
     timeout_.stop();
+    arrival_.stop();
     state_ = !ok ? State::Empty : bridge_->isAtHome() ? State::Loaded : State::Elsewhere;
     if (state_ == State::Loaded) {
         welcome();

@@ -67,6 +67,7 @@ private:
     std::unique_ptr<PageBridge> bridge_;
     QTimer navigation_; ///< in the turn after a load has been asked for
     QTimer timeout_;
+    QTimer arrival_; ///< once more, of a page that came in the middle of long work
     PageRequest request_;
     std::string publishedName_; ///< under which the page is to find the controller
     State state_ = State::Empty;

@@ -21,9 +21,9 @@ std::shared_ptr<QWebEngineProfile> makeProfile() {
     profile->setHttpCacheMaximumSize(largestCache);
     profile->setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
     profile->setSpellCheckEnabled(false);
+    // Whoever gives tiles wants to know who asks, and not for a browser.
     profile->setHttpUserAgent(
-        profile->httpUserAgent() +
-        QStringLiteral(" Pinmora/" PINMORA_VERSION " (photo geotagging desktop application)"));
+        QStringLiteral("Pinmora/" PINMORA_VERSION " (photo geotagging desktop application)"));
     QWebEngineSettings &settings = *profile->settings();
     for (const auto attribute :
          {QWebEngineSettings::PluginsEnabled, QWebEngineSettings::JavascriptCanOpenWindows,

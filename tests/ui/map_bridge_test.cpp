@@ -17,6 +17,7 @@ private Q_SLOTS:
     void reloadBeginsAnew();
     void anotherOriginGetsNothing();
     void crashedPageCanBeLoadedAgain();
+    void viewMayGoAtAnyTime();
     void withoutAPageNothingIsKept();
     void looksAsTheDesktopDoes();
     void oneProfileForAllPages();
@@ -102,6 +103,24 @@ void MapBridgeTest::crashedPageCanBeLoadedAgain() {
     QVERIFY(desk.saysTheLast());
 }
 
+/// As when the program ends while a page is being loaded, comes up, or speaks.
+void MapBridgeTest::viewMayGoAtAnyTime() {
+    BridgeDesk desk("<script>setInterval(() => controlObj.newMarker(1))</script>");
+    for (int turns = 0; turns < 2000; turns = turns * 2 + 1) {
+        desk.load();
+        desk.view.publish("controlObj");
+        for (int turn = 0; turn < turns; ++turn) {
+            QCoreApplication::processEvents();
+        }
+        desk.view.feed("on its way");
+        desk.make();
+    }
+    desk.loads = 0;
+    desk.start();
+    QCOMPARE(desk.loads, 1);
+    QTRY_VERIFY(!desk.calls.empty());
+}
+
 void MapBridgeTest::withoutAPageNothingIsKept() {
     BridgeDesk desk;
     desk.view.publish("controlObj");
@@ -137,7 +156,7 @@ void MapBridgeTest::oneProfileForAllPages() {
     QCOMPARE(one.page().profile(), two.page().profile());
     two.start();
     one.start();
-    QVERIFY2(one.server.lastAgent.contains(" Pinmora/"), one.server.lastAgent.constData());
+    QVERIFY2(one.server.lastAgent.startsWith("Pinmora/"), one.server.lastAgent.constData());
     QVERIFY(!one.page().profile()->isOffTheRecord());
     two.calls.clear();
     QVERIFY(one.saysTheLast());

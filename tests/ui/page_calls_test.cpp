@@ -1,4 +1,8 @@
+#include "services/local_server.h"
 #include "ui/bridge_desk.h"
+#include "ui/sheet_redraw.h"
+
+#include <QElapsedTimer>
 
 using namespace pinmora;
 
@@ -12,6 +16,8 @@ private Q_SLOTS:
     void earlyCallsArrive();
     void tamperingChangesNothing();
     void aFloodIsSurvived();
+    void workIsNotBrokenInto_data();
+    void workIsNotBrokenInto();
     void frameGetsNothing();
     void cleanupTestCase() { desk_.reset(); }
 
@@ -182,6 +188,50 @@ void PageCallsTest::aFloodIsSurvived() {
     QTRY_COMPARE_WITH_TIMEOUT(desk.calls.size(), 10'000U, 30'000);
     QCOMPARE(desk.calls.back(), std::string("zoomChangeJavascript 9999"));
     QVERIFY(desk.saysTheLast());
+}
+
+void PageCallsTest::workIsNotBrokenInto_data() {
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("sign"); // the page's title when it is done
+    QTest::addColumn<int>("calls");
+    QTest::addColumn<int>("loads");
+    QTest::newRow("calls") << QStringLiteral("controlObj.newMarker(1); controlObj.newMarker(2);"
+                                             "setTimeout(() => { document.title = 'said' }, 100)")
+                           << QStringLiteral("said") << 2 << 0;
+    QTest::newRow("a new document")
+        << QStringLiteral("setTimeout(() => location.reload())") << QString() << 0 << 1;
+}
+
+/// What a page says or becomes while long work draws itself waits until the work is over.
+void PageCallsTest::workIsNotBrokenInto() {
+    QFETCH(QString, script);
+    QFETCH(QString, sign);
+    QFETCH(int, calls);
+    QFETCH(int, loads);
+    LocalServer server({.tileServer = "none"}); // answers meanwhile
+    BridgeDesk desk;
+    desk.view.load({.address = server.address() + "/maps/index3.php"});
+    desk.view.publish("controlObj");
+    desk.arrive(1);
+    desk.saysTheLast();
+    desk.calls.clear();
+    desk.loads = 0;
+    bool isDone = false;
+    const QObject here;
+    connect(&desk.page(), &QWebEnginePage::titleChanged, &here,
+            [&](const QString &title) { isDone = isDone || title == sign; });
+    connect(&desk.page(), &QWebEnginePage::loadFinished, &here,
+            [&] { isDone = isDone || sign.isEmpty(); });
+    desk.page().runJavaScript(script);
+    QElapsedTimer work;
+    for (work.start(); !isDone && work.elapsed() < 30'000;) {
+        redrawDuringWork(true);
+    }
+    QVERIFY(isDone);
+    QCOMPARE(desk.calls.size(), 0U);
+    QCOMPARE(desk.loads, 0);
+    QTRY_COMPARE(static_cast<int>(desk.calls.size()), calls);
+    QTRY_COMPARE(desk.loads, loads);
 }
 
 void PageCallsTest::frameGetsNothing() {
