@@ -32,10 +32,20 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 # pinmora_library(NAME SOURCES file... USES target...): the library of one folder under src/, or of
 # a program's folder under apps/, whose headers are included from that folder. All headers of the
-# folder are the library's interface: the dev preset compiles each of them alone.
+# folder are the library's interface, and each compiles alone: a source file includes its own header
+# first, and the dev preset compiles those that have no source file, or, PRECOMPILED, whose source
+# files have other headers put before them.
 function(pinmora_library name)
-    cmake_parse_arguments(arg "" "" "SOURCES;USES" ${ARGN})
+    cmake_parse_arguments(arg "PRECOMPILED" "" "SOURCES;USES" ${ARGN})
     file(GLOB headers CONFIGURE_DEPENDS *.h)
+    set(alone)
+    foreach(header IN LISTS headers)
+        string(REGEX REPLACE "\\.h$" ".cpp" source "${header}")
+        if(arg_PRECOMPILED OR NOT EXISTS "${source}")
+            list(APPEND alone "${header}")
+        endif()
+    endforeach()
+    list(REMOVE_ITEM headers ${alone})
     set(base "${CMAKE_SOURCE_DIR}/src")
     cmake_path(IS_PREFIX base "${CMAKE_CURRENT_SOURCE_DIR}" is_room)
     if(NOT is_room)
@@ -43,7 +53,9 @@ function(pinmora_library name)
     endif()
     add_library(pinmora_${name} STATIC ${arg_SOURCES})
     target_sources(pinmora_${name} PUBLIC
-        FILE_SET HEADERS BASE_DIRS "${base}" FILES ${headers})
+        FILE_SET HEADERS BASE_DIRS "${base}" FILES ${headers}
+        FILE_SET alone TYPE HEADERS BASE_DIRS "${base}" FILES ${alone})
+    set_target_properties(pinmora_${name} PROPERTIES INTERFACE_HEADER_SETS_TO_VERIFY alone)
     target_link_libraries(pinmora_${name} PUBLIC pinmora_options ${arg_USES})
 endfunction()
 

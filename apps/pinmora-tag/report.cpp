@@ -12,10 +12,6 @@ namespace pinmora::tag {
 
 namespace {
 
-QString toQString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QJsonValue jsonTime(const std::optional<WallClock> &time) {
     return time ? QJsonValue(toQString(textFromWallClock(*time, "%Y-%m-%dT%H:%M:%S")))
                 : QJsonValue();

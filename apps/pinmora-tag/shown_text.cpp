@@ -58,4 +58,8 @@ std::string terminalText(std::string_view bytes) {
     return text;
 }
 
+QString toQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
 } // namespace pinmora::tag

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <string>
 #include <string_view>
 
@@ -11,5 +13,8 @@ std::string validText(std::string_view bytes);
 
 /// validText() fit for a terminal: control characters, which it might obey, become "?".
 std::string terminalText(std::string_view bytes);
+
+/// UTF-8 as the toolkit has it.
+QString toQString(std::string_view text);
 
 } // namespace pinmora::tag

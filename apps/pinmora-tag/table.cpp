@@ -22,10 +22,6 @@ using Row = std::array<QString, columns>;
 constexpr std::array<bool, columns> alignedRight{false, false, false, false,
                                                  true,  false, true,  false};
 
-QString toQString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QString fileName(const std::string &path) {
     return toQString(terminalText(std::filesystem::path(path).filename().native()));
 }

@@ -39,10 +39,6 @@ int hexDigit(char c) {
     return value == std::string_view::npos ? -1 : static_cast<int>(value);
 }
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 /// Whether a text is an angle of `degreeDigits` digits of degrees, two of minutes and perhaps
 /// decimals, up to `mostDegrees`.
 bool isAngle(std::string_view text, std::size_t degreeDigits, int mostDegrees) {

@@ -9,10 +9,6 @@ namespace pinmora {
 
 namespace {
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 /// The bytes that the first `count` characters of a UTF-8 text take; nothing when it has fewer.
 std::optional<std::size_t> bytesOf(std::string_view text, std::size_t count) {
     if (text.size() >= count && isAscii(text.substr(0, count))) {

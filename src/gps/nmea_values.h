@@ -9,6 +9,11 @@
 
 namespace pinmora {
 
+/// Of ASCII, whatever the locale.
+inline bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 /// Signed decimal degrees ("+48.117298") from degrees and minutes ("4807.038") and "N" or "S".
 /// Computed in single precision. Nothing for another hemisphere or a latitude of fewer than two
 /// characters.

@@ -22,8 +22,6 @@ namespace pinmora {
 
 namespace {
 
-constexpr int gap = spacing / 2;
-
 QLabel *labelOf(Role role, const QString &text = {}) {
     auto *label = new QLabel(text);
     setRole(label, role);
@@ -40,7 +38,7 @@ ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing,
       endOfTurn_([this] { showTimes(); }) {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(gap);
+    column->setSpacing(smallGap);
     column->addWidget(labelOf(Role::Heading, tr("Camera clock")));
     addSteppers(*column);
     addTimes(*column);
@@ -63,7 +61,7 @@ ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing,
 
 void ClockPanel::addSteppers(QVBoxLayout &column) {
     auto *row = new QHBoxLayout;
-    row->setSpacing(gap);
+    row->setSpacing(smallGap);
     auto *signs = new QButtonGroup(this);
     auto *pair = new QHBoxLayout;
     pair->setSpacing(0);
@@ -108,7 +106,7 @@ void ClockPanel::addTimes(QVBoxLayout &column) {
     auto *grid = new QGridLayout(times_);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(spacing);
-    grid->setVerticalSpacing(gap / 2);
+    grid->setVerticalSpacing(smallGap / 2);
     grid->addWidget(labelOf(Role::Quiet, tr("Taken")), 0, 0);
     grid->addWidget(taken_, 0, 1);
     grid->addWidget(labelOf(Role::Quiet, tr("Corrected")), 1, 0);
@@ -153,7 +151,7 @@ QWidget *ClockPanel::makeMore(const std::function<void()> &find) {
     auto *more = new QWidget;
     auto *grid = new QGridLayout(more);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(gap);
+    grid->setSpacing(smallGap);
     auto *match = new QPushButton(tr("Match by Time"));
     match->setToolTip(tr("Takes the track point nearest in time and sets the clock by it"));
     bindings_.tie(outlets_.matchButton, match);

@@ -16,10 +16,9 @@ namespace pinmora {
 
 namespace {
 
-constexpr int gap = spacing / 2;
 constexpr int narrowGap = 3; // between a number and its sign
 
-QLabel *addLabel(QGridLayout &grid, int row, const QString &text) {
+QLabel *addRowLabel(QGridLayout &grid, int row, const QString &text) {
     auto *label = new QLabel(text);
     setRole(label, Role::Quiet);
     grid.addWidget(label, row, 0, Qt::AlignRight | Qt::AlignVCenter);
@@ -43,8 +42,8 @@ CoordinatePanel::CoordinatePanel(CoordinateFields &fields, Button &addRemoveMark
     : QWidget(parent), fields_(fields), problem_(new QLabel) {
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(spacing + gap);
-    grid->setVerticalSpacing(gap);
+    grid->setHorizontalSpacing(spacing + smallGap);
+    grid->setVerticalSpacing(smallGap);
     addDecimals(*grid, addRemoveMarker);
     addParts(*grid, 1, Show::Minutes);
     addParts(*grid, 2, Show::Seconds);
@@ -64,9 +63,9 @@ CoordinatePanel::CoordinatePanel(CoordinateFields &fields, Button &addRemoveMark
 }
 
 void CoordinatePanel::addDecimals(QGridLayout &grid, Button &addRemoveMarker) {
-    addLabel(grid, 0, tr("Decimal"));
+    addRowLabel(grid, 0, tr("Decimal"));
     auto *row = new QHBoxLayout;
-    row->setSpacing(gap);
+    row->setSpacing(smallGap);
     for (AxisFields *axis : {&fields_.lat, &fields_.lon}) {
         row->addWidget(addField(axis->d, QStringLiteral("-000.000000"),
                                 tr("%1, decimal degrees").arg(nameOf(*axis))));
@@ -82,7 +81,7 @@ void CoordinatePanel::addDecimals(QGridLayout &grid, Button &addRemoveMarker) {
 }
 
 void CoordinatePanel::addParts(QGridLayout &grid, int row, Show show) {
-    addLabel(grid, row, show == Show::Minutes ? tr("Deg, min") : tr("Deg, min, sec"));
+    addRowLabel(grid, row, show == Show::Minutes ? tr("Deg, min") : tr("Deg, min, sec"));
     int column = 1;
     for (AxisFields *axis : {&fields_.lat, &fields_.lon}) {
         auto *parts = new QHBoxLayout;
@@ -131,7 +130,7 @@ void CoordinatePanel::addHemisphere(QHBoxLayout &row, AxisFields &axis) {
                                              "QComboBox::drop-down { width: 14px; }"
                                              "QComboBox::down-arrow { width: 10px; }"));
     hemisphere->setFixedWidth(hemisphere->fontMetrics().horizontalAdvance(u'W') + 3 * spacing +
-                              gap);
+                              smallGap);
     tie(bindings_, axis.hemisphere, hemisphere);
     row.addWidget(hemisphere);
 }

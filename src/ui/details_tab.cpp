@@ -18,10 +18,8 @@ namespace pinmora {
 
 namespace {
 
-constexpr int gap = spacing / 2;
-
 /// In a row of its own, or in the last one.
-QLabel *addLabel(QGridLayout &grid, int column, const QString &text) {
+QLabel *addDetailLabel(QGridLayout &grid, int column, const QString &text) {
     auto *label = new QLabel(text);
     setRole(label, Role::Quiet);
     const int row = column == 0 ? grid.rowCount() : grid.rowCount() - 1;
@@ -34,7 +32,7 @@ QLabel *addLabel(QGridLayout &grid, int column, const QString &text) {
 DetailsTab::DetailsTab(Parts parts, QWidget *parent) : QWidget(parent) {
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(spacing, spacing, spacing, spacing);
-    column->setSpacing(spacing + gap);
+    column->setSpacing(spacing + smallGap);
     auto *picture = new PictureView(parts.picture, parts.pictureLoading);
     picture->setAccessibleName(tr("Picture of the selected photo"));
     if (parts.fullSize) {
@@ -44,8 +42,8 @@ DetailsTab::DetailsTab(Parts parts, QWidget *parent) : QWidget(parent) {
     column->addWidget(picture, 1);
 
     auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(spacing + gap);
-    grid->setVerticalSpacing(gap);
+    grid->setHorizontalSpacing(spacing + smallGap);
+    grid->setVerticalSpacing(smallGap);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(3, 1);
     addName(*grid, parts.details, parts.rename);
@@ -69,7 +67,7 @@ void DetailsTab::addName(QGridLayout &grid, DetailFields &details,
     button->setToolTip(tr("Gives the selected photos, or all, new names for saving"));
     connect(button, &QPushButton::clicked, this, rename);
     bindings_.follow(details.image_name, button);
-    addLabel(grid, 0, tr("Name"));
+    addDetailLabel(grid, 0, tr("Name"));
     auto *row = new QHBoxLayout;
     row->addWidget(name, 1);
     row->addWidget(button);
@@ -81,9 +79,9 @@ void DetailsTab::addNote(QGridLayout &grid, DetailField &field, const QString &n
     edit->setAccessibleName(name);
     edit->setToolTip(tr("Shift+Return begins another line"));
     tie(bindings_, field, edit);
-    QLabel *const label = addLabel(grid, 0, name);
+    QLabel *const label = addDetailLabel(grid, 0, name);
     label->setBuddy(edit);
-    label->setContentsMargins(0, gap, 0, 0);
+    label->setContentsMargins(0, smallGap, 0, 0);
     grid.setAlignment(label, Qt::AlignRight | Qt::AlignTop);
     grid.addWidget(edit, grid.rowCount() - 1, 1, 1, 3);
 }
@@ -92,7 +90,7 @@ void DetailsTab::addLine(QGridLayout &grid, int column, DetailField &field, cons
     auto *edit = new FieldEdit;
     edit->setAccessibleName(name);
     tie(bindings_, field, edit);
-    addLabel(grid, column, name)->setBuddy(edit);
+    addDetailLabel(grid, column, name)->setBuddy(edit);
     grid.addWidget(edit, grid.rowCount() - 1, column + 1);
 }
 
@@ -100,7 +98,7 @@ void DetailsTab::addCity(QGridLayout &grid, DetailFields &details) {
     auto *edit = new FieldEdit;
     edit->setAccessibleName(tr("City"));
     tie(bindings_, details.city, edit);
-    addLabel(grid, 0, tr("City"))->setBuddy(edit);
+    addDetailLabel(grid, 0, tr("City"))->setBuddy(edit);
     auto *distance = new QLabel(this); // it is shown before it has its place
     distance->setObjectName(QStringLiteral("cityDistance"));
     setRole(distance, Role::Quiet);
@@ -111,7 +109,7 @@ void DetailsTab::addCity(QGridLayout &grid, DetailFields &details) {
         distance->setVisible(metres.has_value());
     });
     auto *row = new QHBoxLayout;
-    row->setSpacing(gap);
+    row->setSpacing(smallGap);
     row->addWidget(edit, 1);
     row->addWidget(distance);
     grid.addLayout(row, grid.rowCount() - 1, 1);
@@ -124,9 +122,9 @@ void DetailsTab::addAltitude(QGridLayout &grid, DetailField &field) {
     edit->setFixedWidth(edit->fontMetrics().horizontalAdvance(QStringLiteral("-0000.000000")) +
                         2 * spacing);
     tie(bindings_, field, edit);
-    addLabel(grid, 2, tr("Altitude"))->setBuddy(edit);
+    addDetailLabel(grid, 2, tr("Altitude"))->setBuddy(edit);
     auto *row = new QHBoxLayout;
-    row->setSpacing(gap);
+    row->setSpacing(smallGap);
     row->addWidget(edit);
     row->addWidget(new QLabel(tr("m")));
     row->addStretch();

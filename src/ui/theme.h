@@ -54,5 +54,7 @@ const Colours &colours();
 
 /// One spacing unit, in device-independent pixels.
 inline constexpr int spacing = 8;
+/// Between things that belong together.
+inline constexpr int smallGap = spacing / 2;
 
 } // namespace pinmora

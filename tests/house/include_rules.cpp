@@ -94,7 +94,9 @@ public:
                 complaints_.push_back(file.generic_string() + ": is in no room of the design");
                 continue;
             }
-            for (const Include &include : includesOf(root_, file)) {
+            const std::vector<Include> includes = includesOf(root_, file);
+            checkOwnHeader(file, includes);
+            for (const Include &include : includes) {
                 include.quoted ? checkQuoted(include) : checkLibrary(include);
             }
         }
@@ -117,6 +119,16 @@ private:
         }
         std::sort(files.begin(), files.end());
         return files;
+    }
+
+    /// A header that its source file includes first is known to compile alone.
+    void checkOwnHeader(const fs::path &file, const std::vector<Include> &includes) {
+        const fs::path own = fs::path(file).replace_extension(".h");
+        const bool isFirst =
+            !includes.empty() && fs::path(includes.front().name).filename() == own.filename();
+        if (file.extension() == ".cpp" && fs::exists(root_ / own) && !isFirst) {
+            complaints_.push_back(file.generic_string() + ": must include its own header first");
+        }
     }
 
     void checkQuoted(const Include &include) {

@@ -91,6 +91,9 @@ private Q_SLOTS:
         row("unknown room", includes("src/helpers/a.cpp", "platform/date.h"),
             "src/helpers/a.cpp: is in no room of the design");
         row("no room", {{"src/a.h", ""}}, "src/a.h: is in no room of the design");
+        row("its own header last",
+            {{"src/gps/a.cpp", "#include <string>\n#include \"gps/a.h\"\n"}, {"src/gps/a.h", ""}},
+            "src/gps/a.cpp: must include its own header first");
 
         const std::string windows = "only ui and apps/pinmora know windows";
         row("image in the logic", includes("src/platform/a.cpp", "<QImage>"), "");
