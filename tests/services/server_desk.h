@@ -16,6 +16,10 @@
 
 namespace pinmora::test {
 
+// Where place names are asked for, and in what form.
+inline constexpr const char *placePath = "/TerraService2.asmx";
+inline constexpr const char *xml = "text/xml; charset=utf-8";
+
 inline int portOf(LocalServer &server) {
     const std::string address = server.address();
     return std::stoi(address.substr(address.rfind(':') + 1));

@@ -18,13 +18,6 @@
 using namespace pinmora;
 using namespace pinmora::test;
 
-namespace {
-
-constexpr const char *placePath = "/TerraService2.asmx";
-constexpr const char *xml = "text/xml; charset=utf-8";
-
-} // namespace
-
 // How the server stands being used by many, and being ended.
 class ServerLifeTest : public QObject {
     Q_OBJECT

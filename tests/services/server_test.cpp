@@ -12,13 +12,6 @@
 using namespace pinmora;
 using namespace pinmora::test;
 
-namespace {
-
-constexpr const char *placePath = "/TerraService2.asmx";
-constexpr const char *xml = "text/xml; charset=utf-8";
-
-} // namespace
-
 class ServerTest : public QObject {
     Q_OBJECT
 
