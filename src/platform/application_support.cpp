@@ -1,6 +1,8 @@
 #include "platform/application_support.h"
 
 #include <cstdlib>
+#include <pwd.h>
+#include <unistd.h>
 
 namespace pinmora {
 
@@ -25,6 +27,14 @@ std::filesystem::path applicationSupportBase() {
     }
     const auto temporary = folderFrom("TMPDIR");
     return temporary.empty() ? std::filesystem::path("/tmp") : temporary;
+}
+
+std::string homeFolder() {
+    if (auto home = folderFrom("HOME"); !home.empty()) {
+        return home.native();
+    }
+    const passwd *const account = ::getpwuid(::getuid());
+    return account && account->pw_dir[0] == '/' ? account->pw_dir : "/";
 }
 
 } // namespace pinmora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace pinmora {
 
@@ -8,5 +9,8 @@ namespace pinmora {
 /// where that is an absolute path, else ".local/share" in the home folder, else, where no home is
 /// told, the folder of temporary files.
 std::filesystem::path applicationSupportBase();
+
+/// HOME where that is an absolute path, else the folder of the system's account; "/" without one.
+std::string homeFolder();
 
 } // namespace pinmora

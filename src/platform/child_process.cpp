@@ -8,14 +8,20 @@
 
 namespace pinmora {
 
-ChildProcess::~ChildProcess() {
-    if (id_ > 0) {
-        signal(SIGKILL);
-        collect();
+namespace {
+
+void addStream(posix_spawn_file_actions_t &actions, int given, int standard) {
+    if (given < 0) {
+        const int access = standard == STDIN_FILENO ? O_RDONLY : O_WRONLY;
+        posix_spawn_file_actions_addopen(&actions, standard, "/dev/null", access, 0);
+    } else {
+        posix_spawn_file_actions_adddup2(&actions, given, standard);
     }
 }
 
-int ChildProcess::start(std::vector<std::string> words, int output, int errors) {
+} // namespace
+
+int ChildProcess::start(std::vector<std::string> words, const ChildStreams &streams) {
     std::vector<char *> pointers;
     pointers.reserve(words.size() + 1);
     for (std::string &word : words) {
@@ -25,9 +31,9 @@ int ChildProcess::start(std::vector<std::string> words, int output, int errors) 
 
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, errors, STDERR_FILENO);
+    addStream(actions, streams.input, STDIN_FILENO);
+    addStream(actions, streams.output, STDOUT_FILENO);
+    addStream(actions, streams.errors, STDERR_FILENO);
 
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
@@ -60,6 +66,12 @@ bool ChildProcess::hasEnded() const {
     return result == 0 ? info.si_pid != 0 : errno != EINTR;
 }
 
+bool ChildProcess::hasExited() const {
+    siginfo_t info{};
+    const int result = ::waitid(P_PID, static_cast<id_t>(id_), &info, WEXITED | WNOHANG | WNOWAIT);
+    return result == 0 && info.si_pid != 0 && info.si_code == CLD_EXITED;
+}
+
 void ChildProcess::signal(int number) const {
     ::kill(-id_, number);
     ::kill(id_, number); // it may have left its group
@@ -71,6 +83,14 @@ int ChildProcess::collect() {
     }
     id_ = -1;
     return status;
+}
+
+int ChildProcess::end() {
+    if (id_ <= 0) {
+        return 0;
+    }
+    signal(SIGKILL);
+    return collect();
 }
 
 } // namespace pinmora

@@ -22,7 +22,7 @@ ProcessOutcome shell(const std::string &script, const ProcessLimits &limits = {}
 
 ProcessLimits within(std::chrono::milliseconds time) {
     ProcessLimits limits;
-    limits.total = time;
+    limits.patience = time;
     return limits;
 }
 

@@ -1,4 +1,4 @@
-#include "shell/background_job.h"
+#include "platform/background_job.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
