@@ -37,6 +37,12 @@ struct Button : Control {
     }
 };
 
+/// A box that a person ticks.
+struct CheckBox : Control {
+    Observable<std::string> title;
+    Observable<bool> on;
+};
+
 /// How far long work has come, between `minimum` and `maximum`.
 struct ProgressBar : Control {
     Observable<double> minimum{0};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "outlets/controls.h"
 #include "outlets/signal.h"
 #include "outlets/window.h"
 
@@ -23,8 +24,14 @@ public:
     std::string directory; ///< where it starts: a folder or a file; "" or one that has gone: home
     std::vector<std::string> allowedTypes; ///< extensions, exactly as files may be spelled
     std::string typesName;                 ///< what files of those types are to a person
-    bool canChooseDirectories = false;     ///< folders, besides files
+    bool canChooseDirectories = false;     ///< folders, besides files unless those cannot be
+    bool canChooseFiles = true;
+    bool canCreateDirectories = false;
+    std::string prompt; ///< the button that confirms; "" leaves it to the panel
     bool allowsMultipleSelection = false;
+
+    /// Stands below what is offered while `visible`.
+    CheckBox accessory;
 
     /// What was chosen, in the panel's order.
     const std::vector<std::string> &filenames() const { return filenames_; }

@@ -32,6 +32,8 @@ public:
 
     void beginGroup(std::string_view name);
     void endGroup();
+    /// Whether a step is under way that more than this turn belongs to.
+    bool isInGroup() const { return depth_ > 0; }
     /// What is written until enableRegistration(), as often called, is no person's doing.
     void disableRegistration();
     void enableRegistration();

@@ -28,6 +28,13 @@ bool isHidden(const std::string &name) {
     return name.starts_with('.');
 }
 
+/// Bytes; nothing for what is gone by now.
+std::optional<double> sizeOfFile(const std::string &path) {
+    std::error_code gone;
+    const std::uintmax_t bytes = std::filesystem::file_size(path, gone);
+    return gone ? std::nullopt : std::optional(static_cast<double>(bytes));
+}
+
 std::string pathIn(const std::string &folder, const std::string &name) {
     return folder + "/" + name;
 }
@@ -147,6 +154,7 @@ void Photos::makePictEntry(const std::string &name, const std::string &folder) {
     for (const auto &[key, value] : values) {
         photo.setValue(value, key);
     }
+    photo.setFile_size(sizeOfFile(path));
     photo.setLoading(false);
     photo.setHasChangesFalse();
     context_.commitEditing();

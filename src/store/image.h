@@ -51,6 +51,9 @@ public:
     /// Without the dot.
     const Text &extension() const { return read("extension", extension_); }
     void setExtension(Text text) { changeAndMark("extension", extension_, std::move(text)); }
+    /// Bytes of the file as it was loaded, where known.
+    const std::optional<double> &file_size() const { return read("file_size", file_size_); }
+    void setFile_size(std::optional<double> bytes) { change("file_size", file_size_, bytes); }
 
     /// The capture time, or the moment of loading for a photo that has none.
     const std::optional<Date> &date() const { return read("date", date_); }
@@ -167,6 +170,7 @@ private:
     Text file_path_;
     Text full_file_path_;
     Text extension_;
+    std::optional<double> file_size_;
     std::optional<Date> date_;
     Text lat_;
     Text lon_;

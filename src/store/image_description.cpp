@@ -14,6 +14,7 @@ const EntityDescription &image::description() {
             attribute<&I::full_file_path, &I::setFull_file_path, &I::full_file_path_>(
                 "full_file_path"),
             attribute<&I::extension, &I::setExtension, &I::extension_>("extension"),
+            attribute<&I::file_size, &I::setFile_size, &I::file_size_>("file_size"),
             attribute<&I::date, &I::setDateValue, &I::date_>("date"),
             attribute<&I::no_capture_time, &I::setNo_capture_time, &I::no_capture_time_>(
                 "no_capture_time"),

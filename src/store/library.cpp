@@ -97,8 +97,12 @@ bool Library::saveAction() {
 void Library::deleteTempStore() {
     managedObjectContext();
     undo_->closeStep();
-    if (!unsaved_ || unsaved_->willEmptyStore()) {
-        static_cast<void>(coordinator_->empty());
+    if (unsaved_ && !unsaved_->willEmptyStore()) {
+        return;
+    }
+    static_cast<void>(coordinator_->empty());
+    if (unsaved_) {
+        unsaved_->didEmptyStore();
     }
 }
 

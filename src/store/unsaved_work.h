@@ -17,6 +17,8 @@ public:
     /// The store file is about to lose the library, which goes on in memory. False when the file is
     /// to stay as it is, because the library cannot be kept elsewhere.
     virtual bool willEmptyStore() = 0;
+    /// It has lost it, or the file cannot be written.
+    virtual void didEmptyStore() {}
 };
 
 } // namespace pinmora

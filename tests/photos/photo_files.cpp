@@ -15,9 +15,12 @@ void writePhoto(const std::filesystem::path &file, const Tags &tags) {
     buffer.open(QIODevice::WriteOnly);
     picture.save(&buffer, "jpg");
     std::ofstream(file, std::ios::binary) << buffer.data().toStdString();
-    if (tags.empty()) {
-        return;
+    if (!tags.empty()) {
+        addTags(file, tags);
     }
+}
+
+void addTags(const std::filesystem::path &file, const Tags &tags) {
     const auto image = Exiv2::ImageFactory::open(file.native());
     for (const auto &[key, value] : tags) {
         if (key.starts_with("Iptc")) {

@@ -16,6 +16,9 @@ using Tags = std::vector<std::pair<std::string, std::string>>;
 /// A small JPEG picture with these tags.
 void writePhoto(const std::filesystem::path &file, const Tags &tags = {});
 
+/// Gives a picture these tags.
+void addTags(const std::filesystem::path &file, const Tags &tags);
+
 /// Takes logs by their extension "txt" or "gpx" and notes what it is asked to read. A log whose
 /// name begins with "no" is none.
 struct NotingLogs : LogIntake {

@@ -133,6 +133,8 @@ void RecordTest::values() {
         found << (value.hasValue() ? QByteArray::fromStdString(value.toText().string()) : "none");
     }
     QTEST(found.join('|'), "expected");
+    QCOMPARE(photo->file_size(),
+             std::optional(static_cast<double>(std::filesystem::file_size(folder() + "/" + name))));
     QCOMPARE(photo->file_path().string(), folder());
     QCOMPARE(photo->full_file_path().string(), folder() + "/" + name);
 }

@@ -241,8 +241,9 @@ void ImageTest::placeDistance() {
 
 /// Which keys are a person's work on the photo, and which only how it is shown or found.
 void ImageTest::changeFlag() {
-    const QByteArrayList quiet{"zoom",   "zoom_reset",      "valid_file",     "no_capture_time",
-                               "camera", "position_source", "full_file_path", "place_distance"};
+    const QByteArrayList quiet{"zoom",     "zoom_reset",      "valid_file",     "no_capture_time",
+                               "camera",   "position_source", "full_file_path", "place_distance",
+                               "file_size"};
     int marking = 0;
     for (const Property &property : image::description().properties()) {
         if (property.kind != Property::Kind::Attribute) {
