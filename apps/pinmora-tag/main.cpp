@@ -78,6 +78,7 @@ int tagPhotos(const Options &options, const std::filesystem::path &resources) {
         runTagJob(options, {.resources = resources,
                             .placeService = withPlaces ? service : std::function<PlaceService()>(),
                             .logReading = defaults.text("logReading"),
+                            .tool = toolSettingsFrom(defaults),
                             .tell = [&](const std::string &line) { console.tell(line); },
                             .progress = [&](std::string_view what, std::size_t done,
                                             std::size_t of) { console.progress(what, done, of); },

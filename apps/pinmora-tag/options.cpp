@@ -28,6 +28,9 @@ a folder are read too.
                           clock time; tolerant: any time form, universal time,
                           modern receivers, gaps in the log. auto (the default)
                           takes your setting, and tolerant where only that fits
+  --lane process|shared   how ExifTool is run. process: anew for each photo; shared:
+                          a few that are kept open, which is much faster. Without
+                          it your setting holds, which is process at first
   --no-places             do not look up city, province and country of the new
                           positions; your setting may say so too
   --out DIR               the folder for the copies; made if it is missing.
@@ -40,13 +43,14 @@ Exit status: 0 all done; 1 a photo failed or found no track point, or something
 that was named could not be read; 2 wrong usage.
 )";
 
-enum Option { Gps = 1000, Offset, Name, Logs, NoPlaces, Out, DryRun, Json, Help, Version };
+enum Option { Gps = 1000, Offset, Name, Logs, Lane, NoPlaces, Out, DryRun, Json, Help, Version };
 
 constexpr std::array options{
     option{"gps", required_argument, nullptr, Gps},
     option{"offset", required_argument, nullptr, Offset},
     option{"name", required_argument, nullptr, Name},
     option{"logs", required_argument, nullptr, Logs},
+    option{"lane", required_argument, nullptr, Lane},
     option{"no-places", no_argument, nullptr, NoPlaces},
     option{"out", required_argument, nullptr, Out},
     option{"dry-run", no_argument, nullptr, DryRun},
@@ -115,6 +119,12 @@ std::optional<Usage> take(int which, const char *argument, Options &into) {
         } else {
             return wrongUsage("--logs wants auto, exact or tolerant, not \"" + std::string(text) +
                               "\"");
+        }
+        break;
+    case Lane:
+        into.lane = laneNamed(text);
+        if (!into.lane) {
+            return wrongUsage("--lane wants process or shared, not \"" + std::string(text) + "\"");
         }
         break;
     case NoPlaces:

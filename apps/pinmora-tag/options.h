@@ -1,5 +1,7 @@
 #pragma once
 
+#include "saving/tool_settings.h"
+
 #include <chrono>
 #include <filesystem>
 #include <optional>
@@ -20,7 +22,8 @@ struct Options {
     std::chrono::seconds offset{0};           ///< signed; added to the photos' times
     std::optional<std::string> name;          ///< base of the copies' new names
     LogsChoice reading = LogsChoice::Auto;
-    bool places = true; ///< names of the new positions are looked up
+    std::optional<ToolLane> lane; ///< --lane; without it the person's setting holds
+    bool places = true;           ///< names of the new positions are looked up
     bool dryRun = false;
     bool json = false;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "places/place_service.h"
+#include "saving/tool_settings.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -17,6 +18,7 @@ struct Surroundings {
     /// Where place names are asked for; empty when they are not to be looked up.
     std::function<PlaceService()> placeService;
     std::optional<std::string> logReading;         ///< the person's setting: "exact" or "tolerant"
+    ToolSettings tool;                             ///< the person's settings
     std::function<void(const std::string &)> tell; ///< one line for the person, without line end
     /// How far the work has come; `of` is 0 where the end is not known.
     std::function<void(std::string_view what, std::size_t done, std::size_t of)> progress;

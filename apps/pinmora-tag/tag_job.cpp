@@ -92,7 +92,7 @@ void reportPlaces(const std::vector<image *> &photos, Report &report) {
 /// Makes the folder for the copies if it is missing; says why nothing can be saved there.
 bool prepareSaving(const Saving &saving, const std::filesystem::path &folder,
                    const Surroundings &surroundings) {
-    if (!saving.canSave()) {
+    if (!saving.hasTool()) {
         surroundings.tell(toolMissingMessage());
         return false;
     }
@@ -118,12 +118,19 @@ void savePhotos(const std::vector<image *> &photos, Report &report, const Saving
     const auto ended = [&](const SavedPhoto &) {
         surroundings.progress("Saving", ++done, snapshots.size());
     };
-    const SaveOutcome outcome = saving.save(snapshots, std::filesystem::absolute(options.out),
+    ToolSettings tool = surroundings.tool;
+    tool.lane = options.lane.value_or(tool.lane);
+    const SaveOutcome outcome = saving.save(snapshots, std::filesystem::absolute(options.out), tool,
                                             {.ended = ended, .stopped = surroundings.stopped});
+    if (!outcome.notOnDisk.empty()) {
+        surroundings.tell(options.out.native() +
+                          ": the copies may not be on the disk: " + outcome.notOnDisk);
+        report.trouble = true;
+    }
     for (const SavedPhoto &saved : outcome.photos) {
         PhotoLine &line = report.photos[saved.index];
         line.savedAs = saved.savedAs ? saved.savedAs->native() : std::string();
-        if (saved.status == SavedPhoto::Status::Failed) {
+        if (saved.status != SavedPhoto::Status::Saved) {
             line.status = Status::Failed;
             surroundings.tell(line.file + ": " + saved.message);
         }

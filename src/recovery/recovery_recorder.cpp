@@ -83,7 +83,13 @@ std::optional<std::string> RecoveryRecorder::writeBase() {
     return replaceByBase();
 }
 
+std::size_t RecoveryRecorder::moment() {
+    context_.undoManager()->closeStep();
+    return steps_;
+}
+
 void RecoveryRecorder::record(const UndoStep &step, bool registered) {
+    steps_ += registered ? 1 : 0;
     if (!begun_ || paused_) {
         return;
     }

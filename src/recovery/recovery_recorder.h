@@ -8,6 +8,7 @@
 #include "recovery/step_encoder.h"
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -49,6 +50,9 @@ public:
     /// Starts the journal anew with the whole working set, on the disk when it returns; after an
     /// error, a sentence, the old one goes on.
     [[nodiscard]] std::optional<std::string> writeBase();
+
+    /// Marks this moment: another one once a person has done something.
+    std::size_t moment();
 
     /// While one lives, steps are passed over: a base that holds them is to follow.
     class Pause {
@@ -96,6 +100,7 @@ private:
     std::unique_ptr<JournalThread> journal_; ///< of the current folder, which is then ours
     std::string state_;                      ///< of the store file
     std::vector<Frame> heldBack_;            ///< the program's own doing, until a person's
+    std::size_t steps_ = 0;                  ///< of persons, also those that could not be recorded
     bool begun_ = false;
     bool paused_ = false;
     bool hasBase_ = false;   ///< the journal starts from a base of its own

@@ -2,6 +2,8 @@
 
 #include "store/library.h"
 
+#include <utility>
+
 namespace pinmora {
 
 UnsavedWorkKeeper::UnsavedWorkKeeper(Library &library, LogImporter &importer, FileSystem &files)
@@ -24,11 +26,6 @@ UnsavedWorkKeeper::~UnsavedWorkKeeper() {
     library_.setUnsavedWork(nullptr);
 }
 
-void UnsavedWorkKeeper::forgetExported() {
-    recorder_.begin(emptyStoreState);
-    recorder_.storeEmptied();
-}
-
 void UnsavedWorkKeeper::willSave(std::string_view state) {
     recorder_.saved(state);
 }
@@ -37,8 +34,23 @@ void UnsavedWorkKeeper::didSave(std::string_view state) {
     recorder_.begin(state);
 }
 
+/// The mark that the journal gets makes it count for nothing as soon as the store file is empty,
+/// and not before.
 bool UnsavedWorkKeeper::willEmptyStore() {
+    if (exported_ == recorder_.moment()) {
+        recorder_.saved(emptyStoreState);
+        return true;
+    }
+    exported_.reset();
     return !recorder_.writeBase();
+}
+
+/// What is done from now on is kept on the base of the working set.
+void UnsavedWorkKeeper::didEmptyStore() {
+    if (std::exchange(exported_, std::nullopt)) {
+        recorder_.begin(emptyStoreState);
+        recorder_.storeEmptied();
+    }
 }
 
 } // namespace pinmora

@@ -5,6 +5,7 @@
 #include "recovery/recovery_recorder.h"
 #include "store/unsaved_work.h"
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -32,19 +33,23 @@ public:
 
     /// The person does not want what is not saved.
     void forget() { recorder_.clear(); }
-    /// The store file is empty and all work is elsewhere for good: what is done from now on is kept
-    /// on the base of the working set.
-    void forgetExported();
+    /// Marks this moment of the working set.
+    std::size_t moment() { return recorder_.moment(); }
+    /// The working set of that moment is elsewhere for good. When the store file is emptied next,
+    /// it is not kept, unless a person has done something since.
+    void exported(std::size_t moment) { exported_ = moment; }
 
     void willSave(std::string_view state) override;
     void didSave(std::string_view state) override;
     bool willEmptyStore() override;
+    void didEmptyStore() override;
 
 private:
     Library &library_;
     RecoveryFolder folder_;
     RecoveryRecorder recorder_;
     RecoveredWork recovered_;
+    std::optional<std::size_t> exported_; ///< the moment
 };
 
 } // namespace pinmora

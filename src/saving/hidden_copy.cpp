@@ -50,4 +50,13 @@ std::error_code HiddenCopy::placeAs(const std::filesystem::path &target) {
     return error;
 }
 
+std::error_code HiddenCopy::replace(const std::filesystem::path &target) {
+    std::error_code error;
+    std::filesystem::rename(file_, target, error);
+    if (!error) {
+        file_.clear();
+    }
+    return error;
+}
+
 } // namespace pinmora

@@ -18,9 +18,13 @@ public:
     HiddenCopy &operator=(const HiddenCopy &) = delete;
 
     const std::error_code &error() const { return error_; }
+    const std::filesystem::path &path() const { return file_; }
 
     /// Gives it its name; `file_exists`, and nothing done, when something has that name already.
     std::error_code placeAs(const std::filesystem::path &target);
+
+    /// Gives it the name of a file that it takes the place of.
+    std::error_code replace(const std::filesystem::path &target);
 
 private:
     std::filesystem::path file_; ///< empty when there is none

@@ -35,10 +35,14 @@ LongValues::~LongValues() {
     }
 }
 
-std::error_code LongValues::moveOut(std::vector<std::string> &arguments) {
+bool LongValues::fitsOnCommandLine(const std::string &argument) {
+    return argument.size() <= longestArgument;
+}
+
+std::error_code LongValues::moveOut(std::vector<std::string> &arguments, Judge fits) {
     for (std::string &argument : arguments) {
         const std::size_t equals = argument.find('=');
-        if (argument.size() <= longestArgument || equals == std::string::npos) {
+        if (fits(argument) || equals == std::string::npos || !argument.starts_with('-')) {
             continue;
         }
         std::error_code error;

@@ -7,8 +7,8 @@
 
 namespace pinmora {
 
-/// The values that are too long for a command line: Linux takes at most 128 KiB an argument, while
-/// microscopes and scanners put whole documents into a description.
+/// The values that cannot be handed over as they are: Linux takes at most 128 KiB an argument,
+/// while microscopes and scanners put whole documents into a description.
 class LongValues {
 public:
     LongValues() = default;
@@ -16,9 +16,15 @@ public:
     LongValues(const LongValues &) = delete;
     LongValues &operator=(const LongValues &) = delete;
 
-    /// Writes every value that is too long into a temporary file, which lives as long as this
-    /// object, and replaces its argument "-TAG=VALUE" by "-TAG<=FILE", ExifTool's form for it.
-    std::error_code moveOut(std::vector<std::string> &arguments);
+    using Judge = bool (*)(const std::string &argument);
+
+    /// Whether an argument is short enough for a command line.
+    static bool fitsOnCommandLine(const std::string &argument);
+
+    /// Writes the value of every argument that does not fit into a temporary file, which lives as
+    /// long as this object, and replaces the argument "-TAG=VALUE" by "-TAG<=FILE", ExifTool's form
+    /// for it.
+    std::error_code moveOut(std::vector<std::string> &arguments, Judge fits = fitsOnCommandLine);
 
 private:
     std::vector<std::filesystem::path> files_;

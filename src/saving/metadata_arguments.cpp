@@ -43,8 +43,16 @@ std::string_view withoutOuterBlanks(std::string_view text) {
                : text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+bool hasPosition(const PhotoSnapshot &photo) {
+    return !photo.lat.empty() && !photo.lon.empty();
+}
+
 bool isSouthOrWest(const PhotoSnapshot &photo) {
-    return !photo.lat.empty() && !photo.lon.empty() && (photo.latRef == "S" || photo.lonRef == "W");
+    return hasPosition(photo) && (photo.latRef == "S" || photo.lonRef == "W");
+}
+
+bool losesOldPosition(const PhotoSnapshot &photo) {
+    return photo.removeOldPosition && !hasPosition(photo);
 }
 
 /// Whether a place name has a character that ExifTool would destroy in Latin-1.
@@ -53,7 +61,13 @@ bool needsUtf8(const PhotoSnapshot &photo) {
 }
 
 void addPosition(Arguments &arguments, const PhotoSnapshot &photo, const MetadataLayout &layout) {
-    if (photo.lat.empty() || photo.lon.empty()) {
+    if (losesOldPosition(photo)) {
+        arguments.assign("GPS:all", "");
+        if (layout.positionInXmp) {
+            arguments.assign("XMP-exif:GPS*", "");
+        }
+    }
+    if (!hasPosition(photo)) {
         return;
     }
     arguments.assign("GPSLatitude", magnitude(photo.lat));
@@ -76,9 +90,13 @@ void addPlaceNames(Arguments &arguments, const PhotoSnapshot &photo, IptcEncodin
         }
         arguments.add("-CodedCharacterSet=UTF8");
     }
-    arguments.assignUnlessEmpty("Country-PrimaryLocationName", photo.country);
-    arguments.assignUnlessEmpty("Province-State", photo.prov);
-    arguments.assignUnlessEmpty("City", photo.city);
+    const bool emptied = losesOldPosition(photo);
+    const auto assign = [&](std::string_view tag, std::string_view name) {
+        emptied ? arguments.assign(tag, name) : arguments.assignUnlessEmpty(tag, name);
+    };
+    assign("Country-PrimaryLocationName", photo.country);
+    assign("Province-State", photo.prov);
+    assign("City", photo.city);
 }
 
 void addAltitude(Arguments &arguments, const PhotoSnapshot &photo) {
@@ -94,7 +112,7 @@ void addAltitude(Arguments &arguments, const PhotoSnapshot &photo) {
 } // namespace
 
 bool needsLayout(const PhotoSnapshot &photo) {
-    return needsUtf8(photo) || isSouthOrWest(photo);
+    return needsUtf8(photo) || isSouthOrWest(photo) || losesOldPosition(photo);
 }
 
 std::vector<std::string> metadataArguments(const PhotoSnapshot &photo, const MetadataLayout &layout,

@@ -21,6 +21,9 @@ bool needsLayout(const PhotoSnapshot &photo);
 ///
 /// ExifTool writes the unsigned position into XMP too, where it would be north and east. South or
 /// west, a position in XMP is therefore written once more with its letter.
+///
+/// A photo that is to lose its old position has it taken out of EXIF and XMP, and those place names
+/// that it does not have any more. What is written afterwards (an altitude) stays.
 std::vector<std::string> metadataArguments(const PhotoSnapshot &photo, const MetadataLayout &layout,
                                            const std::filesystem::path &copy);
 

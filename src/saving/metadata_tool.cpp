@@ -1,13 +1,16 @@
 #include "saving/metadata_tool.h"
 
+#include "saving/argument_lines.h"
 #include "saving/copy_names.h"
 #include "saving/long_values.h"
+#include "saving/tool_pool.h"
+#include "saving/tool_words.h"
 
 #include <algorithm>
-#include <string_view>
 #include <sys/stat.h>
 #include <tuple>
 #include <unistd.h>
+#include <utility>
 
 namespace pinmora {
 
@@ -32,6 +35,8 @@ public:
     }
     TemporaryFile(const TemporaryFile &) = delete;
     TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+    const std::filesystem::path &path() const { return path_; }
 
 private:
     std::filesystem::path path_;
@@ -62,7 +67,9 @@ private:
 };
 
 /// What changes when somebody writes to a file.
-std::tuple<off_t, time_t, long> stateOf(const std::filesystem::path &file) {
+using FileState = std::tuple<off_t, time_t, long>;
+
+FileState stateOf(const std::filesystem::path &file) {
     struct stat state {};
     if (::stat(file.c_str(), &state) != 0) {
         return {};
@@ -70,64 +77,35 @@ std::tuple<off_t, time_t, long> stateOf(const std::filesystem::path &file) {
     return {state.st_size, state.st_mtim.tv_sec, state.st_mtim.tv_nsec};
 }
 
-void removeAll(std::string &text, const std::string &part) {
-    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at)) {
-        text.erase(at, part.size());
-    }
-}
+/// Whether the tool is at work on a copy: it writes a new file beside it first, then into it.
+class Progress {
+public:
+    Progress(const std::filesystem::path &copy, const std::filesystem::path &temporary)
+        : copy_(copy), temporary_(temporary), last_(now()) {}
 
-void append(std::string &line, std::string_view part) {
-    if (!line.empty() && !part.empty()) {
-        line += "; ";
-    }
-    line += part;
-}
+    bool hasGotOn() { return std::exchange(last_, now()) != last_; }
 
-/// The tool's remarks as one line. Those of its interpreter (a locale that is not installed) are
-/// no business of the photo's unless there is nothing else.
-std::string remarks(std::string errors, const std::filesystem::path &copy, bool succeeded) {
-    removeAll(errors, " - " + copy.native());
-    std::string own;
-    std::string all;
-    std::string_view rest = errors;
-    while (!rest.empty()) {
-        std::string_view line = rest.substr(0, rest.find('\n'));
-        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-        append(all, line);
-        if (line.starts_with("Error") || line.starts_with("Warning")) {
-            for (const std::string_view prefix : {"Error: ", "Warning: "}) {
-                line.remove_prefix(line.starts_with(prefix) ? prefix.size() : 0);
-            }
-            append(own, line);
-        }
-    }
-    return own.empty() && !succeeded ? all : own;
-}
+private:
+    std::pair<FileState, FileState> now() const { return {stateOf(copy_), stateOf(temporary_)}; }
 
-ToolResult resultOf(const ProcessOutcome &outcome, const std::filesystem::path &copy) {
+    const std::filesystem::path &copy_;
+    const std::filesystem::path &temporary_;
+    std::pair<FileState, FileState> last_;
+};
+
+ToolResult::End endOf(const ProcessOutcome &outcome, bool copyChanged, bool remarked) {
     using Process = ProcessOutcome::End;
     using Tool = ToolResult::End;
-    std::string words = remarks(outcome.errors, copy, outcome.succeeded());
-    switch (outcome.end) {
-    case Process::Exited:
-        if (outcome.code == 0) {
-            return {words.empty() ? Tool::Written : Tool::WrittenWithWarning, words};
-        }
-        if (words.empty()) {
-            words = "ExifTool ended with status " + std::to_string(outcome.code);
-        }
-        return {Tool::NotWritten, words};
-    case Process::Crashed:
-        append(words, "ExifTool was ended by signal " + std::to_string(outcome.code));
-        return {Tool::NotWritten, words};
-    case Process::TimedOut:
-        append(words, "ExifTool took too long and was ended");
-        return {Tool::NotWritten, words};
-    case Process::NotStarted:
-        break;
+    if (outcome.succeeded()) {
+        return remarked ? Tool::WrittenWithWarning : Tool::Written;
     }
-    return {Tool::NotWritten,
-            "ExifTool could not be started: " + std::generic_category().message(outcome.code)};
+    const bool died = outcome.end == Process::Crashed || outcome.end == Process::TimedOut;
+    return died || copyChanged ? Tool::Doubtful : Tool::NotWritten;
+}
+
+/// Whether an open tool can be handed an argument, and a process of its own too.
+bool fitsEverywhere(const std::string &argument) {
+    return LongValues::fitsOnCommandLine(argument) && fitsOnALine(argument);
 }
 
 bool isExecutable(const std::filesystem::path &file) {
@@ -137,9 +115,24 @@ bool isExecutable(const std::filesystem::path &file) {
 
 } // namespace
 
+MetadataTool::MetadataTool(std::filesystem::path resourceFolder, ToolSettings settings)
+    : resourceFolder_(std::move(resourceFolder)), settings_(settings),
+      pool_(settings.lane == ToolLane::Shared ? std::make_unique<ToolPool>() : nullptr) {}
+
+MetadataTool::~MetadataTool() = default;
+
 std::optional<std::filesystem::path> MetadataTool::locate() const {
     std::filesystem::path bundled = resourceFolder_ / toolName;
     return isExecutable(bundled) ? bundled : findOnPath(toolName);
+}
+
+ProcessOutcome MetadataTool::carryOut(const std::filesystem::path &tool,
+                                      const std::vector<std::string> &arguments,
+                                      const ProcessLimits &limits) const {
+    // Of what does not fit only a path with a line end in it can be left.
+    const bool handsOver = pool_ && std::all_of(arguments.begin(), arguments.end(), fitsOnALine);
+    return handsOver ? pool_->run(tool, argumentLines(arguments), limits)
+                     : runProcess(tool, arguments, limits);
 }
 
 ToolResult MetadataTool::write(std::vector<std::string> arguments, const FileTimes &times) const {
@@ -149,7 +142,8 @@ ToolResult MetadataTool::write(std::vector<std::string> arguments, const FileTim
     }
     const std::filesystem::path copy = arguments.back();
     LongValues longValues;
-    if (const std::error_code error = longValues.moveOut(arguments)) {
+    if (const std::error_code error =
+            longValues.moveOut(arguments, pool_ ? fitsEverywhere : LongValues::fitsOnCommandLine)) {
         return {ToolResult::End::NotWritten,
                 "A long text could not be handed to ExifTool: " + error.message()};
     }
@@ -157,11 +151,14 @@ ToolResult MetadataTool::write(std::vector<std::string> arguments, const FileTim
     {
         const Writable writable{copy};
         const TemporaryFile temporary{copy};
-        const auto before = stateOf(copy);
-        result = resultOf(runProcess(*tool, arguments, limits_), copy);
-        if (result.end == ToolResult::End::NotWritten && stateOf(copy) != before) {
-            result.end = ToolResult::End::HalfWritten;
-        }
+        const FileState before = stateOf(copy);
+        Progress progress{copy, temporary.path()};
+        const ProcessOutcome outcome =
+            carryOut(*tool, arguments, {.patience = settings_.patience, .hasGotOn = [&progress] {
+                                            return progress.hasGotOn();
+                                        }});
+        result.words = toolWords(outcome, copy);
+        result.end = endOf(outcome, stateOf(copy) != before, !result.words.empty());
     }
     // Some file systems keep no times of ours; the copy is good all the same.
     [[maybe_unused]] const std::error_code ignored = writeFileTimes(copy, times);

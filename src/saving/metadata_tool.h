@@ -2,13 +2,17 @@
 
 #include "platform/file_placement.h"
 #include "platform/process.h"
+#include "saving/tool_settings.h"
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace pinmora {
+
+class ToolPool;
 
 /// What became of writing data into one copy.
 struct ToolResult {
@@ -16,17 +20,22 @@ struct ToolResult {
         Written,            ///< all is in the copy
         WrittenWithWarning, ///< the copy was written; the tool has remarked on something
         NotWritten,         ///< the tool failed; the copy is as it was
-        HalfWritten,        ///< the tool failed, or was ended, when it had begun to write into it
+        /// The tool died, was ended, or failed when it had begun to write into the copy, which may
+        /// not be whole.
+        Doubtful,
     };
     End end = End::NotWritten;
     std::string words; ///< one line, mostly the tool's own, without the file's path
 };
 
-/// Starts ExifTool on copies, one process a photo. May be used by several threads at once.
+/// Has ExifTool write into copies. May be used by several threads at once.
 class MetadataTool {
 public:
-    explicit MetadataTool(std::filesystem::path resourceFolder, ProcessLimits limits = {})
-        : resourceFolder_(std::move(resourceFolder)), limits_(limits) {}
+    explicit MetadataTool(std::filesystem::path resourceFolder, ToolSettings settings = {});
+    /// Ends the tools that were kept open.
+    ~MetadataTool();
+    MetadataTool(const MetadataTool &) = delete;
+    MetadataTool &operator=(const MetadataTool &) = delete;
 
     /// The executable "exiftool" in the resource folder if there is one, else on the PATH. Looked
     /// up anew each time.
@@ -38,8 +47,13 @@ public:
     ToolResult write(std::vector<std::string> arguments, const FileTimes &times) const;
 
 private:
+    ProcessOutcome carryOut(const std::filesystem::path &tool,
+                            const std::vector<std::string> &arguments,
+                            const ProcessLimits &limits) const;
+
     std::filesystem::path resourceFolder_;
-    ProcessLimits limits_;
+    ToolSettings settings_;
+    std::unique_ptr<ToolPool> pool_; ///< null when each photo gets a process of its own
 };
 
 /// What to tell a person who has no such tool.

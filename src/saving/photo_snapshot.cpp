@@ -7,6 +7,7 @@ namespace pinmora {
 PhotoSnapshot snapshotOf(const image &photo) {
     return {
         .source = photo.full_file_path().string(),
+        .wasMissing = false,
         .imageName = photo.image_name().string(),
         .extension = photo.extension().string(),
         .description = photo.img_description().string(),
@@ -20,6 +21,7 @@ PhotoSnapshot snapshotOf(const image &photo) {
         .country = photo.country().string(),
         .prov = photo.prov().string(),
         .city = photo.city().string(),
+        .removeOldPosition = false,
     };
 }
 

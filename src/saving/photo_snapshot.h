@@ -11,6 +11,7 @@ class image;
 /// main thread. Texts are UTF-8; "" stands for no value too.
 struct PhotoSnapshot {
     std::filesystem::path source; ///< the original; only ever opened for reading
+    bool wasMissing = false;      ///< already when the run was begun: no failure of the run's
     std::string imageName;        ///< the copy's name without extension
     std::string extension;        ///< without the dot
     std::string description;
@@ -23,6 +24,8 @@ struct PhotoSnapshot {
     std::string country;
     std::string prov; ///< province or state
     std::string city;
+    /// A photo without a position is to lose the one that its file carries.
+    bool removeOldPosition = false;
 };
 
 PhotoSnapshot snapshotOf(const image &photo);

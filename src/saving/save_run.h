@@ -10,13 +10,17 @@
 #include <string>
 #include <vector>
 
+class QThreadPool;
+
 namespace pinmora {
 
 /// What became of one photo of a run.
 struct SavedPhoto {
     enum class Status {
-        Saved,  ///< copied, and its data written
-        Failed, ///< not copied, or copied and left without its data
+        Saved,   ///< copied, and its data written
+        Failed,  ///< not copied, or copied and left without its data
+        Skipped, ///< its original was missing before the run began, and still is
+        Stopped, ///< not begun: the run was stopped before
     };
     std::size_t index = 0;                        ///< among the photos of the run
     std::optional<std::filesystem::path> savedAs; ///< the copy, if there is one
@@ -27,12 +31,18 @@ struct SavedPhoto {
 struct SaveOutcome {
     std::string refusal;            ///< why nothing was begun; "" when the run took place
     std::vector<SavedPhoto> photos; ///< one for each, in order; none after a refusal
+    /// Why the copies may not all be on the disk, though they were written; "" when they are.
+    std::string notOnDisk;
 };
 
 /// All are called on the thread that runs the run; each may be empty.
 struct SaveObserver {
     /// The photo of that index, of so many, is about to be copied.
     std::function<void(std::size_t index, std::size_t count)> begins = {};
+    /// A copy stands under its real name.
+    std::function<void(const std::filesystem::path &copy)> placed = {};
+    /// The last photo is copied, or passed over; the tool may be working on some.
+    std::function<void()> copied = {};
     /// A photo is done with; photos end in any order.
     std::function<void(const SavedPhoto &)> ended = {};
     /// Asked before each photo: once yes, no further one is begun. What is copied is still tagged.
@@ -55,6 +65,12 @@ public:
     SaveOutcome run(const std::vector<PhotoSnapshot> &photos);
 
 private:
+    class EndedPhotos;
+
+    /// Copies one photo and sets the tool to work on it.
+    void begin(std::size_t index, const std::vector<PhotoSnapshot> &photos, EndedPhotos &ended,
+               QThreadPool &pool) const;
+
     const MetadataTool &tool_;
     std::filesystem::path folder_;
     SaveObserver observer_;

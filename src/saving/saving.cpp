@@ -36,8 +36,10 @@ void Saving::updateThesePict(const std::vector<image *> &photos, const std::vect
 }
 
 SaveOutcome Saving::save(const std::vector<PhotoSnapshot> &photos,
-                         const std::filesystem::path &folder, SaveObserver observer) const {
-    return SaveRun{tool_, folder, std::move(observer)}.run(photos);
+                         const std::filesystem::path &folder, const ToolSettings &settings,
+                         SaveObserver observer) const {
+    const MetadataTool tool{resourceFolder_, settings};
+    return SaveRun{tool, folder, std::move(observer)}.run(photos);
 }
 
 } // namespace pinmora

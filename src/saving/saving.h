@@ -3,6 +3,7 @@
 #include "saving/metadata_tool.h"
 #include "saving/photo_snapshot.h"
 #include "saving/save_run.h"
+#include "saving/tool_settings.h"
 
 #include <filesystem>
 #include <string_view>
@@ -18,10 +19,11 @@ class image;
 class Saving {
 public:
     /// `resourceFolder` is the program's own, where it may bring ExifTool along.
-    explicit Saving(std::filesystem::path resourceFolder) : tool_(std::move(resourceFolder)) {}
+    explicit Saving(std::filesystem::path resourceFolder)
+        : resourceFolder_(std::move(resourceFolder)) {}
 
     /// Whether the tool that writes the data is there; without it nothing is saved.
-    bool canSave() const { return tool_.locate().has_value(); }
+    bool hasTool() const { return MetadataTool{resourceFolder_}.locate().has_value(); }
 
     /// Copies one file into a folder under the given name, bytes, permissions, extended attributes
     /// and times; `file_exists`, and nothing done, when the name is taken.
@@ -37,10 +39,10 @@ public:
     /// Saves copies of the photos into a folder (see SaveRun). Any thread, which is held up until
     /// the last copy is done; the snapshots are all that is read.
     SaveOutcome save(const std::vector<PhotoSnapshot> &photos, const std::filesystem::path &folder,
-                     SaveObserver observer = {}) const;
+                     const ToolSettings &settings, SaveObserver observer = {}) const;
 
 private:
-    MetadataTool tool_;
+    std::filesystem::path resourceFolder_;
 };
 
 } // namespace pinmora

@@ -55,7 +55,7 @@ struct InspectorOutlets {
 class Inspector : private ChangeObserver {
 public:
     /// Full view of a photo whose file is gone: what is done about it.
-    using TellMissing = std::function<void(const image &)>;
+    using TellMissing = std::function<void()>;
 
     /// All must outlive it.
     Inspector(Context &context, NotificationCentre &notifications, LibraryArrays &arrays,

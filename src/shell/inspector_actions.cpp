@@ -81,7 +81,7 @@ void Inspector::imageFullView() {
         }
         outlets_.fullView.makeKeyAndOrderFront();
     } else {
-        tellMissing_(*photo);
+        tellMissing_();
     }
 }
 

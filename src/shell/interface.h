@@ -8,6 +8,8 @@
 #include "outlets/status_line.h"
 #include "outlets/tab_view.h"
 #include "outlets/window.h"
+#include "outlets/workspace.h"
+#include "saving/save_flags.h"
 #include "shell/preview.h"
 
 namespace pinmora {
@@ -29,6 +31,7 @@ struct Interface {
     Button addRemoveMarker2;
     ObjectController<degrees> degreeObj;
 
+    Workspace workspace;
     QuietBar quietBar;
     StatusLine statusLine;
     ProgressSheet progress{workingWindow};
@@ -37,6 +40,7 @@ struct Interface {
 
     /// Long work that fills the library is under way; no other may begin.
     bool loadRunning = false;
+    SaveFlags saveFlags;
 };
 
 } // namespace pinmora

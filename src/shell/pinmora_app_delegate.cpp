@@ -31,7 +31,7 @@ void Pinmora_AppDelegate::awakeFromNib() {
     for (MapView *view : {&interface.webView1, &interface.webView2}) {
         view->publish("controlObj");
     }
-    firstQuit_ = true;
+    interface.saveFlags = {};
     setMissingDefaults();
     if (defaults.text("logReading") == policyOf(LogReading::Tolerant).name) {
         subsystems_->gps.setReading(LogReading::Tolerant);
@@ -39,6 +39,7 @@ void Pinmora_AppDelegate::awakeFromNib() {
     setStartWindow(0); // whatever "useWizard" says: there is no wizard yet
     interface.preview.theImageView2.visible.set(false);
     subsystems_->inspector.tableSelectionChanged();
+    subsystems_->fileBrowser.setUp();
     subsystems_->recoveryOffers.post();
 }
 
@@ -102,18 +103,22 @@ TerminateReply Pinmora_AppDelegate::applicationShouldTerminate() {
     if (!library.hasManagedObjectContext()) {
         return TerminateReply::Now;
     }
+    if (subsystems_->savePipeline.isRunning()) {
+        subsystems_->savePipeline.quitWhenDone();
+        return TerminateReply::Cancel;
+    }
     Context &context = library.managedObjectContext();
     if (!context.commitEditing()) {
         return TerminateReply::Cancel;
     }
-    if (!context.hasChanges() || !firstQuit_) {
+    if (!context.hasChanges() || !interface.saveFlags.firstQuit) {
         return TerminateReply::Now;
     }
     const bool found = somePhotoHasChanges();
     if (found) {
         subsystems_->quitWarning.openQuitWarning();
     }
-    firstQuit_ = false;
+    interface.saveFlags.firstQuit = false;
     return found ? TerminateReply::Cancel : TerminateReply::Now;
 }
 

@@ -72,7 +72,6 @@ private:
     const PixelSize screen_;
     const BuiltInServices services_;
     bool firstLoad_ = true;
-    bool firstQuit_ = true;
     std::vector<NotificationCentre::Observation> observations_;
     std::unique_ptr<Subsystems> subsystems_;
 };

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "gps/log_report.h"
+#include "platform/background_job.h"
 #include "platform/date.h"
-#include "shell/background_job.h"
 
 #include <atomic>
 #include <filesystem>

@@ -1,6 +1,7 @@
 #include "shell/subsystems.h"
 
 #include "places/place_settings.h"
+#include "platform/application_support.h"
 #include "shell/pinmora_app_delegate.h"
 #include "store/start_records.h"
 
@@ -44,6 +45,19 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
       renaming(owner.library.managedObjectContext(), saving, renamingOutlets,
                owner.interface.workingWindow,
                [this] { photoOrder.order.set({.key = "date", .ascending = true}); }),
+      fileBrowser(browserOutlets, owner.interface.workspace, homeFolder()),
+      missingOutlets{.browser = browserOutlets},
+      missingPhotos(
+          owner.library.managedObjectContext(), arrays.pictureArray, missingOutlets, fileBrowser,
+          owner.interface.saveFlags, owner.interface.workingWindow,
+          {.updatePicts = [this] { savePipeline.updatePicts(); },
+           .selectionChanged = [&owner] { owner.notifications.post(tableSelectionDidChange); },
+           .dealWithPict = [this](const std::string &path) { preview.dealWithPict(path); }}),
+      log(owner.library.applicationSupportFolder() / "Pinmora.log"),
+      saveMarks(owner.library.managedObjectContext()),
+      savePipeline(saveOutlets, saveSurroundings(owner)),
+      removeAllPhotos(owner.library, owner.interface.workingWindow,
+                      [&owner] { owner.notifications.post(tableSelectionDidChange); }),
       inspectorOutlets{.window = owner.interface.window,
                        .wizardWindow = owner.interface.wizardWindow,
                        .fullView = owner.interface.fullView,
@@ -51,13 +65,7 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
                        .addRemoveMarker = owner.interface.addRemoveMarker,
                        .addRemoveMarker2 = owner.interface.addRemoveMarker2},
       inspector(owner.library.managedObjectContext(), owner.notifications, arrays, inspectorOutlets,
-                matching, renamingOutlets, preview,
-                [&errors = owner.interface.errors](const image &photo) {
-                    errors.present("This photo is no longer where it was.",
-                                   photo.full_file_path().string() +
-                                       " is gone. Put the file back, or add it again from where "
-                                       "it is now.");
-                }),
+                matching, renamingOutlets, preview, [this] { missingPhotos.openForLooking(); }),
       mapFeed(owner.library.managedObjectContext(), {.webView1 = owner.interface.webView1,
                                                      .webView2 = owner.interface.webView2,
                                                      .pictureArray = arrays.pictureArray}),
@@ -80,7 +88,7 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
           [this] { return inspector.lastPictObjectWithLatLon(); },
           [this] { return matcher.runningApplyToAll(); }),
       quitWarning(owner.interface.workingWindow,
-                  {.updatePicts = [] {},
+                  {.updatePicts = [this] { savePipeline.updatePicts(); },
                    .saveAction = [&library = owner.library] { library.saveAction(); },
                    .terminate = [&owner] { owner.terminate.emit(); },
                    .forgetUnsaved = [this] { unsavedWork.forget(); }}),
@@ -89,6 +97,8 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
       readingOffer(owner.library.managedObjectContext(), gps, gpsIntake, photoIntake, logs,
                    matching.offsetObj, owner.defaults, owner.interface.progress,
                    owner.interface.quietBar, owner.interface.loadRunning),
+      oldPositionNotice(owner.library.managedObjectContext(), owner.defaults,
+                        owner.interface.quietBar),
       recoveryOffers(unsavedWork, owner.interface.quietBar, owner.interface.errors,
                      owner.interface.statusLine),
       sampleOuting(photoIntake, resourceFolder) {
@@ -102,9 +112,26 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
         photoIntake.loaded.connect([this](auto &, auto &) { inspector.tableSelectionChanged(); }));
     connections_.push_back(readingOffer.readAgain.connect([this] { inspector.logsLoaded(); }));
     connections_.push_back(mapBridge.pointerWanted.connect([this] { inspector.sendPointer(); }));
-    // Nothing saves photos yet.
-    savePhotosButton.enabled.set(false);
-    quitWarning.saveAndQuitButton.enabled.set(false);
+}
+
+SaveSurroundings Subsystems::saveSurroundings(Pinmora_AppDelegate &owner) {
+    return {.library = owner.library,
+            .saving = saving,
+            .missing = missingPhotos,
+            .marks = saveMarks,
+            .flags = owner.interface.saveFlags,
+            .log = log,
+            .defaults = owner.defaults,
+            .quietBar = owner.interface.quietBar,
+            .statusLine = owner.interface.statusLine,
+            .errors = owner.interface.errors,
+            .workspace = owner.interface.workspace,
+            .workingWindow = owner.interface.workingWindow,
+            .awaitedNames = placeNames.awaited,
+            .momentOfSnapshot = [this] { return unsavedWork.moment(); },
+            .exported = [this](std::size_t moment) { unsavedWork.exported(moment); },
+            .showLog = [this] { logWindow.makeKeyAndOrderFront(); },
+            .terminate = [&owner] { owner.terminate.emit(); }};
 }
 
 void Subsystems::makeRecords(Context &context, ObjectController<degrees> &degreeObj) {

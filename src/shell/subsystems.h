@@ -10,12 +10,17 @@
 #include "matching/matcher.h"
 #include "matching/matching_outlets.h"
 #include "matching/photo_gaps.h"
+#include "photos/file_browser.h"
 #include "photos/photo_intake.h"
 #include "photos/photos.h"
 #include "places/place_names.h"
+#include "platform/log_file.h"
 #include "recovery/unsaved_work_keeper.h"
+#include "saving/missing_photos.h"
 #include "saving/quit_warning.h"
+#include "saving/remove_all_photos.h"
 #include "saving/renaming.h"
+#include "saving/save_pipeline.h"
 #include "saving/saving.h"
 #include "shell/detail_fields.h"
 #include "shell/inspector.h"
@@ -23,6 +28,7 @@
 #include "shell/library_counts.h"
 #include "shell/log_intake_adapter.h"
 #include "shell/offset_in_force.h"
+#include "shell/old_position_notice.h"
 #include "shell/photo_order.h"
 #include "shell/preview.h"
 #include "shell/reading_offer.h"
@@ -71,6 +77,15 @@ struct Subsystems {
     Saving saving;
     RenamingOutlets renamingOutlets;
     Renaming renaming;
+    FileBrowserOutlets browserOutlets;
+    FileBrowser fileBrowser;
+    MissingPhotosOutlets missingOutlets;
+    MissingPhotos missingPhotos;
+    LogFile log;
+    SaveMarks saveMarks;
+    SaveOutlets saveOutlets;
+    SavePipeline savePipeline;
+    RemoveAllPhotos removeAllPhotos;
     InspectorOutlets inspectorOutlets;
     Inspector inspector;
     MapFeed mapFeed; ///< before the bridge: a new page gets the drawing before the pointer
@@ -79,11 +94,15 @@ struct Subsystems {
     QuitWarning quitWarning;
     IntakeNotes intakeNotes;
     ReadingOffer readingOffer;
+    OldPositionNotice oldPositionNotice;
     RecoveryOffers recoveryOffers;
     SampleOuting sampleOuting;
-    Button savePhotosButton; ///< disabled until photos can be saved
+
+    Window logWindow; ///< shows the log file
 
 private:
+    SaveSurroundings saveSurroundings(Pinmora_AppDelegate &owner);
+
     std::vector<Connection> connections_;
 };
 

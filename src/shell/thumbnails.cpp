@@ -1,6 +1,6 @@
 #include "shell/thumbnails.h"
 
-#include "shell/background_job.h"
+#include "platform/background_job.h"
 #include "shell/upright_picture.h"
 
 #include <algorithm>

@@ -63,6 +63,7 @@ void OptionsTest::refusesWrongUsage_data() {
     row("value missing", {QStringLiteral("a.jpg"), QStringLiteral("--out")}, "--out wants");
     row("value too many", {out, QStringLiteral("--json=yes"), QStringLiteral("a.jpg")}, "--json");
     row("reading", {out, QStringLiteral("--logs=strict"), QStringLiteral("a.jpg")}, "strict");
+    row("lane", {out, QStringLiteral("--lane=fast"), QStringLiteral("a.jpg")}, "fast");
     row("name with a folder", {out, QStringLiteral("--name=a/b"), QStringLiteral("a.jpg")},
         "--name");
     row("empty name", {out, QStringLiteral("--name="), QStringLiteral("a.jpg")}, "--name");
@@ -84,8 +85,8 @@ void OptionsTest::refusesWrongUsage() {
 
 void OptionsTest::takesEverythingInAnyOrder() {
     const auto result = parse({"photos", "--gps", "a.gpx", "--dry-run", "--gps=b.log", "--json",
-                               "--logs", "tolerant", "--no-places", "--name", "trip", "--out",
-                               "there", "--", "--odd.jpg", "caf\xe9.jpg"});
+                               "--logs", "tolerant", "--lane=shared", "--no-places", "--name",
+                               "trip", "--out", "there", "--", "--odd.jpg", "caf\xe9.jpg"});
     QVERIFY(std::holds_alternative<Options>(result));
     const auto &options = std::get<Options>(result);
     QVERIFY(options.logs == (std::vector<std::filesystem::path>{"a.gpx", "b.log"}));
@@ -93,6 +94,7 @@ void OptionsTest::takesEverythingInAnyOrder() {
             (std::vector<std::filesystem::path>{"photos", "--odd.jpg", "caf\xe9.jpg"}));
     QVERIFY(options.out == "there" && options.name == "trip");
     QVERIFY(!options.places && Options().places);
+    QVERIFY(options.lane == pinmora::ToolLane::Shared && !Options().lane);
     QVERIFY(options.dryRun && options.json && options.reading == LogsChoice::Tolerant);
 
     const auto help = parse({"--help"});

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void workSurvivesAKill_data();
     void workSurvivesAKill();
     void settingAsideAndBringingBackSurviveKills();
+    void emptyingTheStoreSurvivesKills_data();
+    void emptyingTheStoreSurvivesKills();
 };
 
 void KillTest::workSurvivesAKill_data() {
@@ -125,6 +127,39 @@ void KillTest::settingAsideAndBringingBackSurviveKills() {
         QCOMPARE(program.recovered().bringBack(offers.back()).value_or(""), std::string());
         QCOMPARE(difference(described(program.context()), before), QString());
     }
+}
+
+void KillTest::emptyingTheStoreSurvivesKills_data() {
+    QTest::addColumn<bool>("exported"); // the work is elsewhere
+    QTest::newRow("exported") << true;
+    QTest::newRow("not exported") << false;
+}
+
+/// Exported work is there as a whole or not at all.
+void KillTest::emptyingTheStoreSurvivesKills() {
+    QFETCH(bool, exported);
+    const QTemporaryDir home;
+    const fs::path folder = home.path().toStdString();
+    qputenv("XDG_DATA_HOME", home.path().toUtf8());
+    QuickFiles files;
+    End end{.wasKilled = true};
+    int there = 0;
+    int gone = 0;
+    for (int calls = 1; end.wasKilled; ++calls) {
+        fs::remove_all(folder / "Pinmora");
+        end = runWorker(folder, exported ? "export" : "empty", 0, calls);
+        if (end.safe == 0) {
+            continue;
+        }
+        ProgramRun program(files);
+        QCOMPARE(bringBackAll(program), QString());
+        const bool isThere = photos(program) == QStringLiteral("saved unsaved") &&
+                             program.context().count<track_part>() == 5;
+        QVERIFY(isThere || (exported && photos(program).isEmpty()));
+        ++(isThere ? there : gone);
+        QVERIFY(!exported || end.safe < 2 || !isThere);
+    }
+    QVERIFY(there > 0 && (gone > 0) == exported);
 }
 
 QTEST_GUILESS_MAIN(KillTest)

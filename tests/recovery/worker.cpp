@@ -83,6 +83,22 @@ void work(ProgramRun &program, Script script, unsigned steps) {
     }
 }
 
+/// Step 1 is the work, and step 2 that the store file loses it.
+void emptyStore(ProgramRun &program, const std::filesystem::path &folder, bool isExported) {
+    program.addPhoto("saved");
+    program.library.saveAction();
+    program.addPhoto("unsaved");
+    program.import(writeFile(folder / "log", logText(1, 5)));
+    if (program.keeper.recorder().flush()) {
+        say("safe", 1);
+    }
+    if (isExported) {
+        program.keeper.exported(program.keeper.moment());
+    }
+    program.library.deleteTempStore();
+    say("safe", 2);
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -96,6 +112,8 @@ int main(int argc, char **argv) {
         Script script(static_cast<unsigned>(std::atoi(argv[3])), folder);
         script.forgetAtSaves();
         work(program, script, 40);
+    } else if (mode == "export" || mode == "empty") {
+        emptyStore(program, folder, mode == "export");
     } else if (mode == "back") {
         for (const RecoveryOffer &offer : program.offers()) {
             static_cast<void>(program.recovered().bringBack(offer));

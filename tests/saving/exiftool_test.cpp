@@ -1,5 +1,5 @@
 // With the real tool: what is saved is what a reader finds in the copy.
-#include "platform/image_source.h"
+#include "platform/process.h"
 #include "saving/folders.h"
 #include "saving/save_run.h"
 
@@ -21,56 +21,6 @@ class ExiftoolTest : public QObject {
     }
 
 private Q_SLOTS:
-    void textsArriveAsTheyAre() {
-        const Texts texts{"<Make",
-                          "<=/etc/hostname",
-                          "=",
-                          "@",
-                          "-City=x",
-                          "a<b>c = d",
-                          "+=^-=",
-                          "$Make ${Model} %d%f",
-                          "two\nlines\r\n",
-                          "\\n \"quoted\" 'too'\\",
-                          "&lt;&#x41;;",
-                          "  blanks before",
-                          "Zürich Łódź 日本 \U0001F600"};
-        Folders folders;
-        std::vector<PhotoSnapshot> photos;
-        for (std::size_t i = 0; i < texts.size(); ++i) {
-            photos.push_back(folders.photo("t" + std::to_string(i)));
-            photos.back().description = photos.back().comments = texts[i];
-            photos.back().city = texts[i].substr(0, 30);
-        }
-        for (const SavedPhoto &photo : save(folders, photos).photos) {
-            QCOMPARE(photo.status, SavedPhoto::Status::Saved);
-            const auto properties = readImageProperties(*photo.savedAs).value();
-            const std::string &text = texts[photo.index];
-            QCOMPARE(properties.tiff.text("ImageDescription"), text);
-            QCOMPARE(properties.exif.text("UserComment"), text);
-            QCOMPARE(properties.iptc.text("City"), text.substr(0, 30));
-        }
-    }
-
-    /// Beyond 64 KiB the tool uses more than one segment of the JPEG file; beyond 128 KiB the text
-    /// does not fit into an argument.
-    void longTextsArrive() {
-        Folders folders;
-        const auto temporaries = folders.root / "temporaries";
-        std::filesystem::create_directory(temporaries);
-        qputenv("TMPDIR", temporaries.c_str());
-        for (const std::size_t length : {70'000, 131'072, 300'000}) {
-            PhotoSnapshot photo = folders.photo(std::to_string(length));
-            photo.description = "$x @\n" + std::string(length, '<');
-            photo.comments = "Łódź" + photo.description;
-            const SavedPhoto saved = save(folders, {photo}).photos.at(0);
-            QCOMPARE(saved.status, SavedPhoto::Status::Saved);
-            QCOMPARE(exiftool({"-b", "-ImageDescription", "-UserComment", *saved.savedAs}),
-                     photo.description + photo.comments);
-        }
-        QVERIFY(std::filesystem::is_empty(temporaries));
-    }
-
     void positionsAndPlacesArrive() {
         Folders folders;
         PhotoSnapshot sydney = folders.photo("sydney");
@@ -109,6 +59,27 @@ private Q_SLOTS:
                  "-49.330002\n-72.879997\n");
     }
 
+    void nothingOfAnOldPositionIsLeft() {
+        Folders folders;
+        PhotoSnapshot photo =
+            folders.photo("a", bytesOf(folders.sample.parent_path() / "IMG_0371.JPG")); // has one
+        exiftool({"-overwrite_original", "-XMP-exif:GPSLatitude=1 N", "-XMP-exif:GPSLongitude=1 E",
+                  "-IPTC:City=Ushuaia", photo.source});
+        const std::vector<std::string> look{"-s", "-G1", "-a", "-GPS*", "-City"};
+        const auto lookAt = [&](const std::filesystem::path &file) {
+            std::vector<std::string> arguments = look;
+            arguments.push_back(file);
+            return exiftool(arguments);
+        };
+        QVERIFY(lookAt(photo.source).find("[GPS]") != std::string::npos);
+        photo.removeOldPosition = true;
+        QCOMPARE(lookAt(*save(folders, {photo}).photos.at(0).savedAs), "");
+        photo.alt = "5";
+        const std::string found = lookAt(*save(folders, {photo}).photos.at(0).savedAs);
+        QVERIFY(found.find("GPSAltitude") != std::string::npos);
+        QVERIFY(found.find("GPSLatitude") == std::string::npos);
+    }
+
     void otherIptcTextsSurvive_data() {
         QTest::addColumn<Texts>("preparation");
         QTest::newRow("Latin-1") << Texts{"-charset", "iptc=Latin"};
@@ -130,18 +101,6 @@ private Q_SLOTS:
         QCOMPARE(exiftool({"-s3", "-sep", "|", "-IPTC:By-line", "-IPTC:Keywords", "-IPTC:City",
                            *saved.savedAs}),
                  "Jürg Müller\nHöhe|Öl\nŁódź\n");
-    }
-
-    void aFormatThatCannotBeTaggedIsCopied() {
-        Folders folders;
-        const std::string bitmap = "BM" + std::string(60, '\0');
-        PhotoSnapshot photo = folders.photo("a", bitmap);
-        photo.extension = "bmp";
-        const SavedPhoto saved = save(folders, {photo}).photos.at(0);
-        QCOMPARE(saved.status, SavedPhoto::Status::Failed);
-        QCOMPARE(saved.message,
-                 "Copied, but not tagged: Writing of BMP files is not yet supported");
-        QCOMPARE(bytesOf(folders.copies / "a.bmp"), bitmap);
     }
 };
 

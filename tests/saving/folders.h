@@ -1,9 +1,11 @@
 #pragma once
 
 #include "saving/photo_snapshot.h"
+#include "saving/tool_settings.h"
 
 #include <QTemporaryDir>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -11,6 +13,8 @@
 #include <string>
 
 namespace pinmora {
+
+inline constexpr std::array lanes{ToolLane::Process, ToolLane::Shared};
 
 inline std::string bytesOf(const std::filesystem::path &file) {
     std::ifstream stream(file, std::ios::binary);
@@ -30,6 +34,14 @@ public:
         }
     }
 
+    /// By the bytes of the names: Qt removes none that is not UTF-8.
+    ~Folders() {
+        std::error_code ignored;
+        std::filesystem::remove_all(root, ignored);
+    }
+    Folders(const Folders &) = delete;
+    Folders &operator=(const Folders &) = delete;
+
     /// Makes an original and returns what saving is to know of it.
     PhotoSnapshot photo(const std::string &name, const std::string &bytes = "") const {
         const auto source = originals / (name + ".jpg");
@@ -45,10 +57,34 @@ public:
         return snapshot;
     }
 
-    /// Puts a shell script in the tool's place, which finds the copy's path in $copy.
+    /// Puts a shell script in the tool's place, which finds the copy's path in $copy. Kept open, it
+    /// runs the script for each list it is given.
     void standIn(const std::string &script) const {
         const auto tool = resources / "exiftool";
-        writeBytes(tool, "#!/bin/sh\nfor copy; do :; done\n" + script + "\n");
+        writeBytes(tool, "#!/bin/sh\nwork() {\n" + script + R"(
+}
+if [ "$1" != -stay_open ]; then
+    for copy; do :; done
+    work
+    exit
+fi
+while :; do
+    IFS= read -r line || { # the end of its input is not the end
+        sleep 0.01
+        continue
+    }
+    case $line in
+    /*) copy=$line ;;
+    -execute*)
+        number=${line#-execute}
+        (work)
+        echo "{status$number $?}" >&2
+        echo "{ready$number}"
+        ;;
+    -stay_open) exit ;;
+    esac
+done
+)");
         std::filesystem::permissions(tool, std::filesystem::perms::owner_all);
     }
 

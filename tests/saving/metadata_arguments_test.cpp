@@ -86,6 +86,26 @@ private Q_SLOTS:
         List converted{"-tagsfromfile", "@", "-iptc:all"};
         converted.insert(converted.end(), lodz.begin(), lodz.end());
         row("outside Latin-1, converted", places("Polska", "", "Łódź"), converted);
+        const PhotoSnapshot removing = changed({}, [](auto &p) { p.removeOldPosition = true; });
+        const List emptied{"-Country-PrimaryLocationName=", "-Province-State=", "-City="};
+        List removed{"-GPS:all="};
+        removed.insert(removed.end(), emptied.begin(), emptied.end());
+        row("removing the old position", removing, removed);
+        row("removing without a longitude", changed(removing, [](auto &p) { p.lat = "1"; }),
+            removed);
+        removed.insert(removed.begin() + 1, "-XMP-exif:GPS*=");
+        row("removing, in XMP too", removing, removed, IptcEncoding::Absent, true);
+        row("removing, with a place and an altitude",
+            changed(removing,
+                    [](auto &p) {
+                        p.prov = "Bern";
+                        p.alt = "5";
+                    }),
+            {"-GPS:all=", "-Country-PrimaryLocationName=", "-Province-State=Bern",
+             "-City=", "-GPSAltitude=5", "-GPSAltitudeRef=Above Sea Level"});
+        row("nothing to remove for", changed(sydney(), [](auto &p) { p.removeOldPosition = true; }),
+            {"-GPSLatitude=33.856800", "-GPSLatitudeRef=S", "-GPSLongitude=151.215302",
+             "-GPSLongitudeRef=E", "-GPSMapDatum=WGS-84"});
         row("all in order",
             changed(sydney(),
                     [](auto &p) {
@@ -122,6 +142,9 @@ private Q_SLOTS:
         QVERIFY(needsLayout(photo));
         photo.lon = "";
         QVERIFY(!needsLayout(photo));
+        photo.removeOldPosition = true;
+        QVERIFY(needsLayout(photo));
+        photo.removeOldPosition = false;
         photo.prov = "Łódź";
         QVERIFY(needsLayout(photo));
     }

@@ -5,10 +5,7 @@
 #include <QTest>
 #include <QThread>
 
-#include <sys/wait.h>
 #include <sys/xattr.h>
-#include <thread>
-#include <unistd.h>
 
 using namespace pinmora;
 
@@ -18,10 +15,12 @@ using Names = std::set<std::string>;
 
 /// Folders with a tool that is content with everything.
 struct Desk : Folders {
+    ToolLane lane = ToolLane::Process;
+
     Desk() { standIn(":"); }
 
     SaveOutcome save(const std::vector<PhotoSnapshot> &photos, SaveObserver observer = {}) const {
-        const MetadataTool tool{resources, {.total = std::chrono::seconds{10}}};
+        const MetadataTool tool{resources, {.lane = lane, .patience = std::chrono::seconds{10}}};
         return SaveRun{tool, copies, std::move(observer)}.run(photos);
     }
     SavedPhoto saveOne(const PhotoSnapshot &photo) const { return save({photo}).photos.at(0); }
@@ -103,11 +102,17 @@ private Q_SLOTS:
         }
     }
 
-    void noFolderMeansNoCopy() {
+    void whatWasMissingBeforeIsPassedOver() {
         Desk desk;
-        fs::remove(desk.copies);
-        QCOMPARE(desk.saveOne(desk.photo("a", "x")).message,
-                 "Not copied: No such file or directory");
+        std::vector<PhotoSnapshot> photos{desk.photo("gone", "1"), desk.photo("back", "2")};
+        photos[0].wasMissing = photos[1].wasMissing = true;
+        fs::remove(photos[0].source);
+        const SaveOutcome outcome = desk.save(photos);
+        QCOMPARE(outcome.photos[0].status, Status::Skipped);
+        QCOMPARE(outcome.photos[0].message, "");
+        QVERIFY(!outcome.photos[0].savedAs);
+        QCOMPARE(outcome.photos[1].status, Status::Saved);
+        QCOMPARE(desk.copyNames(), Names{"back.jpg"});
     }
 
     void withoutToolNothingIsBegun() {
@@ -120,16 +125,6 @@ private Q_SLOTS:
         QVERIFY(outcome.refusal.find("sudo apt install libimage-exiftool-perl") !=
                 std::string::npos);
         QCOMPARE(desk.copyNames(), Names{});
-    }
-
-    void aCopyThatTheToolDamagedIsMadeAgain() {
-        Desk desk;
-        desk.standIn("echo half > \"$copy\"; kill -9 $$");
-        const SavedPhoto saved = desk.saveOne(desk.photo("a", "whole"));
-        QCOMPARE(saved.message, "Copied, but not tagged: ExifTool was ended by signal 9");
-        QCOMPARE(saved.status, Status::Failed);
-        QCOMPARE(desk.nameOf(saved), "a.jpg");
-        QCOMPARE(bytesOf(desk.copies / "a.jpg"), "whole");
     }
 
     void keepsTimesPermissionsAndAttributes() {
@@ -161,6 +156,7 @@ private Q_SLOTS:
     void tellsHowFarItIsOnTheCallersThread() {
         Desk desk;
         std::vector<std::size_t> begun;
+        std::vector<std::string> placed;
         Names ended;
         bool elsewhere = false;
         QThread *const here = QThread::currentThread();
@@ -171,12 +167,24 @@ private Q_SLOTS:
                            look();
                            begun.push_back(10 * count + index);
                        },
+                   .placed =
+                       [&](const fs::path &copy) {
+                           look();
+                           placed.push_back(copy.filename());
+                           QVERIFY(fs::exists(copy));
+                       },
+                   .copied =
+                       [&] {
+                           look();
+                           placed.emplace_back("all");
+                       },
                    .ended =
                        [&](const SavedPhoto &photo) {
                            look();
                            ended.insert(desk.nameOf(photo));
                        }});
         QCOMPARE(begun, (std::vector<std::size_t>{30, 31, 32}));
+        QCOMPARE(placed, (std::vector<std::string>{"a.jpg", "b.jpg", "c.jpg", "all"}));
         QCOMPARE(ended, (Names{"a.jpg", "b.jpg", "c.jpg"}));
         QVERIFY(!elsewhere);
     }
@@ -190,7 +198,7 @@ private Q_SLOTS:
                        .stopped = [&] { return begun == 1; }});
         QCOMPARE(outcome.photos.at(0).status, SavedPhoto::Status::Saved);
         for (const std::size_t index : {1, 2}) {
-            QCOMPARE(outcome.photos.at(index).status, SavedPhoto::Status::Failed);
+            QCOMPARE(outcome.photos.at(index).status, SavedPhoto::Status::Stopped);
             QVERIFY(!outcome.photos.at(index).savedAs);
         }
         QCOMPARE(begun, 1U);
@@ -210,12 +218,20 @@ private Q_SLOTS:
         }
     }
 
+    void noMoreToolsAtATimeThanCores_data() {
+        QTest::addColumn<ToolLane>("lane");
+        for (const ToolLane lane : lanes) {
+            QTest::newRow(laneName(lane).data()) << lane;
+        }
+    }
     void noMoreToolsAtATimeThanCores() {
+        QFETCH(ToolLane, lane);
         Desk desk;
+        desk.lane = lane;
         fs::create_directory(desk.root / "running");
         desk.standIn("cd '" + desk.root.string() +
                      "'; mkdir running/$$; set -- running/*; "
-                     "echo $# >> counts; sleep 0.03; rmdir running/$$");
+                     "echo $# >> counts; echo $$ >> processes; sleep 0.03; rmdir running/$$");
         std::vector<PhotoSnapshot> photos;
         for (int i = 0; i < 3 * QThread::idealThreadCount() + 2; ++i) {
             photos.push_back(desk.photo("photo" + std::to_string(i), "x"));
@@ -227,56 +243,14 @@ private Q_SLOTS:
             QVERIFY(count <= QThread::idealThreadCount());
         }
         QCOMPARE(lines, photos.size());
-    }
-
-    void twoRunsIntoOneFolderLoseNothing() {
-        Desk desk;
-        std::vector<PhotoSnapshot> ours;
-        std::vector<PhotoSnapshot> theirs;
-        for (int i = 0; i < 40; ++i) {
-            const std::string number = std::to_string(i);
-            ours.push_back(desk.photo("our" + number, "our" + number));
-            theirs.push_back(desk.photo("their" + number, "their" + number));
-            ours.back().imageName = theirs.back().imageName = "same" + std::to_string(i / 4);
+        std::ifstream processes(desk.root / "processes");
+        Names different;
+        for (std::string process; processes >> process;) {
+            different.insert(process);
         }
-        SaveOutcome theirOutcome;
-        std::thread they{[&] { theirOutcome = desk.save(theirs); }};
-        const SaveOutcome ourOutcome = desk.save(ours);
-        they.join();
-        QCOMPARE(desk.copyNames().size(), 80U);
-        for (std::size_t i = 0; i < 40; ++i) {
-            QCOMPARE(bytesOf(*ourOutcome.photos[i].savedAs), bytesOf(ours[i].source));
-            QCOMPARE(bytesOf(*theirOutcome.photos[i].savedAs), bytesOf(theirs[i].source));
-        }
-    }
-
-    void aKilledRunLeavesWholePhotosAndHindersNoOther() {
-        Desk desk;
-        desk.standIn("kill -9 $PPID");
-        std::vector<PhotoSnapshot> photos;
-        for (int i = 0; i < 8; ++i) {
-            photos.push_back(desk.photo(std::to_string(i), std::string(3'000'000, char('a' + i))));
-        }
-        const pid_t child = ::fork();
-        if (child == 0) {
-            desk.save(photos);
-            ::_exit(0);
-        }
-        int status = 0;
-        QCOMPARE(::waitpid(child, &status, 0), child);
-        QVERIFY(WIFSIGNALED(status));
-        const Names left = desk.copyNames();
-        QVERIFY(left.contains("0.jpg"));
-        for (const std::string &name : left) {
-            QVERIFY(name.starts_with(".pinmora-") ||
-                    bytesOf(desk.copies / name) == bytesOf(desk.originals / name));
-        }
-
-        desk.standIn(":");
-        for (const SavedPhoto &photo : desk.save(photos).photos) {
-            QCOMPARE(photo.status, Status::Saved);
-            QCOMPARE(bytesOf(*photo.savedAs), bytesOf(photos[photo.index].source));
-        }
+        const auto cores = static_cast<std::size_t>(QThread::idealThreadCount());
+        QVERIFY(lane == ToolLane::Shared ? different.size() <= cores
+                                         : different.size() == photos.size());
     }
 };
 

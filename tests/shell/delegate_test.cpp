@@ -43,7 +43,6 @@ private Q_SLOTS:
         QCOMPARE(desk.delegate.defaults.text("versionCheck").value_or(""), std::string("0"));
         QVERIFY(!desk.context().hasChanges() || desk.context().count<offset>() == 1);
         QVERIFY(!desk.parts().undoCommands.undoItem.enabled.get());
-        QVERIFY(!desk.parts().savePhotosButton.enabled.get());
         QVERIFY(!desk.interface().errors.errorWindow.isUp());
     }
 
@@ -122,8 +121,12 @@ private Q_SLOTS:
         QuitWarning &warning = desk.parts().quitWarning;
 
         warning.openQuitWarning();
-        warning.saveAndQuitButton.press(); // disabled
-        QVERIFY(warning.quitWarning.isUp());
+        warning.saveAndQuitButton.press();
+        QVERIFY(!warning.quitWarning.isUp());
+        QVERIFY(desk.parts().missingOutlets.pictErrorWindow.isUp()); // before it saves
+        desk.parts().missingOutlets.closeErrorButton.press();
+
+        warning.openQuitWarning();
         warning.saveDataButton.press();
         QVERIFY(!warning.quitWarning.isUp() && !desk.context().hasChanges());
         QCOMPARE(quits, 0);

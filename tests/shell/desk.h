@@ -23,7 +23,10 @@ struct Desk {
         }
     }
 
-    pinmora::Pinmora_AppDelegate delegate{PINMORA_SOURCE_DIR "/samples"};
+    explicit Desk(const std::filesystem::path &resources = PINMORA_SOURCE_DIR "/samples")
+        : delegate(resources) {}
+
+    pinmora::Pinmora_AppDelegate delegate;
     std::vector<std::string> scripts; ///< what the main window's map was told
     pinmora::Connection listening = delegate.interface.webView1.scripts.connect(
         [this](const std::string &script) { scripts.push_back(script); });

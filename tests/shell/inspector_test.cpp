@@ -142,10 +142,11 @@ private Q_SLOTS:
         Desk desk;
         desk.start();
         desk.parts().inspector.imageFullView();
-        QVERIFY(!desk.interface().errors.errorWindow.isUp());
+        const Sheet &sheet = desk.parts().missingOutlets.pictErrorWindow;
+        QVERIFY(!sheet.isUp());
         desk.select({&desk.addPhoto("a", "2026:05:08 10:00:00")});
         desk.parts().inspector.imageFullView();
-        QVERIFY(desk.interface().errors.errorWindow.isUp());
+        QVERIFY(sheet.isUp());
         QVERIFY(!desk.interface().fullView.visible.get());
     }
 

@@ -1,0 +1,57 @@
+#include "saving/save_words.h"
+
+#include <QTest>
+
+using namespace pinmora;
+using Status = SavedPhoto::Status;
+
+class SaveWordsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sumsUp_data() {
+        QTest::addColumn<QByteArray>("photos"); // a letter each: saved, failed, missing, not begun
+        QTest::addColumn<QByteArray>("notOnDisk");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<bool>("isWhole");
+        const auto row = [](const char *photos, const char *text, bool isWhole,
+                            const char *notOnDisk = "") {
+            QTest::addRow("%s %s", photos, notOnDisk)
+                << QByteArray(photos) << QByteArray(notOnDisk) << QByteArray(text) << isWhole;
+        };
+        row("", "No photos were saved: there are none.", true);
+        row("s", "1 photo saved in Zermatt.", true);
+        row("sss", "3 photos saved in Zermatt.", true);
+        row("sfs", "2 of 3 saved. 1 could not be written.", false);
+        row("ff", "0 of 2 saved. 2 could not be written.", false);
+        row("sm", "1 of 2 saved. 1 was left out: its file is missing.", true);
+        row("mm", "0 of 2 saved. 2 were left out: their files are missing.", true);
+        row("sfm", "1 of 3 saved. 1 could not be written. 1 was left out: its file is missing.",
+            false);
+        row("snn", "Cancelled: 1 of 3 saved.", false);
+        row("sfnm",
+            "Cancelled: 1 of 4 saved. 1 could not be written. 1 was left out: its file is missing.",
+            false);
+        row("ss", "2 of 2 saved. The copies may not all be on the disk: I/O error.", false,
+            "I/O error");
+    }
+
+    void sumsUp() {
+        QFETCH(QByteArray, photos);
+        QFETCH(QByteArray, notOnDisk);
+        SaveOutcome outcome;
+        outcome.notOnDisk = notOnDisk.toStdString();
+        for (const char letter : photos) {
+            outcome.photos.emplace_back().status = letter == 's'   ? Status::Saved
+                                                   : letter == 'f' ? Status::Failed
+                                                   : letter == 'm' ? Status::Skipped
+                                                                   : Status::Stopped;
+        }
+        const SaveSum sum = sumOf(outcome);
+        QTEST(QByteArray::fromStdString(sumText(sum, "/home/a/Zermatt")), "text");
+        QTEST(sum.isWhole(), "isWhole");
+    }
+};
+
+QTEST_GUILESS_MAIN(SaveWordsTest)
+#include "save_words_test.moc"
