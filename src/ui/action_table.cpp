@@ -24,6 +24,8 @@ constexpr std::array table{
     ActionRow{SavePhotos, MenuName::File, "Save &Photos…", "Ctrl+Shift+S", "save",
               "Save tagged copies of the photos; the originals stay as they are", false, false,
               "Save Photos"},
+    ActionRow{RemoveAllPhotos, MenuName::File, "&Remove All Photos…", "Ctrl+Shift+Backspace", "",
+              "Empty the list; the photo files stay", true},
     ActionRow{Quit, MenuName::File, "&Quit", "Ctrl+Q", "", "End Pinmora", true},
 
     ActionRow{Undo, MenuName::Edit, "&Undo", "Ctrl+Z", "undo", "Take back the last step", false,
@@ -72,6 +74,8 @@ constexpr std::array table{
 
     ActionRow{SampleOuting, MenuName::Help, "&Try It With the Sample Outing", "Ctrl+Alt+T", "",
               "Load eight photos and the logs of an outing to try Pinmora with"},
+    ActionRow{ShowLog, MenuName::Help, "Show &Log", "Ctrl+Shift+L", "",
+              "What could not be saved, and why"},
     ActionRow{About, MenuName::Help, "&About Pinmora", "F1", "", "Version and licence", true},
 };
 

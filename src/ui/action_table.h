@@ -25,6 +25,7 @@ enum class ActionName {
     LoadGpsData,
     SaveLibrary,
     SavePhotos,
+    RemoveAllPhotos,
     Quit,
     Undo,
     Redo,
@@ -47,6 +48,7 @@ enum class ActionName {
     DarkLook,
     Wizard,
     SampleOuting,
+    ShowLog,
     About,
 };
 

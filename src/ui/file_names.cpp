@@ -45,6 +45,11 @@ std::string filePath(const QUrl &url) {
     return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
 }
 
+QUrl fileUrl(const std::string &path) {
+    return QUrl::fromEncoded("file://" +
+                             QByteArray::fromStdString(path).toPercentEncoding(QByteArray("/")));
+}
+
 std::string filePath(const QString &shown) {
     std::string asShown = QFile::encodeName(shown).toStdString();
     if (isThere(asShown)) {

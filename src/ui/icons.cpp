@@ -31,6 +31,10 @@ public:
         drawing.replace(
             "\"accent\"",
             '"' + (mode == QIcon::Disabled ? ink(mode) : colours().accent).name().toLatin1() + '"');
+        drawing.replace(
+            "\"warning\"",
+            '"' + (mode == QIcon::Disabled ? ink(mode) : colours().warning).name().toLatin1() +
+                '"');
         if (side >= largeSide) {
             drawing.replace("stroke-width=\"1.75\"", "stroke-width=\"1.2\"");
         }
@@ -49,12 +53,13 @@ public:
     /// `size` is in pixels of the screen already.
     QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State /*state*/,
                          qreal scale) override {
-        const QString key = QStringLiteral("line icon %1 %2x%3 %4 %5 %6 %7")
+        const QString key = QStringLiteral("line icon %1 %2x%3 %4 %5 %6 %7 %8")
                                 .arg(name_)
                                 .arg(size.width())
                                 .arg(size.height())
                                 .arg(ink(mode).rgba())
                                 .arg(colours().accent.rgba())
+                                .arg(colours().warning.rgba())
                                 .arg(mode)
                                 .arg(scale);
         QPixmap picture;

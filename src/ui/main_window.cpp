@@ -6,16 +6,12 @@
 #include "ui/clock_panel.h"
 #include "ui/coordinate_panel.h"
 #include "ui/details_tab.h"
-#include "ui/error_dialog.h"
 #include "ui/fitting_scroll_area.h"
 #include "ui/full_view_window.h"
 #include "ui/library_status.h"
-#include "ui/open_panel_dialog.h"
+#include "ui/log_window.h"
 #include "ui/photo_panel.h"
-#include "ui/progress_dialog.h"
 #include "ui/quiet_bar_widget.h"
-#include "ui/quit_dialog.h"
-#include "ui/rename_dialog.h"
 #include "ui/theme.h"
 #include "ui/track_panel.h"
 
@@ -64,7 +60,8 @@ MainWindow::MainWindow(Pinmora_AppDelegate &delegate, MapPane::MakePage makePage
 }
 
 MainWindow::~MainWindow() {
-    delete fullView_; // a window of its own
+    delete fullView_; // windows of their own
+    delete log_;
 }
 
 void MainWindow::addToolBar() {
@@ -94,6 +91,7 @@ void MainWindow::addLists() {
                               .pictureArray = parts_.arrays.pictureArray,
                               .gaps = parts_.gaps,
                               .order = parts_.photoOrder,
+                              .marks = &parts_.saveMarks,
                               .thumbnails = parts_.thumbnails,
                               .notifications = &delegate_.notifications,
                               .dropArea = parts_.photoIntake.theBorder1,
@@ -159,42 +157,6 @@ QWidget *MainWindow::makePositionTab() {
     return page;
 }
 
-/// What is not seen at first is made when it is first needed, and finds its outlets as they are
-/// then.
-void MainWindow::addSheets() {
-    const WidgetOf widgetOf = [this](const Window &window) -> QWidget * {
-        return &window == &delegate_.interface.window ? this : nullptr;
-    };
-    const auto whenUp = [this](Sheet &sheet, std::function<SheetDialog *()> make) {
-        bindings_.watch(sheet.host(), [make = std::move(make), made = false](Window *host) mutable {
-            if (host && !std::exchange(made, true)) {
-                make()->showIfUp();
-            }
-        });
-    };
-    whenUp(delegate_.interface.progress.progressWindow, [this, widgetOf] {
-        return new ProgressDialog(delegate_.interface.progress, widgetOf, this);
-    });
-    whenUp(delegate_.interface.errors.errorWindow, [this, widgetOf] {
-        return new ErrorDialog(delegate_.interface.errors, widgetOf, this);
-    });
-    whenUp(parts_.quitWarning.quitWarning,
-           [this, widgetOf] { return new QuitDialog(parts_.quitWarning, widgetOf, this); });
-    whenUp(parts_.renamingOutlets.nameChange, [this, widgetOf] {
-        return new RenameDialog(parts_.renamingOutlets, parts_.renaming, delegate_.notifications,
-                                widgetOf, this);
-    });
-    new OpenPanelDialog(parts_.photoIntake.panel, widgetOf, this);
-    new OpenPanelDialog(parts_.gpsIntake.panel, widgetOf, this);
-    bindings_.watch(delegate_.interface.fullView.visible, [this](bool visible) {
-        if (visible && !fullView_) {
-            fullView_ =
-                new FullViewWindow(delegate_.interface.fullView,
-                                   delegate_.interface.preview.theImageViewLarge, parts_.preview);
-        }
-    });
-}
-
 void MainWindow::followWindow() {
     Window &window = delegate_.interface.window;
     bindings_.watch(window.title, [this](const std::string &title) {
@@ -209,8 +171,12 @@ void MainWindow::followWindow() {
     }));
 }
 
-bool MainWindow::isBusy() const {
+bool MainWindow::isLoading() const {
     return delegate_.interface.loadRunning || delegate_.interface.progress.progressWindow.isUp();
+}
+
+bool MainWindow::isBusy() const {
+    return isLoading() || parts_.saveOutlets.saveWindow.isUp();
 }
 
 void MainWindow::whenIdle(std::function<void()> act) {
@@ -221,7 +187,7 @@ void MainWindow::whenIdle(std::function<void()> act) {
 }
 
 void MainWindow::quit() {
-    if (!isBusy() && delegate_.applicationShouldTerminate() == TerminateReply::Now) {
+    if (!isLoading() && delegate_.applicationShouldTerminate() == TerminateReply::Now) {
         keepLayout();
         QCoreApplication::quit();
     }

@@ -3,6 +3,7 @@
 #include "ui/action_table.h"
 #include "ui/bindings.h"
 #include "ui/map_pane.h"
+#include "ui/sheet_dialog.h"
 
 #include <QMainWindow>
 
@@ -16,6 +17,7 @@ namespace pinmora {
 
 class Defaults;
 class FullViewWindow;
+class LogWindow;
 class PhotoPanel;
 class Pinmora_AppDelegate;
 class TrackPanel;
@@ -39,8 +41,8 @@ public:
     MainWindow(const MainWindow &) = delete;
     MainWindow &operator=(const MainWindow &) = delete;
 
-    /// Ends the event loop unless the controller has something against it; nothing while long work
-    /// is under way.
+    /// Ends the event loop unless the controller has something against it; nothing while a load is
+    /// under way.
     void quit();
 
     /// Calls back once the event loop is reached and no long work is under way, which lets nothing
@@ -64,13 +66,18 @@ private:
     QWidget *makePositionTab();
     QWidget *makeDetailsTab();
     void addSheets();
+    void addSavingSheets(const WidgetOf &widgetOf);
+    void addWindows();
+    void whenUp(Sheet &sheet, std::function<SheetDialog *()> make);
     void connectActions();
+    void enableSave();
     void connectPlaceNames();
     void connectLooks(Appearance inForce);
     void chooseLook(Appearance look);
     void followWindow();
     void restoreLayout();
     void keepLayout();
+    bool isLoading() const;
     bool isBusy() const;
 
     Pinmora_AppDelegate &delegate_;
@@ -82,6 +89,7 @@ private:
     QSplitter *lists_ = nullptr;
     QTabWidget *tabs_ = nullptr;
     FullViewWindow *fullView_ = nullptr;
+    LogWindow *log_ = nullptr;
     Bindings bindings_; ///< goes before what it writes to
 };
 

@@ -92,8 +92,10 @@ void MainWindow::connectActions() {
             statusBar()->showMessage(tr("Library saved"), messageTime);
         }
     });
+    on(RemoveAllPhotos, [this] { parts_.removeAllPhotos.openRemoveAll(); });
     on(Quit, [this] { quit(); });
     on(SelectAll, [this] { photos_->selectAll(); });
+    on(SavePhotos, [this] { parts_.savePipeline.updatePicts(); });
     on(FullSize, [this] { parts_.inspector.imageFullView(); });
     on(Rename, [this] { parts_.renaming.photoNameChange(); });
     on(OriginalNames, [this] { parts_.renaming.revertPhotoNames(); });
@@ -102,6 +104,7 @@ void MainWindow::connectActions() {
     on(ShowPosition, [this] { delegate_.interface.mainTabs.selectedIdentifier.set("1"); });
     on(ShowDetails, [this] { delegate_.interface.mainTabs.selectedIdentifier.set("2"); });
     on(ActionName::SampleOuting, [this] { parts_.sampleOuting.load(); });
+    on(ShowLog, [this] { parts_.logWindow.makeKeyAndOrderFront(); });
     on(About, [this] {
         QMessageBox::about(this, tr("About Pinmora"),
                            tr("<h3>Pinmora</h3><p>Puts photographs on the map.</p><p>Your photos "
@@ -115,17 +118,18 @@ void MainWindow::connectActions() {
     new UndoKeys(this);
     bindings_.tie(parts_.undoCommands.undoItem, actions_[Undo]);
     bindings_.tie(parts_.undoCommands.redoItem, actions_[Redo]);
-    bindings_.tie(parts_.savePhotosButton, actions_[SavePhotos]);
     bindings_.tie(parts_.inspectorOutlets.removePictButton, actions_[RemovePictures]);
     bindings_.tie(parts_.matching.matchButton, actions_[MatchPhoto]);
     bindings_.tie(parts_.matching.offsetButton, actions_[SetFromPosition]);
     bindings_.tie(delegate_.interface.addRemoveMarker, actions_[ToggleMarker]);
     actions_[ActionName::Wizard]->setEnabled(false); // there is none yet
     actions_[ActionName::SampleOuting]->setEnabled(parts_.sampleOuting.isThere());
+    bindings_.watch(parts_.saveOutlets.savePhotosButton.enabled, [this](bool) { enableSave(); });
     bindings_.watch(parts_.counts.counts, [this](const Counts &now) {
-        for (const ActionName name : {Rename, OriginalNames, SelectAll}) {
+        for (const ActionName name : {Rename, OriginalNames, SelectAll, RemoveAllPhotos}) {
             actions_[name]->setEnabled(now.photos > 0);
         }
+        enableSave();
         actions_[ApplyToAll]->setEnabled(now.photos > 0 && now.points > 0);
         actions_[RemoveGpsData]->setEnabled(now.tracks > 0);
     });
@@ -135,6 +139,11 @@ void MainWindow::connectActions() {
     connect(only, &QAction::toggled, filter, &QAction::setChecked);
     connect(filter, &QAction::toggled, only, &QAction::setChecked);
     connectPlaceNames();
+}
+
+void MainWindow::enableSave() {
+    actions_[ActionName::SavePhotos]->setEnabled(parts_.counts.counts.get().photos > 0 &&
+                                                 parts_.saveOutlets.savePhotosButton.enabled.get());
 }
 
 void MainWindow::connectPlaceNames() {

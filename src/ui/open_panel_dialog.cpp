@@ -1,15 +1,18 @@
 #include "ui/open_panel_dialog.h"
 
 #include "outlets/open_panel.h"
+#include "platform/defaults.h"
 #include "ui/file_names.h"
 #include "ui/mount_points.h"
 #include "ui/theme.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -69,11 +72,29 @@ void makeRoomy(QFileDialog &dialog) {
     dialog.resize(105 * spacing, 65 * spacing);
 }
 
+/// Its buttons carry pictures, and folders alone have only one type.
+void makeCalm(QFileDialog &dialog, bool hasTypes) {
+    if (const auto *buttons = dialog.findChild<QDialogButtonBox *>()) {
+        for (QAbstractButton *button : buttons->buttons()) {
+            button->setIcon({});
+        }
+    }
+    for (const char *name : {"fileTypeLabel", "fileTypeCombo"}) {
+        if (auto *widget = dialog.findChild<QWidget *>(QLatin1String(name))) {
+            widget->setVisible(hasTypes);
+        }
+    }
+}
+
 } // namespace
 
-OpenPanelDialog::OpenPanelDialog(OpenPanel &panel, WidgetOf widgetOf, QObject *parent)
-    : QObject(parent), panel_(panel), widgetOf_(std::move(widgetOf)) {
+OpenPanelDialog::OpenPanelDialog(OpenPanel &panel, WidgetOf widgetOf, QObject *parent,
+                                 std::optional<FolderSetting> lastFolder)
+    : QObject(parent), panel_(panel), widgetOf_(std::move(widgetOf)), lastFolder_(lastFolder) {
     bindings_.keep(panel.sheet().host().onChange([this](Window *host) { follow(host); }));
+    if (panel.sheet().isUp()) {
+        follow(panel.sheet().host().get());
+    }
 }
 
 QFileDialog *OpenPanelDialog::dialog() const {
@@ -90,10 +111,37 @@ void OpenPanelDialog::follow(Window *host) {
     if (!host) {
         return;
     }
-    dialog_ = new QFileDialog(widgetOf_(*host), QString::fromStdString(panel_.title));
-    // Dialogs of the desktop choose files or folders, not both.
-    dialog_->setOption(QFileDialog::DontUseNativeDialog, panel_.canChooseDirectories);
-    dialog_->setOption(QFileDialog::ReadOnly);
+    makeDialog(widgetOf_(*host));
+    connect(dialog_, &QFileDialog::rejected, this, [this] { answer({}); });
+    connect(dialog_, &QFileDialog::accepted, this, [this] { answer(dialog_->selectedFiles()); });
+    dialog_->setWindowModality(Qt::WindowModal);
+    dialog_->open();
+}
+
+void OpenPanelDialog::makeDialog(QWidget *parent) {
+    dialog_ = new QFileDialog(parent, QString::fromStdString(panel_.title));
+    const bool hasAccessory =
+        panel_.accessory.visible.get() && !panel_.accessory.title.get().empty();
+    // Dialogs of the desktop choose files or folders, not both, and have no room for our own.
+    dialog_->setOption(QFileDialog::DontUseNativeDialog,
+                       hasAccessory || (panel_.canChooseDirectories && panel_.canChooseFiles));
+    dialog_->setOption(QFileDialog::ReadOnly, !panel_.canCreateDirectories);
+    panel_.canChooseFiles ? offerFiles() : offerFolders();
+    if (!panel_.prompt.empty()) {
+        dialog_->setLabelText(QFileDialog::Accept, QString::fromStdString(panel_.prompt));
+    }
+    startAt(startFolder());
+    makeRoomy(*dialog_);
+    makeCalm(*dialog_, panel_.canChooseFiles);
+    if (panel_.canChooseDirectories && panel_.canChooseFiles) {
+        addFolderButton();
+    }
+    if (hasAccessory) {
+        addAccessory();
+    }
+}
+
+void OpenPanelDialog::offerFiles() {
     dialog_->setOption(QFileDialog::HideNameFilterDetails); // twenty spellings of extensions
     dialog_->setFileMode(panel_.allowsMultipleSelection ? QFileDialog::ExistingFiles
                                                         : QFileDialog::ExistingFile);
@@ -101,15 +149,30 @@ void OpenPanelDialog::follow(Window *host) {
     if (!panel_.allowedTypes.empty()) {
         dialog_->setNameFilter(nameFilter(panel_));
     }
-    startAt(panel_.directory);
-    makeRoomy(*dialog_);
-    if (panel_.canChooseDirectories) {
-        addFolderButton();
+}
+
+void OpenPanelDialog::offerFolders() {
+    dialog_->setFileMode(QFileDialog::Directory);
+    dialog_->setOption(QFileDialog::ShowDirsOnly);
+}
+
+std::string OpenPanelDialog::startFolder() const {
+    if (!panel_.directory.empty() || !lastFolder_) {
+        return panel_.directory;
     }
-    connect(dialog_, &QFileDialog::rejected, this, [this] { answer({}); });
-    connect(dialog_, &QFileDialog::accepted, this, [this] { answer(dialog_->selectedFiles()); });
-    dialog_->setWindowModality(Qt::WindowModal);
-    dialog_->open();
+    return lastFolder_->defaults.text(lastFolder_->key).value_or("");
+}
+
+void OpenPanelDialog::addAccessory() {
+    auto *const grid = qobject_cast<QGridLayout *>(dialog_->layout());
+    if (!grid) {
+        return;
+    }
+    auto *const box = new QCheckBox(QString::fromStdString(panel_.accessory.title.get()), dialog_);
+    box->setChecked(panel_.accessory.on.get());
+    box->setEnabled(panel_.accessory.enabled.get());
+    connect(box, &QCheckBox::toggled, this, [this](bool on) { panel_.accessory.on.set(on); });
+    grid->addWidget(box, grid->rowCount(), 0, 1, -1);
 }
 
 void OpenPanelDialog::startAt(const std::string &directory) {
@@ -138,6 +201,9 @@ void OpenPanelDialog::answer(const QStringList &paths) {
     std::vector<std::string> names;
     for (const QString &path : paths) {
         names.push_back(filePath(path));
+    }
+    if (lastFolder_ && !names.empty()) {
+        lastFolder_->defaults.setText(lastFolder_->key, names.front());
     }
     panel_.answer(std::move(names));
 }

@@ -84,6 +84,19 @@ void paintGround(QPainter *painter, const QStyleOptionViewItem &option, const QM
     }
 }
 
+/// In the corner of the picture, on a ground of its own: pictures have all colours.
+void paintMark(QPainter *painter, const QRect &frame) {
+    constexpr int side = 16;
+    const QRect place(frame.right() - side + 5, frame.bottom() - side + 5, side, side);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(colours().content);
+    painter->drawEllipse(place.adjusted(-1, -1, 1, 1));
+    icon("warning").paint(painter, place);
+    painter->restore();
+}
+
 void paintPosition(QPainter *painter, const QRect &area, const QModelIndex &index) {
     const QString position = index.data().toString();
     if (position.isEmpty()) {
@@ -163,6 +176,9 @@ void PhotoDelegate::paintPicture(QPainter *painter, const QRect &cell,
         quietIcon("picture").paint(painter, frame.adjusted(16, 8, -16, -8));
     }
     painter->restore();
+    if (!index.data(PhotoTableModel::NotSaved).toString().isEmpty()) {
+        paintMark(painter, frame);
+    }
 }
 
 } // namespace pinmora

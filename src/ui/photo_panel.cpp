@@ -52,7 +52,7 @@ QPushButton *flatButton(const QString &title, std::string_view iconName, QWidget
 PhotoPanel::PhotoPanel(PhotoPanelParts parts, QWidget *parent)
     : QWidget(parent), parts_(std::move(parts)),
       model_(new PhotoTableModel(parts_.context, parts_.pictureArray, parts_.gaps, parts_.order,
-                                 this)),
+                                 parts_.marks, this)),
       filter_(new PhotoFilter(*model_, this)),
       onlyWithout_(new QAction(tr("Only Without Position"), this)),
       sortMenu_(new SortMenu(parts_.order, this)) {

@@ -22,6 +22,7 @@ class PhotoOrder;
 class PhotoSelection;
 class PhotoTable;
 class PhotoTableModel;
+class SaveMarks;
 class SortMenu;
 class Thumbnails;
 class image;
@@ -33,6 +34,7 @@ struct PhotoPanelParts {
     ArrayController<image> &pictureArray;
     PhotoGaps &gaps;
     PhotoOrder &order;
+    SaveMarks *marks = nullptr; ///< null: photos are not marked
     Thumbnails &thumbnails;
     /// Told of each change of the selection; null where another panel of the same list tells it.
     NotificationCentre *notifications;

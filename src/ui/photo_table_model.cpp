@@ -3,6 +3,7 @@
 #include "matching/photo_gaps.h"
 #include "persistence/context.h"
 #include "platform/scoped_flag.h"
+#include "saving/save_marks.h"
 #include "shell/photo_order.h"
 #include "store/image.h"
 #include "store/track_part.h"
@@ -28,9 +29,10 @@ bool sameMembers(const std::unordered_map<const image *, int> &known,
 } // namespace
 
 PhotoTableModel::PhotoTableModel(Context &context, ArrayController<image> &pictureArray,
-                                 PhotoGaps &gaps, PhotoOrder &order, QObject *parent)
+                                 PhotoGaps &gaps, PhotoOrder &order, SaveMarks *marks,
+                                 QObject *parent)
     : QAbstractTableModel(parent), context_(context), pictureArray_(pictureArray), gaps_(gaps),
-      order_(order), following_([this] { follow(); }) {
+      order_(order), marks_(marks), following_([this] { follow(); }) {
     context.addObserver(*this, {.entity = &image::description()});
     connections_.push_back(pictureArray.arrangementChanged.connect([this] { following_.ask(); }));
     connections_.push_back(gaps.changed.connect([this] {
@@ -39,6 +41,12 @@ PhotoTableModel::PhotoTableModel(Context &context, ArrayController<image> &pictu
     }));
     connections_.push_back(order.order.onChange(
         [this](const SortOrder &) { Q_EMIT headerDataChanged(Qt::Horizontal, 0, Camera); }));
+    if (marks) {
+        connections_.push_back(marks->changed.connect([this] {
+            marksChanged_ = true;
+            following_.ask();
+        }));
+    }
     takeRows(pictureArray.arrangedObjects());
 }
 
@@ -119,24 +127,15 @@ QVariant PhotoTableModel::data(const QModelIndex &index, int role) const {
     case Qt::DisplayRole:
         return textAt(index.row(), column);
     case Qt::AccessibleTextRole: // the first column speaks for the row
-        return column == Name ? photo_texts::sentence(*photo, gapOf(*photo))
-                              : textAt(index.row(), column);
+        return column == Name ? accessibleText(*photo) : textAt(index.row(), column);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue<Qt::Alignment>(
             Qt::AlignVCenter |
             (column == Gap || column == Altitude ? Qt::AlignRight : Qt::AlignLeft));
     case Qt::ToolTipRole:
-        if (column == Gap && gapOf(*photo)) {
-            return tr("Time from the photo to the nearest point of a track, with the camera clock "
-                      "as it is set");
-        }
-        if (column == Position) { // the line may be too long for its column
-            return photo_texts::altitudeAndPlace(*photo).toHtmlEscaped();
-        }
-        return column == Name
-                   ? QVariant(
-                         QString::fromStdString(photo->full_file_path().string()).toHtmlEscaped())
-                   : QVariant();
+        return tooltip(*photo, column);
+    case NotSaved:
+        return column == Name ? whyNotSaved(*photo) : QString();
     case SecondLine:
         return column == Position ? photo_texts::altitudeAndPlace(*photo)
                                   : photo_texts::taken(*photo);
@@ -147,6 +146,33 @@ QVariant PhotoTableModel::data(const QModelIndex &index, int role) const {
     default:
         return {};
     }
+}
+
+QString PhotoTableModel::whyNotSaved(const image &photo) const {
+    const std::string *const reason = marks_ ? marks_->reasonFor(photo) : nullptr;
+    return reason ? QString::fromStdString(*reason).trimmed() : QString();
+}
+
+QString PhotoTableModel::accessibleText(const image &photo) const {
+    const QString sentence = photo_texts::sentence(photo, gapOf(photo));
+    const QString reason = whyNotSaved(photo);
+    return reason.isEmpty() ? sentence : tr("%1, not saved: %2").arg(sentence, reason);
+}
+
+QString PhotoTableModel::tooltip(const image &photo, Column column) const {
+    if (column == Gap && gapOf(photo)) {
+        return tr("Time from the photo to the nearest point of a track, with the camera clock as "
+                  "it is set");
+    }
+    if (column == Position) { // the line may be too long for its column
+        return photo_texts::altitudeAndPlace(photo).toHtmlEscaped();
+    }
+    if (column != Name) {
+        return {};
+    }
+    const QString path = QString::fromStdString(photo.full_file_path().string()).toHtmlEscaped();
+    const QString reason = whyNotSaved(photo).toHtmlEscaped();
+    return reason.isEmpty() ? path : tr("<p><b>Not saved.</b> %1</p><p>%2</p>").arg(reason, path);
 }
 
 QString PhotoTableModel::textAt(int row, Column column) const {
@@ -229,6 +255,7 @@ void PhotoTableModel::follow() {
     }
     changed_.clear();
     gapsChanged_ = false;
+    marksChanged_ = false;
 }
 
 void PhotoTableModel::takeRows(const std::vector<image *> &arranged) {
@@ -259,6 +286,9 @@ void PhotoTableModel::moveRows(const std::vector<image *> &arranged) {
 void PhotoTableModel::tellChanges() {
     if (rows_.empty()) {
         return;
+    }
+    if (marksChanged_) {
+        Q_EMIT dataChanged(index(0, Name), index(rowCount() - 1, Name));
     }
     if (gapsChanged_) {
         Q_EMIT dataChanged(index(0, Gap), index(rowCount() - 1, Gap));

@@ -17,6 +17,7 @@ namespace pinmora {
 class Context;
 class PhotoGaps;
 class PhotoOrder;
+class SaveMarks;
 class image;
 
 /// The photos of the library in their arranged order, a row each.
@@ -32,12 +33,13 @@ public:
     enum Role {
         SecondLine = Qt::UserRole, ///< of Name: when it was taken; of Position: height and place
         FilePath,                  ///< the bytes
+        NotSaved,                  ///< of Name: why the last save could not write the photo
         IsFar                      ///< whether the gap is larger than a running log would leave
     };
 
-    /// All must outlive it.
+    /// All must outlive it. Without `marks` no photo counts as not saved.
     PhotoTableModel(Context &context, ArrayController<image> &pictureArray, PhotoGaps &gaps,
-                    PhotoOrder &order, QObject *parent = nullptr);
+                    PhotoOrder &order, SaveMarks *marks = nullptr, QObject *parent = nullptr);
     ~PhotoTableModel() override;
     PhotoTableModel(const PhotoTableModel &) = delete;
     PhotoTableModel &operator=(const PhotoTableModel &) = delete;
@@ -74,14 +76,19 @@ private:
     void moveRows(const std::vector<image *> &arranged);
     void tellChanges();
     QString textAt(int row, Column column) const;
+    QString accessibleText(const image &photo) const;
+    QString tooltip(const image &photo, Column column) const;
+    QString whyNotSaved(const image &photo) const;
 
     Context &context_;
     ArrayController<image> &pictureArray_;
     PhotoGaps &gaps_;
     PhotoOrder &order_;
+    SaveMarks *const marks_;
     std::vector<image *> rows_; ///< null: has gone
     std::unordered_map<const image *, int> rowOf_;
     std::unordered_set<const image *> changed_;
+    bool marksChanged_ = false;
     mutable bool gapsChanged_ = false;
     mutable bool gapsShown_ = true;
     mutable bool gapsAsked_ = false; ///< by a view

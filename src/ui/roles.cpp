@@ -33,6 +33,8 @@ const char *nameOf(Role role) {
         return "footer";
     case Role::Content:
         return "content";
+    case Role::Framed:
+        return "framed";
     case Role::QuietBar:
         return "quietBar";
     case Role::Dashed:

@@ -18,6 +18,7 @@ enum class Role {
     Strip,    ///< a frame that carries the heading of a list
     Footer,   ///< a frame that carries the buttons below a list
     Content,  ///< a frame on the ground of lists
+    Framed,   ///< the same, with a line around it
     QuietBar, ///< the frame of messages that need no answer
     Dashed,   ///< a frame into which things may be dropped
     DropOver  ///< the same, while they are over it

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -59,13 +60,17 @@ void SheetDialog::follow(Window *host) {
     }
 }
 
-/// Just as high as its texts are at its width. adjustSize() would cut buttons off on small screens.
+/// Just as high as its texts are at its width, as far as there is room. adjustSize() would cut
+/// buttons off on small screens.
 void SheetDialog::fit() {
     column_->activate();
     const int width = std::max(
         {minimumWidth(), column_->totalMinimumSize().width(), column_->totalSizeHint().width()});
-    resize(width, column_->hasHeightForWidth() ? column_->totalHeightForWidth(width)
-                                               : column_->totalSizeHint().height());
+    const int height = column_->hasHeightForWidth() ? column_->totalHeightForWidth(width)
+                                                    : column_->totalSizeHint().height();
+    constexpr int frame = 38; // of a usual window manager
+    const int room = screen()->availableGeometry().height() - frame;
+    resize(width, std::min(height, std::max(room, column_->totalMinimumSize().height())));
 }
 
 /// Asked for in the middle of long work. A dialog that has just come up is waited for: what a

@@ -113,13 +113,15 @@ QProgressBar::chunk { background: @accent; border-radius: 3px; }
 
 /// Labels, frames and lists.
 constexpr auto contentRules = R"(
-QLabel[role="heading"], QLabel[role="strong"] { font-weight: bold; }
+QLabel[role="heading"], QLabel[role="strong"], QDialog QLabel[role="title"] {
+    font-weight: bold; }
 QLabel[role="quiet"], QCheckBox[role="quiet"] { color: @quiet; }
 QLabel[role="problem"] { color: @warning; }
 QFrame[role="strip"] { background: @window; border: none; border-bottom: 1px solid @line; }
 QFrame[role="footer"] { background: @window; border: none; border-top: 1px solid @line; }
-QFrame[frameShape="5"] { color: @line; }
+QFrame[frameShape="4"], QFrame[frameShape="5"] { color: @line; }
 QFrame[role="content"] { background: @content; border: none; }
+QFrame[role="framed"] { background: @content; border: 1px solid @line; border-radius: 5px; }
 QFrame[role="quietBar"] { background: @warningGround; border: none;
     border-bottom: 1px solid @line; }
 QFrame[role="quietBar"] QPushButton[role="link"] { color: @linkOnWarning; }

@@ -13,7 +13,9 @@
 
 /// The program with its main window, driven as a person would.
 struct WindowDesk : Desk {
-    explicit WindowDesk(QSize size = {1280, 800}) {
+    explicit WindowDesk(QSize size = {1280, 800},
+                        const std::filesystem::path &resources = PINMORA_SOURCE_DIR "/samples")
+        : Desk(resources) {
         start();
         window = std::make_unique<pinmora::MainWindow>(delegate, nullptr);
         window->resize(size);
