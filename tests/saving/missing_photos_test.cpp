@@ -3,7 +3,6 @@
 #include "outlets/workspace.h"
 #include "persistence/undo_manager.h"
 #include "platform/notification_centre.h"
-#include "saving/missing_words.h"
 #include "store/library_arrays.h"
 #include "store/library_model.h"
 
@@ -111,8 +110,6 @@ private Q_SLOTS:
     void findsInAFolder();
     void aSearchKeepsTheRestWaiting();
     void closingEndsTheSearch();
-    void words_data();
-    void words();
 };
 
 void MissingPhotosTest::theCheckOnlyEverMarks() {
@@ -335,28 +332,6 @@ void MissingPhotosTest::closingEndsTheSearch() {
     QVERIFY(desk.searchEnds());
     QCOMPARE(photo.valid_file(), std::optional(false));
     QCOMPARE(desk.outlets.findOutcome.text.get(), std::string("The photo was not found there."));
-}
-
-void MissingPhotosTest::words_data() {
-    QTest::addColumn<std::string>("made");
-    QTest::addColumn<std::string>("expected");
-    const auto row = [](const char *name, const std::string &made, const char *expected) {
-        QTest::newRow(name) << made << std::string(expected);
-    };
-    row("itself", searchingText("/media/card", "/media/card"), "Searching card…");
-    row("below", searchingText("/media/card", "/media/card/DCIM/100CANON"),
-        "Searching DCIM/100CANON…");
-    row("root", searchingText("/", "/"), "Searching /…");
-    row("below the root", searchingText("/", "/media"), "Searching media…");
-    row("some", foundText(2, 3), "2 of 3 found.");
-    row("none", foundText(0, 3), "None of the 3 was found there.");
-    row("all", foundText(3, 3), "All 3 found.");
-    row("the one", foundText(1, 1), "The photo was found.");
-}
-
-void MissingPhotosTest::words() {
-    QFETCH(std::string, made);
-    QTEST(made, "expected");
 }
 
 QTEST_MAIN(MissingPhotosTest)

@@ -1,3 +1,4 @@
+#include "saving/missing_words.h"
 #include "saving/save_words.h"
 
 #include <QTest>
@@ -5,7 +6,7 @@
 using namespace pinmora;
 using Status = SavedPhoto::Status;
 
-class SaveWordsTest : public QObject {
+class WordsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -51,7 +52,28 @@ private Q_SLOTS:
         QTEST(QByteArray::fromStdString(sumText(sum, "/home/a/Zermatt")), "text");
         QTEST(sum.isWhole(), "isWhole");
     }
+
+    void tellsOfASearch_data() {
+        QTest::addColumn<std::string>("made");
+        QTest::addColumn<std::string>("expected");
+        const auto row = [](const char *name, const std::string &made, const char *expected) {
+            QTest::newRow(name) << made << std::string(expected);
+        };
+        row("itself", searchingText("/media/card", "/media/card"), "Searching card…");
+        row("below", searchingText("/media/card", "/media/card/DCIM/100CANON"),
+            "Searching DCIM/100CANON…");
+        row("root", searchingText("/", "/"), "Searching /…");
+        row("below the root", searchingText("/", "/media"), "Searching media…");
+        row("some", foundText(2, 3), "2 of 3 found.");
+        row("none", foundText(0, 3), "None of the 3 was found there.");
+        row("all", foundText(3, 3), "All 3 found.");
+        row("the one", foundText(1, 1), "The photo was found.");
+    }
+    void tellsOfASearch() {
+        QFETCH(std::string, made);
+        QTEST(made, "expected");
+    }
 };
 
-QTEST_GUILESS_MAIN(SaveWordsTest)
-#include "save_words_test.moc"
+QTEST_GUILESS_MAIN(WordsTest)
+#include "words_test.moc"
