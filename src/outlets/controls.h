@@ -41,6 +41,15 @@ struct Button : Control {
 struct CheckBox : Control {
     Observable<std::string> title;
     Observable<bool> on;
+    Signal<> clicked;
+
+    /// What a click does: nothing while the box is disabled.
+    void click() {
+        if (enabled.get()) {
+            on.set(!on.get());
+            clicked.emit();
+        }
+    }
 };
 
 /// How far long work has come, between `minimum` and `maximum`.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "outlets/observable.h"
 #include "outlets/signal.h"
 
 #include <chrono>
@@ -71,6 +72,8 @@ public:
 
     /// Every script, when it is given.
     Signal<const std::string &> scripts;
+
+    Observable<bool> visible{true};
 
     // What whoever shows the page tells.
     Signal<> loaded; ///< a page has been loaded, the first time or again
