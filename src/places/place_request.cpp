@@ -26,24 +26,10 @@ QNetworkRequest requestFor(const QUrl &url, const PlaceService &service) {
     if (!service.host.empty()) {
         request.setRawHeader("Host", QByteArray::fromStdString(service.host));
     }
-    request.setRawHeader("User-Agent", "Pinmora");
-    request.setRawHeader("Accept-Encoding", "identity"); // what is counted is what is read
-    using enum QNetworkRequest::Attribute;
-    request.setAttribute(RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    makePlain(request);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::ManualRedirectPolicy);
     return request;
-}
-
-/// An answer of any status is one, if it is whole. Some statuses show as errors of the proxy or of
-/// the protocol.
-bool isAnswer(const QNetworkReply &reply) {
-    constexpr int firstOfErrors = 400;
-    const QNetworkReply::NetworkError error = reply.error();
-    return error == QNetworkReply::NoError ||
-           (error > QNetworkReply::UnknownNetworkError &&
-            reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() >= firstOfErrors);
 }
 
 } // namespace
@@ -53,13 +39,12 @@ std::optional<QUrl> placeUrl(const PlaceService &service) {
     while (address.endsWith('/')) {
         address.chop(1);
     }
-    QUrl url = QUrl::fromEncoded(address + "/TerraService2.asmx");
-    url.setUserInfo(QString());
-    const bool isHttp =
-        url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
-    const bool canBeAsked = url.isValid() && isHttp && !url.host().isEmpty() &&
-                            isFit(service.host) && isFit(service.nameSpace);
-    return canBeAsked ? std::optional(url) : std::nullopt;
+    std::optional<QUrl> url = webUrl(address + "/TerraService2.asmx");
+    if (!url || !isFit(service.host) || !isFit(service.nameSpace)) {
+        return std::nullopt;
+    }
+    url->setUserInfo(QString());
+    return url;
 }
 
 PlaceRequest::PlaceRequest(QNetworkAccessManager &network, const QUrl &url,
@@ -80,11 +65,6 @@ PlaceRequest::PlaceRequest(QNetworkAccessManager &network, const QUrl &url,
 
 PlaceRequest::~PlaceRequest() = default;
 
-void PlaceRequest::Canceller::operator()(QNetworkReply *reply) const {
-    reply->abort();
-    reply->deleteLater();
-}
-
 void PlaceRequest::didReceiveData() {
     if (!ended_) {
         return;
@@ -100,7 +80,7 @@ void PlaceRequest::connectionDidFinishLoading() {
     if (!ended_) {
         return; // it has been broken off
     }
-    PlaceOutcome outcome{.isAnswered = isAnswer(*reply_)};
+    PlaceOutcome outcome{.isAnswered = isAnswered(*reply_)};
     if (outcome.isAnswered) {
         outcome.answer = readPlaceAnswer(receivedData_);
     }

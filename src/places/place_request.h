@@ -2,6 +2,7 @@
 
 #include "places/place_answer.h"
 #include "places/place_service.h"
+#include "platform/http.h"
 #include "store/image.h"
 
 #include <QTimer>
@@ -9,12 +10,10 @@
 
 #include <cstddef>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 
 class QNetworkAccessManager;
-class QNetworkReply;
 
 namespace pinmora {
 
@@ -42,11 +41,6 @@ public:
     PlaceRequest &operator=(const PlaceRequest &) = delete;
 
 private:
-    /// Ends what is under way, untold, and frees its connection.
-    struct Canceller {
-        void operator()(QNetworkReply *reply) const;
-    };
-
     void didReceiveData();
     /// Whatever the status of the answer is: its body decides.
     void connectionDidFinishLoading();
@@ -55,7 +49,7 @@ private:
     const std::size_t mostBytes_;
     Ended ended_; ///< empty once it has ended
     std::string receivedData_;
-    std::unique_ptr<QNetworkReply, Canceller> reply_;
+    OwnedReply reply_;
     QTimer limit_;
 };
 

@@ -1,8 +1,8 @@
 #include "places/request_queue.h"
 
-#include <QHostAddress>
+#include "platform/http.h"
+
 #include <QNetworkAccessManager>
-#include <QNetworkProxy>
 
 #include <algorithm>
 #include <utility>
@@ -14,10 +14,6 @@ namespace {
 /// Each with a connection of its own, which stays open for the next one.
 constexpr std::size_t mostAtOnce = 4;
 constexpr int mostSilences = 3;
-
-bool isLoopback(const QString &host) {
-    return host == QLatin1String("localhost") || QHostAddress(host).isLoopback();
-}
 
 } // namespace
 
@@ -68,8 +64,7 @@ bool RequestQueue::hasService() {
         url_ = placeUrl(service_);
         if (url_) {
             network_ = std::make_unique<QNetworkAccessManager>();
-            network_->setProxy(isLoopback(url_->host()) ? QNetworkProxy::NoProxy
-                                                        : QNetworkProxy::DefaultProxy);
+            chooseProxy(*network_, *url_);
         }
     }
     return url_.has_value();

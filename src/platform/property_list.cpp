@@ -4,19 +4,13 @@
 
 #include <array>
 #include <cstdint>
-#include <memory>
+#include <utility>
 
 #include "platform/input_file.h"
+#include "platform/plist_weight.h"
 
 namespace pinmora {
 namespace {
-
-constexpr std::size_t largestFile = std::size_t{1} << 20U;
-
-struct Release {
-    void operator()(void *node) const { plist_free(node); }
-};
-using Node = std::unique_ptr<void, Release>;
 
 std::optional<std::string> bytesOf(const std::filesystem::path &path) {
     InputFile file;
@@ -25,7 +19,7 @@ std::optional<std::string> bytesOf(const std::filesystem::path &path) {
     }
     std::string bytes;
     std::array<char, inputBlockSize> block{};
-    while (bytes.size() <= largestFile) {
+    while (bytes.size() <= largestPropertyList) {
         const auto part = file.read(block);
         if (!part) {
             return std::nullopt;
@@ -38,32 +32,69 @@ std::optional<std::string> bytesOf(const std::filesystem::path &path) {
     return std::nullopt;
 }
 
-Node parse(const std::string &bytes) {
-    const auto size = static_cast<std::uint32_t>(bytes.size());
-    plist_t node = nullptr;
-    if (plist_is_binary(bytes.data(), size) != 0) {
-        plist_from_bin(bytes.data(), size, &node);
-    } else {
-        plist_from_xml(bytes.data(), size, &node);
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+plist_t parse(std::string_view bytes) {
+    if (bytes.size() > largestPropertyList) {
+        return nullptr;
     }
-    return Node(node);
+    if (bytes.starts_with(byteOrderMark)) {
+        bytes.remove_prefix(byteOrderMark.size());
+    }
+    // The library looks at the byte after the last.
+    const std::string terminated(bytes);
+    const auto size = static_cast<std::uint32_t>(terminated.size());
+    plist_t node = nullptr;
+    if (plist_is_binary(terminated.data(), size) != 0) {
+        if (isHarmlessBinaryPlist(terminated)) {
+            plist_from_bin(terminated.data(), size, &node);
+        }
+    } else if (isHarmlessXmlPlist(terminated)) {
+        plist_from_xml(terminated.data(), size, &node);
+    }
+    return node;
+}
+
+std::optional<std::string> textOf(plist_t node) {
+    if (node == nullptr || plist_get_node_type(node) != PLIST_STRING) {
+        return std::nullopt;
+    }
+    const char *text = plist_get_string_ptr(node, nullptr);
+    return text != nullptr ? std::optional<std::string>(text) : std::nullopt;
 }
 
 } // namespace
 
+void PropertyList::Release::operator()(void *node) const {
+    plist_free(node);
+}
+
+std::optional<PropertyList> PropertyList::fromBytes(std::string_view bytes) {
+    PropertyList list(parse(bytes));
+    const bool isDictionary = list.top_ && plist_get_node_type(list.top_.get()) == PLIST_DICT;
+    return isDictionary ? std::optional(std::move(list)) : std::nullopt;
+}
+
+void *PropertyList::item(std::string_view key) const {
+    return plist_dict_get_item(top_.get(), std::string(key).c_str());
+}
+
+std::optional<std::string> PropertyList::string(std::string_view key) const {
+    return textOf(item(key));
+}
+
+std::optional<std::string> PropertyList::firstString(std::string_view key) const {
+    const plist_t array = item(key);
+    const bool isArray = array != nullptr && plist_get_node_type(array) == PLIST_ARRAY;
+    return isArray && plist_array_get_size(array) > 0 ? textOf(plist_array_get_item(array, 0))
+                                                      : std::nullopt;
+}
+
 std::optional<std::string> stringInPropertyList(const std::filesystem::path &file,
                                                 std::string_view key) {
     const auto bytes = bytesOf(file);
-    const Node top = bytes ? parse(*bytes) : nullptr;
-    if (!top || plist_get_node_type(top.get()) != PLIST_DICT) {
-        return std::nullopt;
-    }
-    const plist_t value = plist_dict_get_item(top.get(), std::string(key).c_str());
-    if (value == nullptr || plist_get_node_type(value) != PLIST_STRING) {
-        return std::nullopt;
-    }
-    const char *text = plist_get_string_ptr(value, nullptr);
-    return text != nullptr ? std::optional<std::string>(text) : std::nullopt;
+    const auto list = bytes ? PropertyList::fromBytes(*bytes) : std::nullopt;
+    return list ? list->string(key) : std::nullopt;
 }
 
 } // namespace pinmora
