@@ -1,0 +1,210 @@
+#include "update/update_test.h"
+
+#include "platform/defaults.h"
+#include "platform/property_list.h"
+#include "update/check_date.h"
+#include "update/proposed_name.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace pinmora {
+namespace {
+
+constexpr std::string_view dateKey = "versionCheckDate";
+constexpr std::chrono::hours betweenChecks{24};
+
+} // namespace
+
+updateTest::updateTest(Defaults &defaults, std::string bundleVersion,
+                       std::chrono::milliseconds timeout)
+    : doDownload(theWindow, timeout), defaults_(defaults), bundleVersion_(std::move(bundleVersion)),
+      timeout_(timeout) {
+    downloadButton.enabled.set(false);
+    progIndic.maximum.set(0);
+    progIndic.visible.set(false);
+    awakeFromNib();
+    connections_.push_back(noCheck.on.onChange([this](bool) { checkBoxChange(); }));
+    connections_.push_back(downloadButton.pressed.connect([this] { downloadBut(); }));
+    connections_.push_back(closeButton.pressed.connect([this] { closeBut(); }));
+}
+
+void updateTest::awakeFromNib() {
+    if (!defaults_.text(versionCheckKey)) {
+        defaults_.setText(versionCheckKey, "0");
+        defaults_.synchronize();
+    }
+    noCheck.on.set(defaults_.text(versionCheckKey) != "0");
+}
+
+void updateTest::checkBoxChange() {
+    defaults_.setText(versionCheckKey, noCheck.on.get() ? "1" : "0");
+    defaults_.synchronize();
+}
+
+void updateTest::checkNewVersion(const ProgDict &theDict) {
+    savePanel.answer({}); // what it was to save is found anew
+    menuCheck_ = true;
+    downloadButton.enabled.set(false);
+    theProgDict_ = theDict;
+    theWindow.title.set(progName() + " - version check");
+    theMessage.text.set("");
+    theMessageHeader.text.set("");
+    progText.text.set("Checking...");
+    progIndic.visible.set(true);
+    progIndic.animating.set(true);
+    theWindow.makeKeyAndOrderFront();
+    newVersion(ProgDict(theProgDict_));
+}
+
+void updateTest::newVersion(const ProgDict &description) {
+    theProgDict_ = description;
+    if (textIn(theProgDict_, "progPlist").empty()) {
+        if (menuCheck_) {
+            showFailure("No address for version information is set. The setting "
+                        "\"versionInfoURL\" takes one.");
+        }
+        return;
+    }
+    if (isDue()) {
+        const Date now = std::chrono::floor<Date::duration>(std::chrono::system_clock::now());
+        defaults_.setText(dateKey, checkDateText(now + betweenChecks));
+        defaults_.synchronize();
+        newVersionCheck();
+    } else if (menuCheck_) {
+        newVersionCheck();
+    }
+}
+
+bool updateTest::isDue() const {
+    const auto date = checkDateFrom(defaults_.text(dateKey).value_or(""));
+    return !date || *date < std::chrono::system_clock::now();
+}
+
+void updateTest::newVersionCheck() {
+    theConnection_ = UrlConnection::start({.address = textIn(theProgDict_, "progPlist"),
+                                           .ignoresCachedData = true,
+                                           .timeout = timeout_},
+                                          *this);
+    if (theConnection_) {
+        receivedData_.clear();
+    } else {
+        didFailWithError("The address of the version information is not one on the web.");
+    }
+}
+
+/// What a server sends along with a bad status is no version information.
+void updateTest::didReceiveResponse(const UrlResponse &response) {
+    constexpr int ok = 200;
+    if (response.statusCode == ok) {
+        return;
+    }
+    theConnection_->cancel();
+    if (std::exchange(menuCheck_, false)) {
+        showFailure("The error reported was!  Sorry about that.  The error is a  \"" +
+                    std::to_string(response.statusCode) +
+                    "\", whatever that means!  Please try again later or report the error to "
+                    "Velder.");
+    }
+}
+
+void updateTest::didReceiveData(std::string_view bytes) {
+    receivedData_ += bytes;
+    if (receivedData_.size() > largestPropertyList) {
+        theConnection_->cancel();
+        didFailWithError("The version information is longer than a megabyte.");
+    } else if (menuCheck_) {
+        progText.text.set("Receiving data....");
+    }
+}
+
+void updateTest::didFailWithError(const std::string &localizedDescription) {
+    receivedData_.clear();
+    if (menuCheck_) {
+        showFailure("The error reported was: \"" + localizedDescription + "\".");
+    }
+}
+
+/// Any other version than the running one is an update: there is no order among versions.
+void updateTest::connectionDidFinishLoading() {
+    const auto list = PropertyList::fromBytes(std::exchange(receivedData_, {}));
+    if (!list) {
+        return;
+    }
+    const auto version = list->string("productVersion");
+    if (version == bundleVersion_) {
+        if (menuCheck_) {
+            showUpToDate();
+        }
+        return;
+    }
+    const auto address = list->firstString("productDownloadURL");
+    theProgDict_.erase("progDownload");
+    const bool canBeFetched = address && webUrl(QByteArray::fromStdString(*address));
+    if (canBeFetched) {
+        theProgDict_["progDownload"] = *address;
+    }
+    downloadButton.enabled.set(canBeFetched);
+    showUpdate(version.value_or(""));
+}
+
+void updateTest::showUpToDate() {
+    menuCheck_ = false;
+    downloadButton.enabled.set(false);
+    theWindow.title.set(progName() + " - version check complete");
+    theMessage.text.set("You are using version " + bundleVersion_ +
+                        ", which is the most up-to-date version of " + progName() + ".");
+    theMessageHeader.text.set(progName() + " is up-to-date");
+    stopAndShow();
+}
+
+void updateTest::showUpdate(const std::string &version) {
+    theWindow.title.set(progName() + " - version " + version + " now available");
+    theMessage.text.set("Version " + version +
+                        " is now available for download from Velder.  To download just click on "
+                        "the download button below.");
+    theMessageHeader.text.set(progName() + " update available");
+    stopAndShow();
+}
+
+void updateTest::showFailure(const std::string &message) {
+    menuCheck_ = false;
+    downloadButton.enabled.set(false);
+    theWindow.title.set(progName() + " - version check failed");
+    theMessage.text.set(message);
+    theMessageHeader.text.set(progName() + " version check failed");
+    stopAndShow();
+}
+
+void updateTest::stopAndShow() {
+    progText.text.set("");
+    progIndic.visible.set(false);
+    progIndic.animating.set(false);
+    theWindow.makeKeyAndOrderFront();
+}
+
+void updateTest::downloadBut() {
+    menuCheck_ = false;
+    savePanel.title = "Download " + progName();
+    savePanel.nameFieldStringValue = proposedName(textIn(theProgDict_, "progDownload"));
+    savePanel.beginSheet(theWindow, [this](SavePanel &panel, int returnCode) {
+        savePanelDidEnd(panel, returnCode);
+    });
+}
+
+void updateTest::savePanelDidEnd(SavePanel &panel, int returnCode) {
+    panel.close();
+    if (returnCode == SavePanel::okCode) {
+        doDownload.getNewVersion(theProgDict_, panel.filename());
+    }
+}
+
+void updateTest::closeBut() {
+    menuCheck_ = false;
+    if (theConnection_) {
+        theConnection_->cancel();
+    }
+    theWindow.close();
+}
+
+} // namespace pinmora
