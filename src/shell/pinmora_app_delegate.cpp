@@ -3,6 +3,7 @@
 #include "gps/log_reading.h"
 #include "persistence/context.h"
 #include "places/place_settings.h"
+#include "platform/number_text.h"
 #include "shell/subsystems.h"
 
 #include <algorithm>
@@ -36,8 +37,7 @@ void Pinmora_AppDelegate::awakeFromNib() {
     if (defaults.text("logReading") == policyOf(LogReading::Tolerant).name) {
         subsystems_->gps.setReading(LogReading::Tolerant);
     }
-    setStartWindow(0); // whatever "useWizard" says: there is no wizard yet
-    interface.preview.theImageView2.visible.set(false);
+    subsystems_->wizard.setStartWindow(leadingInt(defaults.text("useWizard").value_or("")));
     subsystems_->inspector.tableSelectionChanged();
     subsystems_->fileBrowser.setUp();
     subsystems_->recoveryOffers.post();
@@ -92,11 +92,6 @@ void Pinmora_AppDelegate::setMissingDefaults() {
             defaults.synchronize();
         }
     }
-}
-
-void Pinmora_AppDelegate::setStartWindow(int useWizard) {
-    interface.inWizard = useWizard == 1;
-    interface.workingWindow().makeKeyAndOrderFront();
 }
 
 TerminateReply Pinmora_AppDelegate::applicationShouldTerminate() {

@@ -64,8 +64,6 @@ private:
     void loadMapPages();
     void observeNotifications();
     void setMissingDefaults();
-    /// 1 shows the wizard, anything else the main window.
-    void setStartWindow(int useWizard);
     bool somePhotoHasChanges();
 
     const std::filesystem::path resourceFolder_;

@@ -101,7 +101,23 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
                         owner.interface.quietBar),
       recoveryOffers(unsavedWork, owner.interface.quietBar, owner.interface.errors,
                      owner.interface.statusLine),
-      sampleOuting(photoIntake, resourceFolder) {
+      sampleOuting(photoIntake, resourceFolder),
+      wizardDetails(owner.library.managedObjectContext(), arrays.pictureArray,
+                    matching.offsetText2),
+      wizardOutlets{.window = owner.interface.window,
+                    .wizardWindow = owner.interface.wizardWindow,
+                    .inWizard = owner.interface.inWizard,
+                    .webView2 = owner.interface.webView2,
+                    .theImageView2 = owner.interface.preview.theImageView2},
+      wizard(wizardOutlets, wizardDetails,
+             {.defaults = owner.defaults,
+              .hasTrackData = [&library = owner.library] { return library.hasTrackData(); },
+              .windowChanged = [this] { inspector.sendPointer(); }}),
+      wizardEnd({.nextButtonAppliedAll = matching.nextButtonAppliedAll,
+                 .congrats1 = matching.congrats1,
+                 .congrats2 = matching.congrats2,
+                 .savePhotosButton = saveOutlets.savePhotosButton},
+                counts) {
     gps.setImportJournal(&unsavedWork.recorder());
     placeNames.setEnabled(looksUpPlaces(owner.defaults));
     owner.library.managedObjectModel().setPlaceNames(&placeNames);
@@ -111,6 +127,8 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
     connections_.push_back(
         photoIntake.loaded.connect([this](auto &, auto &) { inspector.tableSelectionChanged(); }));
     connections_.push_back(readingOffer.readAgain.connect([this] { inspector.logsLoaded(); }));
+    connections_.push_back(
+        matching.nextButtonAppliedAll.pressed.connect([this] { savePipeline.updatePicts(); }));
     connections_.push_back(mapBridge.pointerWanted.connect([this] { inspector.sendPointer(); }));
 }
 

@@ -37,6 +37,9 @@
 #include "shell/thumbnails.h"
 #include "shell/undo_commands.h"
 #include "shell/unfit_text.h"
+#include "shell/wizard.h"
+#include "shell/wizard_details.h"
+#include "shell/wizard_end.h"
 
 namespace pinmora {
 
@@ -97,6 +100,10 @@ struct Subsystems {
     OldPositionNotice oldPositionNotice;
     RecoveryOffers recoveryOffers;
     SampleOuting sampleOuting;
+    WizardDetails wizardDetails;
+    WizardOutlets wizardOutlets;
+    Wizard wizard;
+    WizardEnd wizardEnd;
 
     Window logWindow; ///< shows the log file
 

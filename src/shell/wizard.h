@@ -6,7 +6,6 @@
 #include "outlets/tab_view.h"
 #include "outlets/window.h"
 #include "platform/defaults.h"
-#include "shell/library_counts.h"
 #include "shell/wizard_details.h"
 #include "shell/wizard_pages.h"
 
@@ -55,7 +54,7 @@ public:
     /// What the wizard needs of others.
     struct Surroundings {
         Defaults &defaults;
-        LibraryCounts &counts;
+        std::function<bool()> hasTrackData;
         /// The other window has come to the front, with another map.
         std::function<void()> windowChanged;
     };

@@ -23,8 +23,13 @@ struct Desk {
         }
     }
 
+    /// It starts in the main window, unless a test says otherwise.
     explicit Desk(const std::filesystem::path &resources = PINMORA_SOURCE_DIR "/samples")
-        : delegate(resources) {}
+        : delegate(resources) {
+        if (!delegate.defaults.text("useWizard")) {
+            delegate.defaults.setText("useWizard", "0");
+        }
+    }
 
     pinmora::Pinmora_AppDelegate delegate;
     std::vector<std::string> scripts; ///< what the main window's map was told
