@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files.h"
 #include "gps/gps.h"
 #include "persistence/context.h"
 #include "platform/notification_centre.h"
@@ -11,8 +12,6 @@
 #include <QTest>
 
 #include <ctime>
-#include <filesystem>
-#include <fstream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -48,8 +47,7 @@ struct LogDesk {
         return std::filesystem::path(folder->path().toStdString()) / name;
     }
     std::filesystem::path write(std::string_view name, std::string_view bytes) const {
-        std::ofstream(pathOf(name), std::ios::binary) << bytes;
-        return pathOf(name);
+        return put(pathOf(name), bytes);
     }
     LogReport load(std::string_view bytes, LogReading reading = LogReading::Exact) {
         gps.setReading(reading);
@@ -85,5 +83,3 @@ private:
 };
 
 } // namespace pinmora::test
-
-Q_DECLARE_METATYPE(pinmora::LogReading)
