@@ -37,6 +37,7 @@ void Pinmora_AppDelegate::awakeFromNib() {
     if (defaults.text("logReading") == policyOf(LogReading::Tolerant).name) {
         subsystems_->gps.setReading(LogReading::Tolerant);
     }
+    subsystems_->versionCheck.start();
     subsystems_->wizard.setStartWindow(leadingInt(defaults.text("useWizard").value_or("")));
     subsystems_->inspector.tableSelectionChanged();
     subsystems_->fileBrowser.setUp();

@@ -117,7 +117,8 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
                  .congrats1 = matching.congrats1,
                  .congrats2 = matching.congrats2,
                  .savePhotosButton = saveOutlets.savePhotosButton},
-                counts) {
+                counts),
+      versionCheck(owner.defaults) {
     gps.setImportJournal(&unsavedWork.recorder());
     placeNames.setEnabled(looksUpPlaces(owner.defaults));
     owner.library.managedObjectModel().setPlaceNames(&placeNames);

@@ -37,6 +37,7 @@
 #include "shell/thumbnails.h"
 #include "shell/undo_commands.h"
 #include "shell/unfit_text.h"
+#include "shell/version_check.h"
 #include "shell/wizard.h"
 #include "shell/wizard_details.h"
 #include "shell/wizard_end.h"
@@ -104,6 +105,7 @@ struct Subsystems {
     WizardOutlets wizardOutlets;
     Wizard wizard;
     WizardEnd wizardEnd;
+    VersionCheck versionCheck;
 
     Window logWindow; ///< shows the log file
 

@@ -1,6 +1,7 @@
 #include "shell/wizard_details.h"
 
 #include "persistence/context.h"
+#include "platform/number_text.h"
 #include "store/image.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ WizardDetails::WizardDetails(Context &context, ArrayController<image> &pictureAr
     connections_.push_back(
         pictureArray.selectionChanged.connect([this] { endOfTurn_.ask(); })); // may still go on
     connections_.push_back(offsetText2.text.onChange(
-        [this](const std::string &text) { tiemWithOffset2.text.set(text); }));
+        [this](const std::string &text) { tiemWithOffset2.text.set(std::string(trimmed(text))); }));
     showSelection();
 }
 
@@ -35,7 +36,7 @@ void WizardDetails::showSelection() {
     pictureData2.text.set(photo            ? photo->image_name().string()
                           : photos.empty() ? std::string()
                                            : std::to_string(photos.size()) + " photos");
-    time2.text.set(photo ? photo->time_string() : "");
+    time2.text.set(photo ? std::string(trimmed(photo->time_string())) : "");
     latitude2.text.set(photo ? photo->lat().string() : "");
     longitude2.text.set(photo ? photo->lon().string() : "");
 }

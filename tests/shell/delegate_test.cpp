@@ -39,7 +39,6 @@ private Q_SLOTS:
         QVERIFY(desk.interface().window.visible.get());
         QVERIFY(!desk.interface().wizardWindow.visible.get());
         QVERIFY(!desk.interface().inWizard);
-        QCOMPARE(desk.delegate.defaults.text("useWizard").value_or(""), std::string("1"));
         QCOMPARE(desk.delegate.defaults.text("versionCheck").value_or(""), std::string("0"));
         QVERIFY(!desk.context().hasChanges() || desk.context().count<offset>() == 1);
         QVERIFY(!desk.parts().undoCommands.undoItem.enabled.get());

@@ -23,12 +23,14 @@ struct Desk {
         }
     }
 
-    /// It starts in the main window, unless a test says otherwise.
+    /// It starts in the main window, unless a test says otherwise, and asks nobody for a newer
+    /// version.
     explicit Desk(const std::filesystem::path &resources = PINMORA_SOURCE_DIR "/samples")
         : delegate(resources) {
         if (!delegate.defaults.text("useWizard")) {
             delegate.defaults.setText("useWizard", "0");
         }
+        delegate.defaults.setText("versionInfoURL", "");
     }
 
     pinmora::Pinmora_AppDelegate delegate;

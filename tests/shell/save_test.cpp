@@ -13,6 +13,7 @@ private Q_SLOTS:
     void runsEnd_data();
     void runsEnd();
     void anEmptyLibraryIsSavedAtOnce();
+    void isNotOverBeforeItsSheetIsDrawn();
     void namesAreWaitedFor_data();
     void namesAreWaitedFor();
     void cancelling();
@@ -117,6 +118,20 @@ void SaveTest::anEmptyLibraryIsSavedAtOnce() {
     QVERIFY(desk.copyNames().empty());
     QVERIFY(desk.told.contains(QStringLiteral("Updating icons")));
     QVERIFY(!desk.broughtBack());
+}
+
+/// Drawing lets the event loop go on, and a run that copies nothing takes no time.
+void SaveTest::isNotOverBeforeItsSheetIsDrawn() {
+    SaveDesk desk(3);
+    fs::remove_all(desk.copies);
+    const SavePipeline &pipeline = desk.parts().savePipeline;
+    desk.listening.push_back(desk.outlets().saveWindow.displayed.connect(
+        [&] { QTest::qWaitFor([&] { return !pipeline.isRunning(); }, 200); }));
+    desk.confirm();
+    QVERIFY(pipeline.isRunning());
+    QVERIFY(desk.ends());
+    QCOMPARE(desk.bar(), QStringLiteral("0 of 3 saved. 3 could not be written."));
+    QCOMPARE(desk.desk().interface().statusLine.text.get(), std::string());
 }
 
 void SaveTest::namesAreWaitedFor_data() {
