@@ -1,25 +1,20 @@
 #include "matching/clock_offset.h"
 
 #include "matching/desk.h"
-
-#include <QTest>
+#include "rows.h"
 
 using namespace pinmora;
 using namespace std::chrono_literals;
+
+using Spoil = std::function<void(Desk &)>;
 
 class ClockOffsetTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void deriving_data() {
-        QTest::addColumn<qint64>("milliseconds"); // from the photo to the point
-        QTest::addColumn<std::string>("derived");
-        QTest::addColumn<std::string>("shown");
-
-        const auto row = [](const char *name, std::chrono::milliseconds later,
-                            const std::string &derived, const std::string &shown) {
-            QTest::newRow(name) << qint64{later.count()} << derived << shown;
-        };
+        // later: from the photo to the point
+        const auto row = test::rows<std::chrono::milliseconds, std::string, std::string>();
         row("earlier, fraction dropped", -89'400ms, "-0:1:29", "12 May 2008 11:58:31");
         row("later", 2h + 30min + 5s, "+2:30:5", "12 May 2008 14:30:05");
         row("the same instant", 0ms, "+0:0:0", "12 May 2008 12:00:00");
@@ -31,15 +26,15 @@ private Q_SLOTS:
     }
 
     void deriving() {
-        QFETCH(qint64, milliseconds);
+        const auto [later, derived, shown] =
+            test::fetch<std::chrono::milliseconds, std::string, std::string>();
         Desk desk;
-        desk.outlets.bestGPS.setContent(
-            &desk.addPoint(desk.noon + std::chrono::milliseconds(milliseconds)));
+        desk.outlets.bestGPS.setContent(&desk.addPoint(desk.noon + later));
         desk.clockOffset.setNewOffset(true);
-        QTEST(desk.storedOffset(), "derived");
-        QTEST(desk.steppedOffset(), "derived");
-        QTEST(desk.outlets.offsetText.text.get(), "shown");
-        QTEST(desk.outlets.offsetText2.text.get(), "shown");
+        QCOMPARE(desk.storedOffset(), derived);
+        QCOMPARE(desk.steppedOffset(), derived);
+        QCOMPARE(desk.outlets.offsetText.text.get(), shown);
+        QCOMPARE(desk.outlets.offsetText2.text.get(), shown);
         QCOMPARE(desk.stored.offset_set(), std::optional(1));
     }
 
@@ -50,13 +45,13 @@ private Q_SLOTS:
         desk.outlets.offsetButton.enabled.set(false);
         desk.outlets.bestGPS.setContent(&desk.addPoint(desk.noon, "-33.85670", "151.2", "410"));
         desk.clockOffset.setNewOffset(true);
-        QCOMPARE(desk.placeOf(desk.photo), std::string("-33.85670 151.2 5 10"));
+        QCOMPARE(desk.placeOf(desk.photo), "-33.85670 151.2 5 10");
         QVERIFY(desk.photo.lat_ref() == "S");
         QVERIFY(desk.photo.position_source() == PositionSource::log);
-        QCOMPARE(desk.scripts, std::string("1:movePointer(-33.85670,151.2,14,'')"));
+        QCOMPARE(desk.scripts, "1:movePointer(-33.85670,151.2,14,'')");
         QCOMPARE(desk.shownDegrees.degree_lat(), std::optional(-33.8567));
         QCOMPARE(desk.shownDegrees.degree_lon(), std::optional(151.2));
-        QCOMPARE(desk.addRemoveMarker.title.get(), std::string("Remove Marker"));
+        QCOMPARE(desk.addRemoveMarker.title.get(), "Remove Marker");
         QCOMPARE(desk.addRemoveMarker.tag, 1);
         QVERIFY(desk.outlets.offsetButton.enabled.get());
     }
@@ -67,18 +62,16 @@ private Q_SLOTS:
         desk.inWizard = true;
         desk.outlets.bestGPS.setContent(&desk.addPoint(desk.noon - 20s));
         desk.clockOffset.setNewOffset(false);
-        QCOMPARE(desk.storedOffset(), std::string("-1:75:3"));
+        QCOMPARE(desk.storedOffset(), "-1:75:3");
         QCOMPARE(desk.stored.offset_set(), std::optional(1));
-        QCOMPARE(desk.outlets.offsetText.text.get(), std::string("12 May 2008 11:59:40"));
-        QCOMPARE(desk.placeOf(desk.photo), std::string("47.1 8.2 - 10"));
-        QCOMPARE(desk.scripts, std::string("2:movePointer(47.1,8.2,0,'')"));
+        QCOMPARE(desk.outlets.offsetText.text.get(), "12 May 2008 11:59:40");
+        QCOMPARE(desk.placeOf(desk.photo), "47.1 8.2 - 10");
+        QCOMPARE(desk.scripts, "2:movePointer(47.1,8.2,0,'')");
         QCOMPARE(desk.addRemoveMarker.title.get(), std::string());
     }
 
     void derivingNeedsAllThatItStandsOn_data() {
-        using Spoil = std::function<void(Desk &)>;
-        QTest::addColumn<Spoil>("spoil");
-        const auto row = [](const char *name, Spoil spoil) { QTest::newRow(name) << spoil; };
+        const auto row = test::rows<Spoil>();
         row("no photo", [](Desk &desk) { desk.pictureArray.setSelectedObjects({}); });
         row("no date", [](Desk &desk) { desk.photo.setDate("12/05/2008"); });
         row("no point", [](Desk &desk) { desk.outlets.bestGPS.setContent(nullptr); });
@@ -89,7 +82,7 @@ private Q_SLOTS:
     }
 
     void derivingNeedsAllThatItStandsOn() {
-        QFETCH(std::function<void(Desk &)>, spoil);
+        const auto [spoil] = test::fetch<Spoil>();
         Desk desk;
         desk.outlets.bestGPS.setContent(&desk.addPoint(desk.noon + 1h));
         spoil(desk);
@@ -106,9 +99,9 @@ private Q_SLOTS:
         desk.outlets.stepperMin.stepBy(-1);
         desk.outlets.stepperSec.stepBy(61);
         desk.outlets.stepperHour.stepBy(-1);
-        QCOMPARE(desk.storedOffset(), std::string("+0:59:1"));
+        QCOMPARE(desk.storedOffset(), "+0:59:1");
         desk.outlets.stepperHour.stepBy(2'000'000);
-        QCOMPARE(desk.storedOffset(), std::string("+999999:59:1"));
+        QCOMPARE(desk.storedOffset(), "+999999:59:1");
         QCOMPARE(desk.steppedOffset(), desk.storedOffset());
     }
 
@@ -121,24 +114,24 @@ private Q_SLOTS:
         const std::string place = desk.placeOf(desk.photo);
         desk.outlets.plusMinus3.choose(0);
         desk.clockOffset.changeOffset();
-        QCOMPARE(desk.storedOffset(), std::string("-1:0:0"));
-        QCOMPARE(desk.steppedOffset(), std::string("-1:0:0"));
+        QCOMPARE(desk.storedOffset(), "-1:0:0");
+        QCOMPARE(desk.steppedOffset(), "-1:0:0");
         QCOMPARE(desk.placeOf(desk.photo), place);
-        QCOMPARE(desk.outlets.offsetText.text.get(), std::string("12 May 2008 13:00:00"));
+        QCOMPARE(desk.outlets.offsetText.text.get(), "12 May 2008 13:00:00");
     }
 
     void controlsShowTheRecord() {
         Desk desk;
         desk.setOffset(7, 1'000'000, 75, 3);
-        QCOMPARE(desk.steppedOffset(), std::string("+1000000:75:3"));
+        QCOMPARE(desk.steppedOffset(), "+1000000:75:3");
         offset &another = desk.context.insert<offset>();
         another.setSeconds(9);
         desk.outlets.offsetObj.setContent(&another);
-        QCOMPARE(desk.steppedOffset(), std::string("-0:0:9"));
+        QCOMPARE(desk.steppedOffset(), "-0:0:9");
         desk.stored.setHours(5);
-        QCOMPARE(desk.steppedOffset(), std::string("-0:0:9"));
+        QCOMPARE(desk.steppedOffset(), "-0:0:9");
         desk.context.deleteObject(another);
-        QCOMPARE(desk.steppedOffset(), std::string("-0:0:0"));
+        QCOMPARE(desk.steppedOffset(), "-0:0:0");
     }
 };
 

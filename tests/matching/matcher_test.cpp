@@ -2,8 +2,7 @@
 
 #include "matching/desk.h"
 #include "matching/placing.h"
-
-#include <QTest>
+#include "rows.h"
 
 using namespace pinmora;
 using namespace std::chrono_literals;
@@ -39,6 +38,9 @@ struct Outing : Desk {
     }
 };
 
+using Action = std::function<void(Outing &)>;
+using Number = std::optional<int>;
+
 } // namespace
 
 class MatcherTest : public QObject {
@@ -46,17 +48,7 @@ class MatcherTest : public QObject {
 
 private Q_SLOTS:
     void correctedTimes_data() {
-        using Number = std::optional<int>;
-        QTest::addColumn<Number>("plus");
-        QTest::addColumn<Number>("hours");
-        QTest::addColumn<Number>("minutes");
-        QTest::addColumn<Number>("seconds");
-        QTest::addColumn<qint64>("added");
-
-        const auto row = [](const char *name, Number plus, Number hours, Number minutes,
-                            Number seconds, qint64 added) {
-            QTest::newRow(name) << plus << hours << minutes << seconds << added;
-        };
+        const auto row = test::rows<Number, Number, Number, Number, qint64>();
         row("fresh record", {}, {}, {}, {}, 0);
         row("minutes beyond the hour", 1, 1, 75, 0, 8'100);
         row("subtracted", 0, 1, 75, 0, -8'100);
@@ -67,12 +59,8 @@ private Q_SLOTS:
     }
 
     void correctedTimes() {
-        using Number = std::optional<int>;
-        QFETCH(Number, plus);
-        QFETCH(Number, hours);
-        QFETCH(Number, minutes);
-        QFETCH(Number, seconds);
-        QFETCH(qint64, added);
+        const auto [plus, hours, minutes, seconds, added] =
+            test::fetch<Number, Number, Number, Number, qint64>();
         Desk desk;
         desk.stored.setPlus(plus);
         desk.stored.setHours(hours);
@@ -98,16 +86,16 @@ private Q_SLOTS:
         Outing outing;
         outing.outlets.stepperHour.stepBy(1);
         QCOMPARE(outing.outlets.bestGPS.content(), &outing.eleven);
-        QCOMPARE(outing.storedOffset(), std::string("-1:0:0"));
+        QCOMPARE(outing.storedOffset(), "-1:0:0");
         outing.outlets.stepperMin.stepBy(20); // nearer to nothing else
-        QCOMPARE(outing.storedOffset(), std::string("-1:20:0"));
-        QCOMPARE(outing.outlets.offsetText.text.get(), std::string("12 May 2008 11:00:00"));
+        QCOMPARE(outing.storedOffset(), "-1:20:0");
+        QCOMPARE(outing.outlets.offsetText.text.get(), "12 May 2008 11:00:00");
         outing.outlets.stepperHour.stepBy(-1);
         outing.outlets.stepperMin.stepBy(-20);
         outing.outlets.stepperSec.stepBy(1);
         // The sign follows the point that was found.
         QCOMPARE(outing.outlets.bestGPS.content(), &outing.fivePast);
-        QCOMPARE(outing.storedOffset(), std::string("+0:0:1"));
+        QCOMPARE(outing.storedOffset(), "+0:0:1");
     }
 
     void matchingRewritesTheFields() {
@@ -120,9 +108,9 @@ private Q_SLOTS:
         });
         outing.outlets.matchButton.press();
         QCOMPARE(outing.outlets.bestGPS.content(), &outing.eleven);
-        QCOMPARE(outing.storedOffset(), std::string("-1:0:0"));
-        QCOMPARE(outing.placeOf(outing.photo), std::string("-33.85670 -070.1 - 10"));
-        QCOMPARE(outing.scripts, std::string("1:movePointer(-33.85670,-70.1,0,'')"));
+        QCOMPARE(outing.storedOffset(), "-1:0:0");
+        QCOMPARE(outing.placeOf(outing.photo), "-33.85670 -070.1 - 10");
+        QCOMPARE(outing.scripts, "1:movePointer(-33.85670,-70.1,0,'')");
         QVERIFY(!later.lat().hasValue());
     }
 
@@ -138,54 +126,48 @@ private Q_SLOTS:
         desk.matcher.guessFromLatLon();
         QVERIFY(!desk.context.hasChanges());
         desk.matcher.gpsMatcher(true);
-        QCOMPARE(desk.outlets.offsetText2.text.get(), std::string("12 May 2008 12:00:30"));
+        QCOMPARE(desk.outlets.offsetText2.text.get(), "12 May 2008 12:00:30");
     }
 
     void knownPositions_data() {
-        QTest::addColumn<std::string>("lat");
-        QTest::addColumn<std::string>("lon");
-        QTest::addColumn<std::string>("derived");
-
+        const auto row = test::rows<std::string, std::string, std::string>();
         const std::string none = "-0:0:0";
-        QTest::newRow("near") << std::string("47") << std::string("8.3") << std::string("+0:5:0");
-        QTest::newRow("blanks") << std::string(" -40 ") << std::string("-70\t")
-                                << std::string("-1:0:0");
-        QTest::newRow("the rest is 0")
-            << std::string("46") << std::string("9.9999") << std::string("-72:0:0");
-        QTest::newRow("empty") << std::string() << std::string("8") << none;
-        QTest::newRow("words") << std::string("47") << std::string("east") << none;
-        QTest::newRow("comma") << std::string("47,3") << std::string("8") << none;
-        QTest::newRow("letter") << std::string("47") << std::string("70 W") << none;
-        QTest::newRow("beyond") << std::string("90.1") << std::string("8") << none;
+        row("near", "47", "8.3", "+0:5:0");
+        row("blanks", " -40 ", "-70\t", "-1:0:0");
+        row("the rest is 0", "46", "9.9999", "-72:0:0");
+        row("empty", {}, "8", none);
+        row("words", "47", "east", none);
+        row("comma", "47,3", "8", none);
+        row("letter", "47", "70 W", none);
+        row("beyond", "90.1", "8", none);
     }
 
     void knownPositions() {
-        QFETCH(std::string, lat);
-        QFETCH(std::string, lon);
+        const auto [lat, lon, derived] = test::fetch<std::string, std::string, std::string>();
         Outing outing;
-        outing.context.setEndEditing([&] {
+        outing.context.setEndEditing([&, &lon = lon] {
             outing.outlets.knownLon.text.set(lon);
             return true;
         });
         outing.outlets.knownLat.text.set(lat);
         outing.matcher.guessFromLatLon();
-        QTEST(outing.storedOffset(), "derived");
-        QCOMPARE(outing.outlets.knownLat.problem.get() + outing.outlets.knownLon.problem.get() !=
-                     "",
-                 outing.storedOffset() == "-0:0:0");
+        QCOMPARE(outing.storedOffset(), derived);
+        const auto &known = outing.outlets;
+        QCOMPARE(known.knownLat.problem.get() + known.knownLon.problem.get() != "",
+                 derived == "-0:0:0");
     }
 
     void thePhotosOwnPositionCanBeTheKnownOne() {
         Outing outing;
         outing.outlets.knownLat.text.set("1");
         outing.outlets.offsetButton.press(); // the photo has none
-        QCOMPARE(outing.outlets.knownLat.text.get(), std::string("1"));
+        QCOMPARE(outing.outlets.knownLat.text.get(), "1");
         outing.photo.updateLatAndLon({"46.6", "9.4"});
         outing.outlets.offsetButton2.press();
-        QCOMPARE(outing.outlets.knownLat.text.get(), std::string("46.6"));
-        QCOMPARE(outing.outlets.knownLon.text.get(), std::string("9.4"));
-        QCOMPARE(outing.storedOffset(), std::string("-72:0:0"));
-        QCOMPARE(outing.placeOf(outing.photo), std::string("46.5 9.5 - 10"));
+        QCOMPARE(outing.outlets.knownLat.text.get(), "46.6");
+        QCOMPARE(outing.outlets.knownLon.text.get(), "9.4");
+        QCOMPARE(outing.storedOffset(), "-72:0:0");
+        QCOMPARE(outing.placeOf(outing.photo), "46.5 9.5 - 10");
     }
 
     void applying() {
@@ -215,18 +197,16 @@ private Q_SLOTS:
         outing.matcher.applyToAllPictures();
         outing.context.removeObserver(keys);
 
-        QCOMPARE(heard,
-                 std::string("edited Processing 1 of 3; Processing 2 of 3; Processing 3 of 3; "
-                             "edited moved"));
-        QCOMPARE(keys.keys, std::string("lat lon alt zoom lat lon alt zoom "));
-        QCOMPARE(outing.placeOf(outing.photo), std::string("47.3 8.4  10"));
-        QCOMPARE(outing.placeOf(early), std::string("-33.85670 -070.1  12.50  10"));
+        QCOMPARE(heard, "edited Processing 1 of 3; Processing 2 of 3; Processing 3 of 3; "
+                        "edited moved");
+        QCOMPARE(keys.keys, "lat lon alt zoom lat lon alt zoom ");
+        QCOMPARE(outing.placeOf(outing.photo), "47.3 8.4  10");
+        QCOMPARE(outing.placeOf(early), "-33.85670 -070.1  12.50  10");
         QVERIFY(early.lat_ref() == "S" && early.lon_ref() == "W");
         QVERIFY(early.position_source() == PositionSource::log);
-        QCOMPARE(outing.placeOf(undated), std::string("- - - -"));
+        QCOMPARE(outing.placeOf(undated), "- - - -");
         QVERIFY(!undated.getHasChanges());
-        QCOMPARE(outing.progress.progressTextMain.text.get(),
-                 std::string("Applying to GPS data to photos"));
+        QCOMPARE(outing.progress.progressTextMain.text.get(), "Applying to GPS data to photos");
         QCOMPARE(outing.progress.progressIndic.value.get(), 3);
         QVERIFY(!outing.progress.progressWindow.isUp());
         QVERIFY(outing.outlets.offsetText.text.get().empty());
@@ -262,26 +242,19 @@ private Q_SLOTS:
     }
 
     void eachActionIsOneStepOfUndo_data() {
-        using Action = std::function<void(Outing &)>;
-        QTest::addColumn<Action>("act");
-        QTest::addColumn<std::string>("name");
-        const auto row = [](const char *name, Action act) {
-            QTest::newRow(name) << act << std::string(name);
-        };
-        row("Apply GPS Data to Photos",
+        const auto row = test::rows<std::string, Action>();
+        row("batch", "Apply GPS Data to Photos",
             [](Outing &outing) { outing.matcher.applyToAllPictures(); });
-        row("Match Photo", [](Outing &outing) { outing.outlets.matchButton.press(); });
-        QTest::newRow("by place") << Action([](Outing &outing) {
-            outing.outlets.offsetButton.press();
-        }) << std::string("Match Photo");
-        row("Step Clock Offset", [](Outing &outing) { outing.outlets.stepperMin.stepBy(-1); });
-        row("Change Sign of Clock Offset",
+        row("match", "Match Photo", [](Outing &outing) { outing.outlets.matchButton.press(); });
+        row("by place", "Match Photo", [](Outing &outing) { outing.outlets.offsetButton.press(); });
+        row("step", "Step Clock Offset",
+            [](Outing &outing) { outing.outlets.stepperMin.stepBy(-1); });
+        row("sign", "Change Sign of Clock Offset",
             [](Outing &outing) { outing.outlets.plusMinus1.choose(1); });
     }
 
     void eachActionIsOneStepOfUndo() {
-        QFETCH(std::function<void(Outing &)>, act);
-        QFETCH(std::string, name);
+        const auto [name, act] = test::fetch<std::string, Action>();
         Outing outing;
         outing.photo.updateLatAndLon({"46", "9.4"}); // in the hemispheres of the points
         outing.photo.setHasChangesFalse();
@@ -297,7 +270,7 @@ private Q_SLOTS:
         outing.undoManager.undo();
         QCOMPARE(outing.everything(), before);
         QCOMPARE(outing.photo.zoom(), zoom); // the map's own
-        QCOMPARE(outing.outlets.offsetText.text.get(), std::string("12 May 2008 11:59:30"));
+        QCOMPARE(outing.outlets.offsetText.text.get(), "12 May 2008 11:59:30");
         outing.undoManager.redo();
         QCOMPARE(outing.everything(), after);
     }

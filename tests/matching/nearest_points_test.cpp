@@ -1,8 +1,7 @@
 #include "matching/nearest_points.h"
 
 #include "matching/library.h"
-
-#include <QTest>
+#include "rows.h"
 
 #include <random>
 
@@ -41,27 +40,16 @@ class NearestPointsTest : public QObject {
 
 private Q_SLOTS:
     void inPlace_data() {
-        QTest::addColumn<Degrees>("points");
-        QTest::addColumn<double>("lat");
-        QTest::addColumn<double>("lon");
-        QTest::addColumn<int>("place");
-
-        QTest::newRow("equal, first wins")
-            << Degrees{{"47.0", "8.5"}, {"47.5", "8.0"}} << 47. << 8. << 0;
-        QTest::newRow("nearer later")
-            << Degrees{{"47.0", "8.5"}, {"47.25", "8.25"}} << 47. << 8. << 1;
-        QTest::newRow("a degree is a degree")
-            << Degrees{{"79", "10"}, {"80", "11.1"}} << 80. << 10. << 0;
-        QTest::newRow("not around the world")
-            << Degrees{{"0", "179.9"}, {"0", "-1"}} << 0. << -179.9 << 1;
-        QTest::newRow("far away") << Degrees{{"-90", "-180"}} << 90. << 180. << 0;
+        const auto row = test::rows<Degrees, double, double, int>();
+        row("equal, first wins", Degrees{{"47.0", "8.5"}, {"47.5", "8.0"}}, 47., 8., 0);
+        row("nearer later", Degrees{{"47.0", "8.5"}, {"47.25", "8.25"}}, 47., 8., 1);
+        row("a degree is a degree", Degrees{{"79", "10"}, {"80", "11.1"}}, 80., 10., 0);
+        row("not around the world", Degrees{{"0", "179.9"}, {"0", "-1"}}, 0., -179.9, 1);
+        row("far away", Degrees{{"-90", "-180"}}, 90., 180., 0);
     }
 
     void inPlace() {
-        QFETCH(Degrees, points);
-        QFETCH(double, lat);
-        QFETCH(double, lon);
-        QFETCH(int, place);
+        const auto [points, lat, lon, place] = test::fetch<Degrees, double, double, int>();
         PointLibrary library;
         std::vector<track_part *> added;
         for (const auto &[pointLat, pointLon] : points) {

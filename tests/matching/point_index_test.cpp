@@ -11,12 +11,9 @@
 using namespace pinmora;
 using namespace std::chrono_literals;
 
-using Milliseconds = QList<int>; ///< after the start of the log
-
 namespace {
 
 constexpr Date start{std::chrono::seconds(1'210'593'600)};
-constexpr int day = 24 * 60 * 60 * 1000;
 
 /// What the index must find, found the plain way.
 track_part *walk(const std::vector<track_part *> &arranged, Date target) {
@@ -89,43 +86,6 @@ class PointIndexTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void nearest_data() {
-        QTest::addColumn<Milliseconds>("points");
-        QTest::addColumn<int>("target");
-        QTest::addColumn<int>("place");
-
-        QTest::newRow("same distance before and after") << Milliseconds{0, 10'000} << 5'000 << 0;
-        QTest::newRow("the same, later one first") << Milliseconds{10'000, 0} << 5'000 << 0;
-        QTest::newRow("half a second nearer after") << Milliseconds{0, 10'000} << 5'500 << 1;
-        QTest::newRow("nearer after by less than counts") << Milliseconds{0, 10'600} << 5'400 << 0;
-        QTest::newRow("fraction against second") << Milliseconds{400, 1'000} << 0 << 0;
-        QTest::newRow("fractions on both sides") << Milliseconds{0, 1'000} << 600 << 0;
-        QTest::newRow("both sides, later one first") << Milliseconds{1'000, 0} << 600 << 0;
-        QTest::newRow("dropped fraction far away") << Milliseconds{5'700, -5'000} << 0 << 0;
-        QTest::newRow("exact hit loses to order") << Milliseconds{999, 0} << 0 << 0;
-        QTest::newRow("exact hit wins by a second") << Milliseconds{1'000, 0} << 0 << 1;
-        QTest::newRow("first inside a busy second")
-            << Milliseconds{-5'000, 2'900, 2'100, 2'500, 9'000} << 0 << 1;
-        QTest::newRow("equal times") << Milliseconds{7'000, 3'000, 3'000, 3'000} << 3'000 << 1;
-        QTest::newRow("before the log") << Milliseconds{0, 1'000, 2'000} << -day << 0;
-        QTest::newRow("days after the log") << Milliseconds{0, 1'000, 2'000} << 3 * day << 2;
-    }
-
-    void nearest() {
-        QFETCH(Milliseconds, points);
-        QFETCH(int, target);
-        QFETCH(int, place);
-        PointLibrary library;
-        for (int time : points) {
-            library.addPoint(start + std::chrono::milliseconds(time));
-        }
-        const auto arranged = library.context.fetch<track_part>();
-        const PointIndex index(arranged);
-        const auto found = std::find(arranged.begin(), arranged.end(),
-                                     index.nearest(start + std::chrono::milliseconds(target)));
-        QCOMPARE(found - arranged.begin(), place);
-    }
-
     void pointsThatCannotBeFound() {
         PointLibrary library;
         library.addPoint({});

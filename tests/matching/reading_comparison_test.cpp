@@ -1,6 +1,5 @@
 #include "matching/reading_comparison.h"
-
-#include <QTest>
+#include "rows.h"
 
 using namespace pinmora;
 using namespace std::chrono_literals;
@@ -24,12 +23,7 @@ class ReadingComparisonTest : public QObject {
 
 private Q_SLOTS:
     void countsPhotosNearPoints_data() {
-        QTest::addColumn<Milliseconds>("photos");
-        QTest::addColumn<Milliseconds>("points");
-        QTest::addColumn<std::size_t>("near");
-
-        const auto row = [](const char *name, Milliseconds photos, Milliseconds points,
-                            std::size_t near) { QTest::newRow(name) << photos << points << near; };
+        const auto row = test::rows<Milliseconds, Milliseconds, std::size_t>();
         row("nothing at all", {}, {}, 0);
         row("no points", {0}, {}, 0);
         row("no photos", {}, {0}, 0);
@@ -41,23 +35,21 @@ private Q_SLOTS:
     }
 
     void countsPhotosNearPoints() {
-        QFETCH(Milliseconds, photos);
-        QFETCH(Milliseconds, points);
-        QFETCH(std::size_t, near);
+        const auto [photos, points, near] = test::fetch<Milliseconds, Milliseconds, std::size_t>();
         const auto taken = instants(photos);
         const auto logged = instants(points);
         const ReadingComparison exact = compareReadings(taken, logged, {});
         QCOMPARE(exact.exact, near);
-        QCOMPARE(exact.tolerant, std::size_t(0));
+        QCOMPARE(exact.tolerant, 0U);
         const ReadingComparison tolerant = compareReadings(taken, {}, logged);
-        QCOMPARE(tolerant.exact, std::size_t(0));
+        QCOMPARE(tolerant.exact, 0U);
         QCOMPARE(tolerant.tolerant, near);
     }
 
     void theEndsOfTime() {
         const std::vector ends{Date::min(), Date::max()};
         const std::vector inner{Date::min() + 300s, Date::max() - 301s, Date{}};
-        QCOMPARE(compareReadings(inner, ends, {}).exact, std::size_t(1));
+        QCOMPARE(compareReadings(inner, ends, {}).exact, 1U);
     }
 
     void whenTheLogsAreWorthReadingAnew() {
