@@ -41,7 +41,7 @@ private Q_SLOTS:
         context.deleteObject(late);
         context.commitChanges();
         QVERIFY(array.selectedObjects().empty());
-        QCOMPARE(array.count(), std::size_t{0});
+        QCOMPARE(array.count(), 0U);
     }
 };
 
