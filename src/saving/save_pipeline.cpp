@@ -115,7 +115,8 @@ void SavePipeline::beginCopying() {
     const std::size_t count = order.photos.size();
     run_->worker = std::make_unique<SaveWorker>(parts_.saving, std::move(order), parts_.log,
                                                 [this](SaveEvent::Any &event) { take(event); });
-    progress_.begins(count);
+    progress_.begins(count); // draws, in which time a short run could end
+    run_->worker->start();
 }
 
 void SavePipeline::cancelSave() {

@@ -14,13 +14,15 @@ namespace pinmora {
 
 SaveWorker::SaveWorker(const Saving &saving, SaveOrder order, LogFile &log, Handler handler)
     : saving_(saving), order_(std::move(order)), log_(log), handler_(std::move(handler)),
-      receiver_(std::make_unique<QObject>()), thread_(QThread::create([this] { work(); })) {
-    thread_->start(QThread::HighPriority);
-}
+      receiver_(std::make_unique<QObject>()), thread_(QThread::create([this] { work(); })) {}
 
 SaveWorker::~SaveWorker() {
     stop();
     thread_->wait();
+}
+
+void SaveWorker::start() {
+    thread_->start(QThread::HighPriority);
 }
 
 void SaveWorker::work() {

@@ -53,15 +53,17 @@ public:
     /// Called by the event loop for each event; may not destroy the worker.
     using Handler = std::function<void(SaveEvent::Any &)>;
 
-    /// Begins. What goes wrong with photos is entered into the log at once. `saving` and `log` must
-    /// outlive it.
+    /// What goes wrong with photos is entered into the log at once. `saving` and `log` must outlive
+    /// it.
     SaveWorker(const Saving &saving, SaveOrder order, LogFile &log, Handler handler);
     /// Stops the run and waits for its end. What it has not told yet is not told any more.
     ~SaveWorker();
     SaveWorker(const SaveWorker &) = delete;
     SaveWorker &operator=(const SaveWorker &) = delete;
 
-    /// No further photo is begun; the run still tells of its end.
+    /// Begins, once.
+    void start();
+    /// No further photo is begun; a run that has begun still tells of its end.
     void stop() { stopped_ = true; }
 
 private:

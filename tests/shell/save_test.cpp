@@ -126,7 +126,7 @@ void SaveTest::isNotOverBeforeItsSheetIsDrawn() {
     fs::remove_all(desk.copies);
     const SavePipeline &pipeline = desk.parts().savePipeline;
     desk.listening.push_back(desk.outlets().saveWindow.displayed.connect(
-        [&] { QTest::qWaitFor([&] { return !pipeline.isRunning(); }, 200); }));
+        [&] { static_cast<void>(QTest::qWaitFor([&] { return !pipeline.isRunning(); }, 200)); }));
     desk.confirm();
     QVERIFY(pipeline.isRunning());
     QVERIFY(desk.ends());
