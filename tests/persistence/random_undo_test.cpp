@@ -1,8 +1,7 @@
 #include "persistence/forest.h"
 #include "persistence/undo_group.h"
 #include "persistence/undo_listener.h"
-
-#include <QtTest>
+#include "rows.h"
 
 #include <random>
 
@@ -107,65 +106,62 @@ class RandomUndoTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void anythingCanBeTakenBackAndDoneAgain_data();
-    void anythingCanBeTakenBackAndDoneAgain();
-};
-
-void RandomUndoTest::anythingCanBeTakenBackAndDoneAgain_data() {
-    QTest::addColumn<unsigned>("seed");
-    for (unsigned seed = 1; seed <= 30; ++seed) {
-        QTest::addRow("seed %u", seed) << seed;
-    }
-}
-
-/// The forest after each step is written down; undo and redo in any order lead to just those.
-void RandomUndoTest::anythingCanBeTakenBackAndDoneAgain() {
-    QFETCH(unsigned, seed);
-    Forest forest;
-    UndoManager undo(forest.context);
-    Gardener gardener(forest.context, seed);
-    Listener listener(undo);
-    std::vector<std::string> states{contentsOf(forest.context)};
-    std::size_t now = 0;
-    for (int action = 0; action < 400; ++action) {
-        if (gardener.chance(3) && now > 0) {
-            undo.undo();
-            --now;
-        } else if (gardener.chance(3) && now + 1 < states.size()) {
-            undo.redo();
-            ++now;
-        } else {
-            const int before = listener.histories;
-            {
-                const UndoGroup group(forest.context, "work");
-                do {
-                    gardener.work();
-                    if (gardener.chance(8)) {
-                        QCoreApplication::processEvents(); // a part ends
-                    }
-                } while (!gardener.chance(3));
-            }
-            if (listener.histories > before) {
-                states.resize(++now);
-                states.push_back(contentsOf(forest.context));
-            }
-            if (gardener.chance(10)) {
-                forest.context.commitChanges();
-            }
+    void anythingCanBeTakenBackAndDoneAgain_data() {
+        const auto row = rowsByValue<unsigned>();
+        for (unsigned seed = 1; seed <= 30; ++seed) {
+            row(seed);
         }
-        QCOMPARE(contentsOf(forest.context), states[now]);
-        QCOMPARE(undo.canUndo(), now > 0);
-        QCOMPARE(undo.canRedo(), now + 1 < states.size());
     }
-    for (; now > 0; --now) {
-        undo.undo();
-        QCOMPARE(contentsOf(forest.context), states[now - 1]);
+
+    /// The forest after each step is written down; undo and redo in any order lead to just those.
+    void anythingCanBeTakenBackAndDoneAgain() {
+        const auto [seed] = fetch<unsigned>();
+        Forest forest;
+        UndoManager undo(forest.context);
+        Gardener gardener(forest.context, seed);
+        Listener listener(undo);
+        std::vector<std::string> states{contentsOf(forest.context)};
+        std::size_t now = 0;
+        for (int action = 0; action < 400; ++action) {
+            if (gardener.chance(3) && now > 0) {
+                undo.undo();
+                --now;
+            } else if (gardener.chance(3) && now + 1 < states.size()) {
+                undo.redo();
+                ++now;
+            } else {
+                const int before = listener.histories;
+                {
+                    const UndoGroup group(forest.context, "work");
+                    do {
+                        gardener.work();
+                        if (gardener.chance(8)) {
+                            QCoreApplication::processEvents(); // a part ends
+                        }
+                    } while (!gardener.chance(3));
+                }
+                if (listener.histories > before) {
+                    states.resize(++now);
+                    states.push_back(contentsOf(forest.context));
+                }
+                if (gardener.chance(10)) {
+                    forest.context.commitChanges();
+                }
+            }
+            QCOMPARE(contentsOf(forest.context), states[now]);
+            QCOMPARE(undo.canUndo(), now > 0);
+            QCOMPARE(undo.canRedo(), now + 1 < states.size());
+        }
+        for (; now > 0; --now) {
+            undo.undo();
+            QCOMPARE(contentsOf(forest.context), states[now - 1]);
+        }
+        for (; now + 1 < states.size(); ++now) {
+            undo.redo();
+            QCOMPARE(contentsOf(forest.context), states[now + 1]);
+        }
     }
-    for (; now + 1 < states.size(); ++now) {
-        undo.redo();
-        QCOMPARE(contentsOf(forest.context), states[now + 1]);
-    }
-}
+};
 
 QTEST_GUILESS_MAIN(RandomUndoTest)
 #include "random_undo_test.moc"

@@ -1,36 +1,39 @@
 #pragma once
 
+#include "files.h"
 #include "persistence/context.h"
+#include "persistence/xml_store.h"
+#include "platform/notification_centre.h"
 #include "store/image.h"
+#include "store/library_model.h"
 #include "store/offset.h"
 #include "store/track.h"
 #include "store/track_part.h"
 #include "store/track_part_best.h"
 
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <string>
+#include <QTemporaryDir>
+
+#include <optional>
 
 /// What the tests of store files have in common.
 namespace pinmora::test {
 
 namespace fs = std::filesystem;
 
-inline std::string contents(const fs::path &file) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(file, std::ios::binary).rdbuf();
-    return bytes.str();
-}
+/// A place for a store file, and what reads it.
+struct StoreDesk {
+    NotificationCentre notifications;
+    const LibraryModel model{notifications};
+    std::optional<QTemporaryDir> room;
+    fs::path path;
 
-inline void put(const fs::path &file, std::string_view bytes) {
-    fs::remove(file); // a file cut and written anew is brought to the disk when it is closed
-    std::ofstream(file, std::ios::binary) << bytes;
-}
-
-inline std::size_t entries(const fs::path &folder) {
-    return static_cast<std::size_t>(std::distance(fs::directory_iterator{folder}, {}));
-}
+    void makeRoom() { path = fs::path(room.emplace().path().toStdString()) / "Pinmora.xml"; }
+    /// Reads the file; what it says against it, "" for nothing.
+    std::string read(Context &context) const {
+        const auto error = XmlStore(path).read(context);
+        return error ? error->message() : "";
+    }
+};
 
 inline std::size_t recordsIn(const Context &context) {
     std::size_t count = 0;

@@ -1,9 +1,7 @@
 #include "persistence/same_records.h"
 #include "persistence/store_files.h"
-#include "persistence/xml_store.h"
-#include "store/library_model.h"
+#include "platform/told_files.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <csignal>
@@ -87,225 +85,167 @@ private:
     std::mt19937 random_;
 };
 
-/// The real file system until a call in its order, at which the process is killed.
-class DeadlyFileSystem : public FileSystem {
-public:
-    explicit DeadlyFileSystem(int calls) : calls_(calls) {}
+using Call = ToldFiles::Call;
 
-    std::error_code createNew(const fs::path &path, mode_t mode, FileDescriptor &file) override {
-        step();
-        return FileSystem::createNew(path, mode, file);
-    }
-    std::error_code write(int file, std::string_view bytes, std::size_t &written) override {
-        step();
-        return FileSystem::write(file, bytes.substr(0, 100), written);
-    }
-    std::error_code sync(int file) override {
-        step();
-        return FileSystem::sync(file);
-    }
-    std::error_code close(FileDescriptor &file) override {
-        step();
-        return FileSystem::close(file);
-    }
-    std::error_code rename(const fs::path &from, const fs::path &to) override {
-        step();
-        return FileSystem::rename(from, to);
-    }
-    std::error_code syncFolder(const fs::path &folder) override {
-        step();
-        return FileSystem::syncFolder(folder);
-    }
-
-private:
-    void step() {
-        if (calls_-- == 0) {
-            ::raise(SIGKILL);
-        }
-    }
-    int calls_;
-};
-
-class FullDisk : public FileSystem {
-    std::error_code write(int, std::string_view, std::size_t &) override {
-        return std::make_error_code(std::errc::no_space_on_device);
-    }
-};
-
-class UnsyncedFolder : public FileSystem {
-    std::error_code syncFolder(const fs::path &) override {
-        return std::make_error_code(std::errc::io_error);
-    }
-};
+ToldFiles::Answer failure(std::errc code) {
+    return std::make_error_code(code);
+}
 
 } // namespace
 
-class XmlStoreTest : public QObject {
+class XmlStoreTest : public QObject, StoreDesk {
     Q_OBJECT
 
-    NotificationCentre notifications;
-    const LibraryModel model{notifications};
-    std::unique_ptr<QTemporaryDir> room;
-    fs::path path;
-
-    /// Reads the file; what it says against it, "" for nothing.
-    std::string read(Context &context) {
-        XmlStore store(path);
-        const auto error = store.read(context);
-        return error ? error->message() : "";
-    }
-
 private Q_SLOTS:
-    void init() {
-        room = std::make_unique<QTemporaryDir>();
-        path = fs::path(room->path().toStdString()) / "Pinmora.xml";
-    }
+    void init() { makeRoom(); }
 
-    void nothingIsAnEmptyLibrary();
-    void everythingComesBack();
-    void randomLibrariesComeBack();
-    void veryLongTextsComeBack();
-    void linksMayLeadAhead();
-    void failedWriteChangesNothing();
-    void folderThatCannotBeSynced();
-    void killedWritesLeaveOneLibrary();
-    void statesAreNeverTheSame();
-};
-
-void XmlStoreTest::nothingIsAnEmptyLibrary() {
-    for (const bool exists : {false, true}) {
-        if (exists) {
-            put(path, "");
+    void nothingIsAnEmptyLibrary() {
+        for (const bool exists : {false, true}) {
+            if (exists) {
+                put(path, "");
+            }
+            Context context(model);
+            XmlStore store(path);
+            QVERIFY(!store.read(context));
+            QCOMPARE(store.state(), emptyStoreState);
+            QCOMPARE(recordsIn(context), 0U);
+            QCOMPARE(fs::exists(path), exists);
         }
-        Context context(model);
-        XmlStore store(path);
-        QVERIFY(!store.read(context));
-        QCOMPARE(store.state(), emptyStoreState);
-        QCOMPARE(recordsIn(context), 0U);
-        QCOMPARE(fs::exists(path), exists);
     }
-}
 
-void XmlStoreTest::everythingComesBack() {
-    Context context(model);
-    fill(context);
-    XmlStore store(path);
-    QVERIFY(!store.write(context, "a1"));
-    QCOMPARE(store.state(), "a1");
-
-    Context again(model);
-    XmlStore reader(path);
-    QVERIFY(!reader.read(again));
-    QCOMPARE(reader.state(), "a1");
-    QCOMPARE(difference(context, again), "");
-    QCOMPARE(again.nextSerial(), context.nextSerial());
-    QVERIFY(!again.hasChanges());
-    QCOMPARE(again.fetch("degrees").size(), 0U); // is not stored
-    const auto tracks = again.fetch<track>();
-    QCOMPARE(tracks.at(0)->points().size(), 3U);
-    QCOMPARE(tracks.at(1)->points().size(), 1U);
-    QVERIFY(!again.fetch<image>().at(0)->getHasChanges()); // no setter has run
-}
-
-void XmlStoreTest::randomLibrariesComeBack() {
-    for (unsigned seed = 0; seed < 40; ++seed) {
+    void everythingComesBack() {
         Context context(model);
-        RandomLibrary(seed).fill(context);
+        fill(context);
+        XmlStore store(path);
+        QVERIFY(!store.write(context, "a1"));
+        QCOMPARE(store.state(), "a1");
+
+        Context again(model);
+        XmlStore reader(path);
+        QVERIFY(!reader.read(again));
+        QCOMPARE(reader.state(), "a1");
+        QCOMPARE(difference(context, again), "");
+        QCOMPARE(again.nextSerial(), context.nextSerial());
+        QVERIFY(!again.hasChanges());
+        QCOMPARE(again.fetch("degrees").size(), 0U); // is not stored
+        const auto tracks = again.fetch<track>();
+        QCOMPARE(tracks.at(0)->points().size(), 3U);
+        QCOMPARE(tracks.at(1)->points().size(), 1U);
+        QVERIFY(!again.fetch<image>().at(0)->getHasChanges()); // no setter has run
+    }
+
+    void randomLibrariesComeBack() {
+        for (unsigned seed = 0; seed < 40; ++seed) {
+            Context context(model);
+            RandomLibrary(seed).fill(context);
+            QVERIFY(!XmlStore(path).write(context, "a1"));
+            const std::string written = contents(path);
+            Context again(model);
+            QCOMPARE(read(again), "");
+            QCOMPARE(difference(context, again), "");
+            QVERIFY(!XmlStore(path).write(again, "a1"));
+            QVERIFY(contents(path) == written);
+        }
+    }
+
+    void veryLongTextsComeBack() {
+        Context context(model);
+        context.insert<image>().setComments(std::string(500'000, '&') +
+                                            std::string(3'000'000, 'x'));
+        context.insert<image>().setComments(std::string(500'000, '\x01'));
         QVERIFY(!XmlStore(path).write(context, "a1"));
-        const std::string written = contents(path);
         Context again(model);
         QCOMPARE(read(again), "");
         QCOMPARE(difference(context, again), "");
-        QVERIFY(!XmlStore(path).write(again, "a1"));
-        QVERIFY(contents(path) == written);
     }
-}
 
-void XmlStoreTest::veryLongTextsComeBack() {
-    Context context(model);
-    context.insert<image>().setComments(std::string(500'000, '&') + std::string(3'000'000, 'x'));
-    context.insert<image>().setComments(std::string(500'000, '\x01'));
-    QVERIFY(!XmlStore(path).write(context, "a1"));
-    Context again(model);
-    QCOMPARE(read(again), "");
-    QCOMPARE(difference(context, again), "");
-}
-
-void XmlStoreTest::linksMayLeadAhead() {
-    put(path, R"(<pinmora-library version="1" state="a1" next="20" records="4">)"
-              R"(<track_part track="7"/><track_part_best id="5" track="9"/>)"
-              R"(<track id="7"/><track id="9"/></pinmora-library>)");
-    Context context(model);
-    QCOMPARE(read(context), "");
-    const auto tracks = context.fetch<track>();
-    QCOMPARE(context.fetch<track_part>().at(0)->track(), tracks.at(0));
-    QCOMPARE(tracks.at(0)->points().size(), 1U);
-    QCOMPARE(context.fetch<track_part_best>().at(0)->track(), tracks.at(1));
-    QCOMPARE(context.insert<track>().serial(), 20U);
-}
-
-void XmlStoreTest::failedWriteChangesNothing() {
-    Context context(model);
-    fill(context);
-    QVERIFY(!XmlStore(path).write(context, "a1"));
-    const std::string before = contents(path);
-    FullDisk disk;
-    XmlStore store(path, disk);
-    Context again(model);
-    QVERIFY(!store.read(again));
-    again.deleteObject(*again.fetch<track>().at(0));
-    const auto error = store.write(again, "a2");
-    QCOMPARE(error.value().code, std::errc::no_space_on_device);
-    QCOMPARE(error.value().message(), path.string() + ": No space left on device.");
-    QCOMPARE(store.state(), "a1");
-    QVERIFY(contents(path) == before);
-    QCOMPARE(entries(path.parent_path()), 1U);
-}
-
-void XmlStoreTest::folderThatCannotBeSynced() {
-    Context context(model);
-    UnsyncedFolder disk;
-    XmlStore store(path, disk);
-    QVERIFY(store.write(context, "a2"));
-    QCOMPARE(store.state(), "a2");
-}
-
-/// At each call of a save in turn, the process is gone.
-void XmlStoreTest::killedWritesLeaveOneLibrary() {
-    Context old(model);
-    fill(old);
-    Context changed(model);
-    fill(changed);
-    changed.deleteObject(*changed.fetch<track>().at(0));
-    bool sawOld = false;
-    bool sawNew = false;
-    for (int calls = 0, ended = 0; ended == 0; ++calls) {
-        QVERIFY(!XmlStore(path).write(old, "a1"));
-        QCOMPARE(entries(path.parent_path()), 1U); // what the kill before has left is gone
-        const pid_t writer = ::fork();
-        if (writer == 0) {
-            DeadlyFileSystem files(calls);
-            ::_exit(XmlStore(path, files).write(changed, "a2") ? 1 : 0);
-        }
-        int status = 0;
-        QCOMPARE(::waitpid(writer, &status, 0), writer);
-        ended = WIFEXITED(status) ? 1 : 0;
+    void linksMayLeadAhead() {
+        put(path, R"(<pinmora-library version="1" state="a1" next="20" records="4">)"
+                  R"(<track_part track="7"/><track_part_best id="5" track="9"/>)"
+                  R"(<track id="7"/><track id="9"/></pinmora-library>)");
         Context context(model);
-        XmlStore store(path);
-        QVERIFY(!store.read(context));
-        sawOld = sawOld || store.state() == "a1";
-        sawNew = sawNew || store.state() == "a2";
-        QCOMPARE(difference(context, store.state() == "a1" ? old : changed), "");
+        QCOMPARE(read(context), "");
+        const auto tracks = context.fetch<track>();
+        QCOMPARE(context.fetch<track_part>().at(0)->track(), tracks.at(0));
+        QCOMPARE(tracks.at(0)->points().size(), 1U);
+        QCOMPARE(context.fetch<track_part_best>().at(0)->track(), tracks.at(1));
+        QCOMPARE(context.insert<track>().serial(), 20U);
     }
-    QVERIFY(sawOld && sawNew);
-}
 
-void XmlStoreTest::statesAreNeverTheSame() {
-    const std::string state = makeStoreState();
-    QCOMPARE(state.size(), 32U);
-    QCOMPARE(state.find_first_not_of("0123456789abcdef"), std::string::npos);
-    QVERIFY(state != makeStoreState());
-}
+    void failedWriteChangesNothing() {
+        Context context(model);
+        fill(context);
+        QVERIFY(!XmlStore(path).write(context, "a1"));
+        const std::string before = contents(path);
+        ToldFiles disk([](Call call) {
+            return call == Call::Write ? failure(std::errc::no_space_on_device) : std::nullopt;
+        });
+        XmlStore store(path, disk);
+        Context again(model);
+        QVERIFY(!store.read(again));
+        again.deleteObject(*again.fetch<track>().at(0));
+        const auto error = store.write(again, "a2");
+        QCOMPARE(error.value().code, std::errc::no_space_on_device);
+        QCOMPARE(error.value().message(), path.string() + ": No space left on device.");
+        QCOMPARE(store.state(), "a1");
+        QVERIFY(contents(path) == before);
+        QCOMPARE(entries(path.parent_path()), 1U);
+    }
+
+    void folderThatCannotBeSynced() {
+        Context context(model);
+        ToldFiles disk([](Call call) {
+            return call == Call::SyncFolder ? failure(std::errc::io_error) : std::nullopt;
+        });
+        XmlStore store(path, disk);
+        QVERIFY(store.write(context, "a2"));
+        QCOMPARE(store.state(), "a2");
+    }
+
+    /// At each call of a save in turn, the process is gone.
+    void killedWritesLeaveOneLibrary() {
+        Context old(model);
+        fill(old);
+        Context changed(model);
+        fill(changed);
+        changed.deleteObject(*changed.fetch<track>().at(0));
+        bool sawOld = false;
+        bool sawNew = false;
+        for (int calls = 0, ended = 0; ended == 0; ++calls) {
+            QVERIFY(!XmlStore(path).write(old, "a1"));
+            QCOMPARE(entries(path.parent_path()), 1U); // what the kill before has left is gone
+            const pid_t writer = ::fork();
+            if (writer == 0) {
+                int left = calls;
+                ToldFiles files([&](Call) -> ToldFiles::Answer {
+                    if (left-- == 0) {
+                        ::raise(SIGKILL);
+                    }
+                    return std::nullopt;
+                });
+                files.mostAtOnce = 100;
+                ::_exit(XmlStore(path, files).write(changed, "a2") ? 1 : 0);
+            }
+            int status = 0;
+            QCOMPARE(::waitpid(writer, &status, 0), writer);
+            ended = WIFEXITED(status) ? 1 : 0;
+            Context context(model);
+            XmlStore store(path);
+            QVERIFY(!store.read(context));
+            sawOld = sawOld || store.state() == "a1";
+            sawNew = sawNew || store.state() == "a2";
+            QCOMPARE(difference(context, store.state() == "a1" ? old : changed), "");
+        }
+        QVERIFY(sawOld && sawNew);
+    }
+
+    void statesAreNeverTheSame() {
+        const std::string state = makeStoreState();
+        QCOMPARE(state.size(), 32U);
+        QCOMPARE(state.find_first_not_of("0123456789abcdef"), std::string::npos);
+        QVERIFY(state != makeStoreState());
+    }
+};
 
 QTEST_APPLESS_MAIN(XmlStoreTest)
 #include "xml_store_test.moc"
