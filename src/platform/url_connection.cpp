@@ -71,7 +71,7 @@ void UrlConnection::respond() {
 
 void UrlConnection::receive() {
     if (!reply_) {
-        return; // it is being cancelled
+        return; // it has been cancelled
     }
     patience_.start();
     respond();

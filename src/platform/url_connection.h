@@ -54,6 +54,7 @@ public:
 
     /// Nothing is heard any more.
     void cancel();
+    bool isUnderWay() const { return reply_ != nullptr; }
 
 private:
     UrlConnection(const QUrl &url, const UrlRequest &request, UrlConnectionDelegate &delegate);

@@ -14,6 +14,11 @@ namespace {
 constexpr std::string_view dateKey = "versionCheckDate";
 constexpr std::chrono::hours betweenChecks{24};
 
+/// In the unit of dates: nanoseconds end in the year 2262.
+Date now() {
+    return std::chrono::floor<Date::duration>(std::chrono::system_clock::now());
+}
+
 } // namespace
 
 updateTest::updateTest(Defaults &defaults, std::string bundleVersion,
@@ -67,8 +72,7 @@ void updateTest::newVersion(const ProgDict &description) {
         return;
     }
     if (isDue()) {
-        const Date now = std::chrono::floor<Date::duration>(std::chrono::system_clock::now());
-        defaults_.setText(dateKey, checkDateText(now + betweenChecks));
+        defaults_.setText(dateKey, checkDateText(now() + betweenChecks));
         defaults_.synchronize();
         newVersionCheck();
     } else if (menuCheck_) {
@@ -78,7 +82,7 @@ void updateTest::newVersion(const ProgDict &description) {
 
 bool updateTest::isDue() const {
     const auto date = checkDateFrom(defaults_.text(dateKey).value_or(""));
-    return !date || *date < std::chrono::system_clock::now();
+    return !date || *date < now();
 }
 
 void updateTest::newVersionCheck() {

@@ -43,6 +43,8 @@ public:
     /// The save panel has been answered.
     void savePanelDidEnd(SavePanel &panel, int returnCode);
     void closeBut();
+    /// Whether a request is under way, also one that nobody sees.
+    bool isChecking() const { return theConnection_ && theConnection_->isUnderWay(); }
 
     Window theWindow;
     TextField theMessage;

@@ -25,6 +25,8 @@ public:
     /// is replaced, and stays as it is if anything fails.
     void getNewVersion(const ProgDict &description, const std::string &path);
 
+    bool isUnderWay() const { return theConnection_ && theConnection_->isUnderWay(); }
+
     Window &theWindow;
     Sheet theDownloadWindow;
     TextField theStateMessage;
