@@ -1,6 +1,5 @@
 #include "platform/application_support.h"
-
-#include <QTest>
+#include "rows.h"
 
 using namespace pinmora;
 
@@ -9,13 +8,7 @@ class ApplicationSupportTest : public QObject {
 
 private Q_SLOTS:
     void base_data() {
-        QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<QByteArray>("home");
-        QTest::addColumn<std::string>("expected");
-        const auto row = [](const char *data, const char *home, const char *expected) {
-            QTest::addRow("\"%s\", \"%s\"", data, home)
-                << QByteArray(data) << QByteArray(home) << std::string(expected);
-        };
+        const auto row = test::rowsByValue<QByteArray, QByteArray, std::string>();
         row("/data", "/home/a", "/data");
         row("", "/home/a", "/home/a/.local/share");
         row("data", "/home/a", "/home/a/.local/share"); // relative ones do not count
@@ -25,9 +18,7 @@ private Q_SLOTS:
     }
 
     void base() {
-        QFETCH(QByteArray, data);
-        QFETCH(QByteArray, home);
-        QFETCH(std::string, expected);
+        const auto [data, home, expected] = test::fetch<QByteArray, QByteArray, std::string>();
         qputenv("TMPDIR", "/temporary");
         qputenv("XDG_DATA_HOME", data);
         qputenv("HOME", home);

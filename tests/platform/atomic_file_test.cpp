@@ -1,29 +1,19 @@
+#include "files.h"
 #include "platform/atomic_file.h"
+#include "platform/told_files.h"
+#include "rows.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
-#include <fstream>
-#include <limits>
-#include <sstream>
 #include <sys/stat.h>
 
 using namespace pinmora;
+using namespace pinmora::test;
 namespace fs = std::filesystem;
 
 namespace {
 
 constexpr std::size_t megabyte = std::size_t{1} << 20U;
-
-std::string contents(const fs::path &file) {
-    std::ostringstream bytes;
-    bytes << std::ifstream(file, std::ios::binary).rdbuf();
-    return bytes.str();
-}
-
-void put(const fs::path &file, std::string_view bytes) {
-    std::ofstream(file, std::ios::binary) << bytes;
-}
 
 std::string madeBytes(std::size_t size) {
     std::string bytes;
@@ -42,28 +32,26 @@ std::vector<std::string> names(const fs::path &folder) {
     return found;
 }
 
-enum class Step { None, Create, SetMode, Write, Sync, Close, Rename, SyncFolder };
+using Call = ToldFiles::Call;
 
-/// The real file system, but for one step that fails, and limits on what a write can do.
-class TroubledFileSystem : public FileSystem {
+/// Has one call fail, and sets limits on what a write can do.
+class TroubledFiles : public ToldFiles {
 public:
-    Step fails = Step::None;
-    std::size_t room = std::numeric_limits<std::size_t>::max();       ///< bytes that can be written
-    std::size_t mostAtOnce = std::numeric_limits<std::size_t>::max(); ///< by one call
+    std::optional<Call> fails;
+    std::size_t room = std::numeric_limits<std::size_t>::max(); ///< bytes that can be written
     int takenNames = 0;           ///< how many temporary names are taken
     std::uint64_t givenEarly = 0; ///< bytes that the disk was given to work on before the sync
 
+    TroubledFiles()
+        : ToldFiles([this](Call call) -> Answer {
+              if (call == Call::CreateNew && takenNames-- > 0) {
+                  return std::make_error_code(std::errc::file_exists);
+              }
+              return call == fails ? Answer(trouble()) : std::nullopt;
+          }) {}
+
     static std::error_code trouble() { return std::make_error_code(std::errc::io_error); }
 
-    std::error_code createNew(const fs::path &path, mode_t mode, FileDescriptor &file) override {
-        if (takenNames-- > 0) {
-            return std::make_error_code(std::errc::file_exists);
-        }
-        return at(Step::Create, [&] { return FileSystem::createNew(path, mode, file); });
-    }
-    std::error_code setMode(int file, mode_t mode) override {
-        return at(Step::SetMode, [&] { return FileSystem::setMode(file, mode); });
-    }
     std::error_code write(int file, std::string_view bytes, std::size_t &written) override {
         bytes = bytes.substr(0, std::min(room, mostAtOnce));
         if (bytes.empty()) {
@@ -77,29 +65,9 @@ public:
         QCOMPARE(offset, givenEarly);
         givenEarly += length;
     }
-    std::error_code sync(int file) override {
-        return at(Step::Sync, [&] { return FileSystem::sync(file); });
-    }
-    std::error_code close(FileDescriptor &file) override {
-        return at(Step::Close, [&] { return FileSystem::close(file); });
-    }
-    std::error_code rename(const fs::path &from, const fs::path &to) override {
-        return at(Step::Rename, [&] { return FileSystem::rename(from, to); });
-    }
-    std::error_code syncFolder(const fs::path &folder) override {
-        return at(Step::SyncFolder, [&] { return FileSystem::syncFolder(folder); });
-    }
-
-private:
-    template <class Call>
-    std::error_code at(Step step, Call call) {
-        return step == fails ? trouble() : call();
-    }
 };
 
 } // namespace
-
-Q_DECLARE_METATYPE(Step)
 
 class AtomicFileTest : public QObject {
     Q_OBJECT
@@ -116,21 +84,19 @@ private Q_SLOTS:
     }
 
     void bytesArrive_data() {
-        QTest::addColumn<std::size_t>("size");
-        QTest::addColumn<std::size_t>("piece");
+        const auto row = rowsByValue<std::size_t, std::size_t>();
         for (const std::size_t size : {std::size_t{0}, std::size_t{1}, megabyte - 1, megabyte,
                                        megabyte + 1, 13 * megabyte + 7}) {
             for (const std::size_t piece : {std::size_t{60001}, 2 * megabyte + 1}) {
-                QTest::addRow("%zu by %zu", size, piece) << size << piece;
+                row(size, piece);
             }
         }
     }
 
     void bytesArrive() {
-        QFETCH(std::size_t, size);
-        QFETCH(std::size_t, piece);
+        const auto [size, piece] = fetch<std::size_t, std::size_t>();
         const std::string bytes = madeBytes(size);
-        TroubledFileSystem files;
+        TroubledFiles files;
         AtomicFile file(files);
         QCOMPARE(file.open(target_), std::error_code{});
         for (std::string_view rest = bytes; !rest.empty();
@@ -146,54 +112,52 @@ private Q_SLOTS:
 
     void shortWritesAreContinued() {
         const std::string bytes = madeBytes(30000);
-        TroubledFileSystem files;
+        TroubledFiles files;
         files.mostAtOnce = 7;
         QCOMPARE(writeAtomically(target_, bytes, files), std::error_code{});
         QVERIFY(contents(target_) == bytes);
     }
 
     void failureLeavesTheOldFile_data() {
-        QTest::addColumn<Step>("step");
-        QTest::addColumn<std::size_t>("room");
+        const auto row = rows<Call, std::size_t>();
         const std::size_t all = 10 * megabyte;
-        QTest::newRow("open") << Step::Create << all;
-        QTest::newRow("permissions") << Step::SetMode << all;
+        row("open", Call::CreateNew, all);
+        row("permissions", Call::SetMode, all);
         for (const std::size_t room :
              {std::size_t{0}, std::size_t{1}, megabyte, 2 * megabyte + 5, 3 * megabyte - 1}) {
-            QTest::addRow("write %zu bytes", room) << Step::Write << room;
+            row("write " + std::to_string(room), Call::Write, room);
         }
-        QTest::newRow("sync") << Step::Sync << all;
-        QTest::newRow("close") << Step::Close << all;
-        QTest::newRow("rename") << Step::Rename << all;
+        row("sync", Call::Sync, all);
+        row("close", Call::Close, all);
+        row("rename", Call::Rename, all);
     }
 
     void failureLeavesTheOldFile() {
-        QFETCH(Step, step);
-        QFETCH(std::size_t, room);
-        TroubledFileSystem files;
+        const auto [step, room] = fetch<Call, std::size_t>();
+        TroubledFiles files;
         files.fails = step;
         files.room = room;
         for (const char *old : {"the old content", static_cast<const char *>(nullptr)}) {
             fs::remove(target_);
             if (old) {
                 put(target_, old);
-            } else if (step == Step::SetMode) {
+            } else if (step == Call::SetMode) {
                 continue; // a new file has the usual ones
             }
             {
                 AtomicFile file(files);
                 const auto opened = file.open(target_);
-                QCOMPARE(opened == TroubledFileSystem::trouble(),
-                         step == Step::Create || step == Step::SetMode);
+                QCOMPARE(opened == TroubledFiles::trouble(),
+                         step == Call::CreateNew || step == Call::SetMode);
                 file.write(madeBytes(3 * megabyte));
-                QCOMPARE(file.commit(), TroubledFileSystem::trouble());
+                QCOMPARE(file.commit(), TroubledFiles::trouble());
                 QVERIFY(!file.isInPlace());
                 QVERIFY(names(folder_).size() == (old ? 1U : 0U));
                 // It stays a failure, whatever is tried next.
-                files.fails = Step::None;
+                files.fails = std::nullopt;
                 files.room = 10 * megabyte;
-                QCOMPARE(file.write("more"), TroubledFileSystem::trouble());
-                QCOMPARE(file.commit(), TroubledFileSystem::trouble());
+                QCOMPARE(file.write("more"), TroubledFiles::trouble());
+                QCOMPARE(file.commit(), TroubledFiles::trouble());
                 files.fails = step;
                 files.room = room;
             }
@@ -204,12 +168,12 @@ private Q_SLOTS:
 
     void folderThatCannotBeSynced() {
         put(target_, "old");
-        TroubledFileSystem files;
-        files.fails = Step::SyncFolder;
+        TroubledFiles files;
+        files.fails = Call::SyncFolder;
         AtomicFile file(files);
         QCOMPARE(file.open(target_), std::error_code{});
         file.write("new");
-        QCOMPARE(file.commit(), TroubledFileSystem::trouble());
+        QCOMPARE(file.commit(), TroubledFiles::trouble());
         QVERIFY(file.isInPlace());
         QCOMPARE(contents(target_), "new");
         QCOMPARE(names(folder_).size(), 1U);
@@ -224,9 +188,7 @@ private Q_SLOTS:
             QCOMPARE(contents(target_), "old");
             const auto present = names(folder_);
             QCOMPARE(present.size(), 2U);
-            const std::string temporary = std::max(present[0], present[1]) == "Pinmora.xml"
-                                              ? std::min(present[0], present[1])
-                                              : "";
+            const std::string temporary = std::min(present[0], present[1]);
             QVERIFY(temporary.starts_with(".Pinmora.xml."));
             QCOMPARE(temporary.size(), std::string(".Pinmora.xml.123456").size());
         }
@@ -252,7 +214,7 @@ private Q_SLOTS:
     }
 
     void takenNamesArePassedOver() {
-        TroubledFileSystem files;
+        TroubledFiles files;
         files.takenNames = 5;
         QCOMPARE(writeAtomically(target_, "new", files), std::error_code{});
         QCOMPARE(contents(target_), "new");
@@ -270,13 +232,13 @@ private Q_SLOTS:
     }
 
     void linksStay_data() {
-        QTest::addColumn<bool>("dangling");
-        QTest::newRow("to a file") << false;
-        QTest::newRow("to nothing") << true;
+        const auto row = rows<bool>();
+        row("to a file", false);
+        row("to nothing", true);
     }
 
     void linksStay() {
-        QFETCH(bool, dangling);
+        const auto [dangling] = fetch<bool>();
         const fs::path elsewhere = folder_ / "elsewhere";
         fs::create_directory(elsewhere);
         if (!dangling) {

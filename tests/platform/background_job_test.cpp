@@ -7,8 +7,6 @@
 #include <atomic>
 #include <cstdlib>
 #include <future>
-#include <memory>
-#include <optional>
 
 using namespace pinmora;
 

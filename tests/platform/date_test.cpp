@@ -1,7 +1,7 @@
 #include "platform/date.h"
+#include "rows.h"
 
 #include <QLocale>
-#include <QTest>
 
 #include <ctime>
 #include <random>
@@ -46,9 +46,8 @@ std::optional<sys_seconds> plainInstantOf(WallClock wallClock) {
     return earliest;
 }
 
-QString universal(Date date) {
-    const WallClock asWall{std::chrono::floor<seconds>(date.time_since_epoch())};
-    return QString::fromStdString(textFromWallClock(asWall, iso));
+std::string universal(Date date) {
+    return textFromWallClock(WallClock{std::chrono::floor<seconds>(date.time_since_epoch())}, iso);
 }
 
 } // namespace
@@ -58,15 +57,10 @@ class DateTest : public QObject {
 
 private Q_SLOTS:
     void strictReading_data() {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("format");
-        QTest::addColumn<qint64>("expected"); // seconds since 1970 on the wall; -1 for nothing
+        // expected: seconds since 1970 on the wall; -1 for nothing
+        const auto row = test::rows<QByteArray, QByteArray, qint64>();
         const QByteArray exif = "%Y:%m:%d %H:%M:%S";
         const QByteArray gpx = "%Y-%m-%dT%H:%M:%SZ";
-        const auto row = [](const char *name, const char *text, const QByteArray &format,
-                            qint64 expected) {
-            QTest::newRow(name) << QByteArray{text} << format << expected;
-        };
         row("exif", "2008:05:12 14:05:09", exif, 1210601109);
         row("gpx", "2008-05-12T14:05:09Z", gpx, 1210601109);
         row("leap day", "2008:02:29 00:00:00", exif, 1204243200);
@@ -93,9 +87,7 @@ private Q_SLOTS:
     }
 
     void strictReading() {
-        QFETCH(QByteArray, text);
-        QFETCH(QByteArray, format);
-        QFETCH(qint64, expected);
+        const auto [text, format, expected] = test::fetch<QByteArray, QByteArray, qint64>();
         const auto read = wallClockFromText(text.toStdString(), format.toStdString());
         QCOMPARE(read ? read->time_since_epoch().count() : -1, expected);
     }
@@ -120,14 +112,8 @@ private Q_SLOTS:
     }
 
     void zones_data() {
-        QTest::addColumn<QByteArray>("zone");
-        QTest::addColumn<QByteArray>("wallClock");
-        QTest::addColumn<QString>("expected"); // universal time
-        const auto row = [](const char *name, const char *zone, const char *wallClock,
-                            const char *expected) {
-            QTest::newRow(name) << QByteArray{zone} << QByteArray{wallClock}
-                                << QString::fromLatin1(expected);
-        };
+        // expected: universal time
+        const auto row = test::rows<QByteArray, std::string, std::string>();
         row("winter", centralEurope, "2021-01-15 12:00:00", "2021-01-15 11:00:00");
         row("summer", centralEurope, "2021-07-15 12:00:00", "2021-07-15 10:00:00");
         row("last before the gap", centralEurope, "2021-03-28 01:59:59", "2021-03-28 00:59:59");
@@ -148,14 +134,14 @@ private Q_SLOTS:
     }
 
     void zones() {
-        QFETCH(QByteArray, zone);
-        QFETCH(QByteArray, wallClock);
+        const auto [zone, wallClock, expected] =
+            test::fetch<QByteArray, std::string, std::string>();
         setZone(zone.constData());
-        const auto asked = wallClockFromText(wallClock.toStdString(), iso).value();
+        const auto asked = wallClockFromText(wallClock, iso).value();
         for (const int daysAway : {0, -200, -2, 2, 200}) {
             LocalZone local;
             local.instantOf(asked + hours{24} * daysAway); // what is kept must not mislead
-            QTEST(universal(local.instantOf(asked)), "expected");
+            QCOMPARE(universal(local.instantOf(asked)), expected);
         }
     }
 
@@ -168,15 +154,15 @@ private Q_SLOTS:
 
     /// Walks of small and large steps, so that stretches are kept, grown both ways and left.
     void keptStretchesAgreeWithPlainLookups_data() {
-        QTest::addColumn<QByteArray>("zone");
+        const auto row = test::rowsByValue<QByteArray>();
         for (const char *zone : {centralEurope, newYork, newZealand, lordHowe, nepal,
                                  "<+24>-24:59:59<-24>24:59:59,J90,J270", "UTC0"}) {
-            QTest::newRow(zone) << QByteArray{zone};
+            row(zone);
         }
     }
 
     void keptStretchesAgreeWithPlainLookups() {
-        QFETCH(QByteArray, zone);
+        const auto [zone] = test::fetch<QByteArray>();
         setZone(zone.constData());
         LocalZone forward;
         LocalZone back;

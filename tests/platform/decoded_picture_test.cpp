@@ -1,16 +1,14 @@
 #include "platform/decoded_picture.h"
 
 #include <QColorSpace>
-#include <QTest>
 #include <exiv2/exiv2.hpp>
 #include <libheif/heif.h>
 
-#include <memory>
-#include <optional>
 #include <sys/stat.h>
 
 #include "platform/image_source.h"
 #include "platform/tagged_photo.h"
+#include "rows.h"
 
 using namespace pinmora;
 namespace fs = std::filesystem;
@@ -75,139 +73,131 @@ class DecodedPictureTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void liesAsStored_data();
-    void liesAsStored();
-    void heifTurnsItself_data();
-    void heifTurnsItself();
-    void coloursAreThoseOfTheScreen();
-    void thumbnail();
-    void noPicture_data();
-    void noPicture();
-    void cutAnywhere_data();
-    void cutAnywhere();
+    void liesAsStored_data() {
+        const auto row = test::rows<QByteArray>();
+        for (const char *format : {"jpg", "png", "tif", "webp", "bmp"}) {
+            row(format, format);
+        }
+    }
+
+    void liesAsStored() {
+        const auto [format] = test::fetch<QByteArray>();
+        const auto file =
+            folder_.write("\xE9t\xE9", encoded(quarters(640, 320), format.constData()));
+        if (format != "bmp") {
+            tag(file, turned);
+            QCOMPARE(readImageProperties(file)->top.number("Orientation"), 6.0);
+        }
+        const auto whole = decodePicture(file);
+        const auto larger = decodePicture(file, PixelSize{640, 1000});
+        const auto byWidth = decodePicture(file, PixelSize{100, 1000});
+        const auto byHeight = decodePicture(file, PixelSize{1000, 100});
+        const auto tiny = decodePicture(file, PixelSize{1, 1});
+        fs::remove(file); // QTemporaryDir cannot remove a name that is not UTF-8
+        QCOMPARE(shown(whole), "640x320 RGBW");
+        QCOMPARE(shown(larger), "640x320 RGBW");
+        QCOMPARE(shown(byWidth), "100x50 RGBW");
+        QCOMPARE(shown(byHeight), "200x100 RGBW");
+        QVERIFY(tiny && tiny->size() == QSize(1, 1));
+    }
+
+    void heifTurnsItself_data() {
+        const auto row = test::rows<int>();
+        row("HEIC", static_cast<int>(heif_compression_HEVC));
+        row("AVIF", static_cast<int>(heif_compression_AV1));
+    }
+
+    void heifTurnsItself() {
+        const auto [compression] = test::fetch<int>();
+        const auto file = folder_.write("photo.heic", "");
+        QVERIFY2(
+            writeHeif(file, quarters(640, 320), static_cast<heif_compression_format>(compression)),
+            "the encoders that come with libheif on Debian are missing");
+        const auto properties = readImageProperties(file, ImageRead::Light);
+        QVERIFY(properties);
+        QCOMPARE(properties->top.number("Orientation"), 1.0);
+        QCOMPARE(properties->topLevelNames().size(), 10U);
+        QCOMPARE(shown(decodePicture(file)), "320x640 BRWG");
+        QCOMPARE(shown(decodePicture(file, PixelSize{100, 100})), "50x100 BRWG");
+    }
+
+    void coloursAreThoseOfTheScreen() {
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(QColor(200, 100, 100));
+        image.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
+        const auto picture = decodePicture(folder_.write("wide.png", encoded(image, "png")));
+        QVERIFY(picture);
+        // The same red is nearer to the edge of the smaller gamut.
+        QVERIFY2(picture->pixelColor(4, 4).red() > 208,
+                 qPrintable(picture->pixelColor(4, 4).name()));
+    }
+
+    void thumbnail() {
+        const auto file = folder_.photo(turned);
+        QVERIFY(!embeddedThumbnail(file));
+        const std::string small = encoded(quarters(160, 120), "jpg");
+        const auto image = Exiv2::ImageFactory::open(file.string());
+        image->readMetadata();
+        Exiv2::ExifThumb(image->exifData())
+            .setJpegThumbnail(reinterpret_cast<const Exiv2::byte *>(small.data()),
+                              static_cast<long>(small.size()));
+        image->writeMetadata();
+        QCOMPARE(shown(embeddedThumbnail(file)), "160x120 RGBW");
+        QVERIFY(!embeddedThumbnail(folder_.write("text.jpg", "no picture")));
+    }
+
+    void noPicture_data() {
+        const auto row = test::rows<QByteArray>();
+        row("empty", {});
+        row("text", "Shopping: bread, butter.\n");
+        row("drawing",
+            "<?xml version=\"1.0\"?><svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\"/>");
+        row("head of HEIC", QByteArray("\0\0\0\x18"
+                                       "ftypheic\0\0\0\0mif1heic",
+                                       24));
+        QByteArray huge = QByteArray::fromStdString(encoded(quarters(4, 4), "bmp"));
+        huge.replace(18, 8, QByteArray("\0\0\1\0\0\0\1\0", 8)); // 65536 by 65536
+        row("bitmap beyond all memory", huge);
+    }
+
+    void noPicture() {
+        const auto [content] = test::fetch<QByteArray>();
+        const auto file = folder_.write("no.jpg", content.toStdString());
+        QVERIFY(!decodePicture(file));
+        QVERIFY(!decodePicture(file, PixelSize{100, 100}));
+        QVERIFY(!decodePicture(file.parent_path()));
+        QVERIFY(!decodePicture(file.parent_path() / "absent.jpg"));
+    }
+
+    void cutAnywhere_data() {
+        const auto row = test::rows<QByteArray>();
+        for (const char *format : {"jpg", "png", "tif", "webp", "bmp"}) {
+            row(format, QByteArray::fromStdString(encoded(quarters(40, 20), format)));
+        }
+        const auto file = folder_.write("whole.heic", "");
+        if (writeHeif(file, quarters(64, 64), heif_compression_HEVC)) {
+            QFile whole(QString::fromStdString(file.string()));
+            QVERIFY(whole.open(QIODevice::ReadOnly));
+            row("heic", whole.readAll());
+        }
+    }
+
+    void cutAnywhere() {
+        const auto [content] = test::fetch<QByteArray>();
+        int decoded = 0;
+        for (qsizetype size = 0; size < content.size(); size += 7) {
+            const auto image = decodePicture(
+                folder_.write("cut", content.first(size).toStdString()), PixelSize{10, 10});
+            QVERIFY(!image || (image->width() > 0 && image->width() <= 10));
+            decoded += image.has_value();
+        }
+        QVERIFY(decoded < content.size() / 7); // the first bytes are no picture at all
+        QVERIFY(decodePicture(folder_.write("cut", content.toStdString())));
+    }
 
 private:
     PhotoFolder folder_;
 };
-
-void DecodedPictureTest::liesAsStored_data() {
-    QTest::addColumn<QByteArray>("format");
-    for (const char *format : {"jpg", "png", "tif", "webp", "bmp"}) {
-        QTest::newRow(format) << QByteArray(format);
-    }
-}
-
-void DecodedPictureTest::liesAsStored() {
-    QFETCH(QByteArray, format);
-    const auto file = folder_.write("\xE9t\xE9", encoded(quarters(640, 320), format.constData()));
-    if (format != "bmp") {
-        tag(file, turned);
-        QCOMPARE(readImageProperties(file)->top.number("Orientation"), 6.0);
-    }
-    const auto whole = decodePicture(file);
-    const auto larger = decodePicture(file, PixelSize{640, 1000});
-    const auto byWidth = decodePicture(file, PixelSize{100, 1000});
-    const auto byHeight = decodePicture(file, PixelSize{1000, 100});
-    const auto tiny = decodePicture(file, PixelSize{1, 1});
-    fs::remove(file); // QTemporaryDir cannot remove a name that is not UTF-8
-    QCOMPARE(shown(whole), "640x320 RGBW");
-    QCOMPARE(shown(larger), "640x320 RGBW");
-    QCOMPARE(shown(byWidth), "100x50 RGBW");
-    QCOMPARE(shown(byHeight), "200x100 RGBW");
-    QVERIFY(tiny && tiny->size() == QSize(1, 1));
-}
-
-void DecodedPictureTest::heifTurnsItself_data() {
-    QTest::addColumn<int>("compression");
-    QTest::newRow("HEIC") << static_cast<int>(heif_compression_HEVC);
-    QTest::newRow("AVIF") << static_cast<int>(heif_compression_AV1);
-}
-
-void DecodedPictureTest::heifTurnsItself() {
-    QFETCH(int, compression);
-    const auto file = folder_.write("photo.heic", "");
-    QVERIFY2(writeHeif(file, quarters(640, 320), static_cast<heif_compression_format>(compression)),
-             "the encoders that come with libheif on Debian are missing");
-    const auto properties = readImageProperties(file, ImageRead::Light);
-    QVERIFY(properties);
-    QCOMPARE(properties->top.number("Orientation"), 1.0);
-    QCOMPARE(properties->topLevelNames().size(), std::size_t{10});
-    QCOMPARE(shown(decodePicture(file)), "320x640 BRWG");
-    QCOMPARE(shown(decodePicture(file, PixelSize{100, 100})), "50x100 BRWG");
-}
-
-void DecodedPictureTest::coloursAreThoseOfTheScreen() {
-    QImage image(8, 8, QImage::Format_RGB32);
-    image.fill(QColor(200, 100, 100));
-    image.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
-    const auto picture = decodePicture(folder_.write("wide.png", encoded(image, "png")));
-    QVERIFY(picture);
-    // The same red is nearer to the edge of the smaller gamut.
-    QVERIFY2(picture->pixelColor(4, 4).red() > 208, qPrintable(picture->pixelColor(4, 4).name()));
-}
-
-void DecodedPictureTest::thumbnail() {
-    const auto file = folder_.photo(turned);
-    QVERIFY(!embeddedThumbnail(file));
-    const std::string small = encoded(quarters(160, 120), "jpg");
-    const auto image = Exiv2::ImageFactory::open(file.string());
-    image->readMetadata();
-    Exiv2::ExifThumb(image->exifData())
-        .setJpegThumbnail(reinterpret_cast<const Exiv2::byte *>(small.data()),
-                          static_cast<long>(small.size()));
-    image->writeMetadata();
-    QCOMPARE(shown(embeddedThumbnail(file)), "160x120 RGBW");
-    QVERIFY(!embeddedThumbnail(folder_.write("text.jpg", "no picture")));
-}
-
-void DecodedPictureTest::noPicture_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("text") << QByteArray("Shopping: bread, butter.\n");
-    QTest::newRow("drawing") << QByteArray(
-        "<?xml version=\"1.0\"?><svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\"/>");
-    QTest::newRow("head of HEIC") << QByteArray("\0\0\0\x18"
-                                                "ftypheic\0\0\0\0mif1heic",
-                                                24);
-    QByteArray huge = QByteArray::fromStdString(encoded(quarters(4, 4), "bmp"));
-    huge.replace(18, 8, QByteArray("\0\0\1\0\0\0\1\0", 8)); // 65536 by 65536
-    QTest::newRow("bitmap beyond all memory") << huge;
-}
-
-void DecodedPictureTest::noPicture() {
-    QFETCH(QByteArray, content);
-    const auto file = folder_.write("no.jpg", content.toStdString());
-    QVERIFY(!decodePicture(file));
-    QVERIFY(!decodePicture(file, PixelSize{100, 100}));
-    QVERIFY(!decodePicture(file.parent_path()));
-    QVERIFY(!decodePicture(file.parent_path() / "absent.jpg"));
-}
-
-void DecodedPictureTest::cutAnywhere_data() {
-    QTest::addColumn<QByteArray>("content");
-    for (const char *format : {"jpg", "png", "tif", "webp", "bmp"}) {
-        QTest::newRow(format) << QByteArray::fromStdString(encoded(quarters(40, 20), format));
-    }
-    const auto file = folder_.write("whole.heic", "");
-    if (writeHeif(file, quarters(64, 64), heif_compression_HEVC)) {
-        QFile whole(QString::fromStdString(file.string()));
-        QVERIFY(whole.open(QIODevice::ReadOnly));
-        QTest::newRow("heic") << whole.readAll();
-    }
-}
-
-void DecodedPictureTest::cutAnywhere() {
-    QFETCH(QByteArray, content);
-    int decoded = 0;
-    for (qsizetype size = 0; size < content.size(); size += 7) {
-        const auto image = decodePicture(folder_.write("cut", content.first(size).toStdString()),
-                                         PixelSize{10, 10});
-        QVERIFY(!image || (image->width() > 0 && image->width() <= 10));
-        decoded += image.has_value();
-    }
-    QVERIFY(decoded < content.size() / 7); // the first bytes are no picture at all
-    QVERIFY(decodePicture(folder_.write("cut", content.toStdString())));
-}
 
 QTEST_GUILESS_MAIN(DecodedPictureTest)
 

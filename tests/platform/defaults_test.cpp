@@ -1,3 +1,4 @@
+#include "files.h"
 #include "platform/defaults.h"
 
 #include <QDir>
@@ -12,13 +13,6 @@ class DefaultsTest : public QObject {
 
     QTemporaryDir home_;
     QString file_ = home_.filePath(QStringLiteral("Pinmora/Pinmora.ini"));
-
-    void writeFile(const char *text) {
-        QVERIFY(QDir{}.mkpath(home_.filePath(QStringLiteral("Pinmora"))));
-        QFile file(file_);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
 
 private Q_SLOTS:
     void initTestCase() { qputenv("XDG_CONFIG_HOME", home_.path().toUtf8()); }
@@ -42,7 +36,8 @@ private Q_SLOTS:
     }
 
     void fileEditedByHand() {
-        writeFile("[General]\nlogReading=tolerant\ntitle=one, two\n");
+        QVERIFY(QDir{}.mkpath(home_.filePath(QStringLiteral("Pinmora"))));
+        test::put(file_.toStdString(), "[General]\nlogReading=tolerant\ntitle=one, two\n");
         Defaults defaults;
         QVERIFY(defaults.synchronize());
         QCOMPARE(defaults.text("logReading").value(), "tolerant");

@@ -1,27 +1,19 @@
+#include "files.h"
 #include "platform/file_placement.h"
+#include "rows.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
-#include <fstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 
 using namespace pinmora;
+using namespace pinmora::test;
 namespace fs = std::filesystem;
 
 namespace {
-
-std::string contents(const fs::path &file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-void write(const fs::path &file, std::string_view bytes) {
-    std::ofstream(file, std::ios::binary) << bytes;
-}
 
 std::string attribute(const fs::path &file, const char *name) {
     std::string value(100, '\0');
@@ -32,10 +24,6 @@ std::string attribute(const fs::path &file, const char *name) {
 
 bool same(const timespec &a, const timespec &b) {
     return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
-}
-
-std::size_t entries(const fs::path &folder) {
-    return static_cast<std::size_t>(std::distance(fs::directory_iterator{folder}, {}));
 }
 
 /// No file of this process may grow beyond `bytes`, as on a disk that is full.
@@ -74,19 +62,19 @@ private Q_SLOTS:
     void cleanup() { fs::remove_all(folder_); }
 
     void bytesArrive_data() {
-        QTest::addColumn<int>("size");
+        const auto row = rowsByValue<int>();
         for (const int size : {0, 1, 4096, 131073, 3000001}) {
-            QTest::addRow("%d", size) << size;
+            row(size);
         }
     }
 
     void bytesArrive() {
-        QFETCH(int, size);
+        const auto [size] = fetch<int>();
         std::string bytes(static_cast<std::size_t>(size), '\0');
         for (std::size_t i = 0; i < bytes.size(); ++i) {
             bytes[i] = static_cast<char>(i * i >> 7U);
         }
-        write(source_, bytes);
+        put(source_, bytes);
         QCOMPARE(copyFile(source_, target_), std::error_code{});
         QVERIFY(contents(target_) == bytes);
         QVERIFY(contents(source_) == bytes);
@@ -99,7 +87,7 @@ private Q_SLOTS:
     }
 
     void permissionsAttributesAndTimesAreKept() {
-        write(source_, "photo");
+        put(source_, "photo");
         setxattr(source_.c_str(), "user.rating", "5\0x", 3, 0);
         setxattr(source_.c_str(), "user.empty", "", 0, 0);
         const FileTimes times{{1000000000, 123456789}, {1210601109, 987654321}};
@@ -120,18 +108,18 @@ private Q_SLOTS:
     }
 
     void existingTargetStays_data() {
-        QTest::addColumn<bool>("dangling");
-        QTest::newRow("file") << false;
-        QTest::newRow("dangling link") << true;
+        const auto row = rows<bool>();
+        row("file", false);
+        row("dangling link", true);
     }
 
     void existingTargetStays() {
-        QFETCH(bool, dangling);
-        write(source_, "new");
+        const auto [dangling] = fetch<bool>();
+        put(source_, "new");
         if (dangling) {
             fs::create_symlink(folder_ / "nowhere", target_);
         } else {
-            write(target_, "old");
+            put(target_, "old");
         }
         for (const auto &error :
              {copyFile(source_, target_), placeWithoutReplacing(source_, target_),
@@ -144,14 +132,14 @@ private Q_SLOTS:
     }
 
     void failureInTheMiddleLeavesNothing() {
-        write(source_, std::string(300000, 'x'));
+        put(source_, std::string(300000, 'x'));
         std::error_code error;
         {
             const SmallDisk disk(200000);
             error = copyFile(source_, target_);
         }
         QCOMPARE(error, std::errc::file_too_large);
-        QCOMPARE(entries(folder_), std::size_t{1});
+        QCOMPARE(entries(folder_), 1U);
     }
 
     void sourcesThatAreNoFiles() {
@@ -164,20 +152,20 @@ private Q_SLOTS:
     }
 
     void placing_data() {
-        QTest::addColumn<bool>("byReservation");
-        QTest::newRow("rename") << false;
-        QTest::newRow("reservation") << true;
+        const auto row = rows<bool>();
+        row("rename", false);
+        row("reservation", true);
     }
 
     void placing() {
-        QFETCH(bool, byReservation);
+        const auto [byReservation] = fetch<bool>();
         const auto place = byReservation ? placeByReservation : placeWithoutReplacing;
         QCOMPARE(place(source_, target_), std::errc::no_such_file_or_directory);
-        QCOMPARE(entries(folder_), std::size_t{0}); // no reservation is left
-        write(source_, "photo");
+        QCOMPARE(entries(folder_), 0U); // no reservation is left
+        put(source_, "photo");
         QCOMPARE(place(source_, target_), std::error_code{});
         QCOMPARE(contents(target_), "photo");
-        QCOMPARE(entries(folder_), std::size_t{1});
+        QCOMPARE(entries(folder_), 1U);
         QCOMPARE(place(target_, folder_ / "none" / "x"), std::errc::no_such_file_or_directory);
         QCOMPARE(contents(target_), "photo");
     }

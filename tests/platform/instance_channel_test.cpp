@@ -4,7 +4,6 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QStandardPaths>
-#include <QTest>
 
 #include <future>
 #include <sys/socket.h>
@@ -13,6 +12,7 @@
 
 #include "platform/file_descriptor.h"
 #include "platform/instance_message.h"
+#include "rows.h"
 
 using namespace pinmora;
 using namespace std::chrono_literals;
@@ -38,8 +38,6 @@ QString socketOf(const std::string &name) {
 
 } // namespace
 
-Q_DECLARE_METATYPE(Paths)
-
 /// Two programs that meet, here on two threads of one.
 class InstanceChannelTest : public QObject {
     Q_OBJECT
@@ -51,27 +49,27 @@ private Q_SLOTS:
     }
 
     void pathsArrive_data() {
-        QTest::addColumn<Paths>("paths");
-        QTest::newRow("none: come to the front") << Paths{};
-        QTest::newRow("bytes as they are") << Paths{"/a b/\xE9t\xE9.jpg", "/line\nfeed.gpx", "/"};
+        const auto row = test::rows<Paths>();
+        row("none: come to the front", {});
+        row("bytes as they are", Paths{"/a b/\xE9t\xE9.jpg", "/line\nfeed.gpx", "/"});
         Paths many;
         for (int i = 0; i < 20'000; ++i) {
             many.push_back("/photos/of/a/long/journey/IMG_" + std::to_string(i) + ".JPG");
         }
-        QTest::newRow("a whole journey") << many;
+        row("a whole journey", many);
     }
 
     void pathsArrive() {
-        QFETCH(Paths, paths);
+        const auto [paths] = test::fetch<Paths>();
         std::vector<Paths> received;
         InstanceChannel channel("one", [&](const Paths &came) { received.push_back(came); });
         QVERIFY(!InstanceChannel::handOver("one", paths, 1s)); // nobody listens yet
         QVERIFY(channel.listen());
         QVERIFY(handOver("one", paths));
-        QTRY_COMPARE(received.size(), std::size_t{1});
+        QTRY_COMPARE(received.size(), 1U);
         QCOMPARE(received[0], paths);
         QVERIFY(handOver("one", {"/again"}));
-        QTRY_COMPARE(received.size(), std::size_t{2});
+        QTRY_COMPARE(received.size(), 2U);
     }
 
     void messageComesInPieces() {
@@ -88,10 +86,10 @@ private Q_SLOTS:
             socket.flush();
             QCoreApplication::processEvents();
         }
-        QTRY_COMPARE(received.size(), std::size_t{1});
+        QTRY_COMPARE(received.size(), 1U);
         QCOMPARE(received[0], (Paths{"/a/b", "/c"}));
         QTRY_COMPARE(socket.state(), QLocalSocket::UnconnectedState);
-        QCOMPARE(socket.readAll(), QByteArray("+"));
+        QCOMPARE(socket.readAll(), "+");
     }
 
     void busyProgramConfirms() {
@@ -120,13 +118,13 @@ private Q_SLOTS:
 
     /// Another starts between the lock of the first and its listening.
     void startsMeet_data() {
-        QTest::addColumn<bool>("firstListens");
-        QTest::newRow("the first comes up") << true;
-        QTest::newRow("the first gives up") << false;
+        const auto row = test::rows<bool>();
+        row("the first comes up", true);
+        row("the first gives up", false);
     }
 
     void startsMeet() {
-        QFETCH(bool, firstListens);
+        const auto [firstListens] = test::fetch<bool>();
         using Start = InstanceChannel::Start;
         std::vector<Paths> received;
         auto first = std::make_unique<InstanceChannel>(
@@ -180,17 +178,17 @@ private Q_SLOTS:
     }
 
     void strangersAreRefused_data() {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::newRow("another protocol") << QByteArray("GET / HTTP/1.1\r\n\r\n");
-        QTest::newRow("a relative path") << QByteArray("pinmora-open-1 00000005a.jp\0", 28);
-        QTest::newRow("an unfinished path") << QByteArray("pinmora-open-1 00000003/ab");
-        QTest::newRow("more than it says") << QByteArray("pinmora-open-1 00000002/\0more", 29);
-        QTest::newRow("too long") << QByteArray("pinmora-open-1 7fffffff/");
-        QTest::newRow("no length") << QByteArray("pinmora-open-1 -0000001/");
+        const auto row = test::rows<QByteArray>();
+        row("another protocol", "GET / HTTP/1.1\r\n\r\n");
+        row("a relative path", QByteArray("pinmora-open-1 00000005a.jp\0", 28));
+        row("an unfinished path", "pinmora-open-1 00000003/ab");
+        row("more than it says", QByteArray("pinmora-open-1 00000002/\0more", 29));
+        row("too long", "pinmora-open-1 7fffffff/");
+        row("no length", "pinmora-open-1 -0000001/");
     }
 
     void strangersAreRefused() {
-        QFETCH(QByteArray, bytes);
+        const auto [bytes] = test::fetch<QByteArray>();
         std::vector<Paths> received;
         InstanceChannel channel("wary", [&](const Paths &came) { received.push_back(came); });
         QVERIFY(channel.listen());
@@ -201,7 +199,7 @@ private Q_SLOTS:
         socket.flush();
         QTRY_COMPARE(socket.state(), QLocalSocket::UnconnectedState);
         QVERIFY(handOver("wary", {"/in order"}));
-        QTRY_COMPARE(received.size(), std::size_t{1});
+        QTRY_COMPARE(received.size(), 1U);
         QCOMPARE(received[0], Paths{"/in order"});
     }
 

@@ -1,10 +1,9 @@
 #include "platform/log_file.h"
+#include "rows.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QTest>
 
-#include <filesystem>
 #include <fstream>
 
 using namespace pinmora;
@@ -15,11 +14,7 @@ class LogFileTest : public QObject {
 
 private Q_SLOTS:
     void anEntryIsOneLine_data() {
-        QTest::addColumn<QByteArray>("entry");
-        QTest::addColumn<QByteArray>("line");
-        const auto row = [](const char *name, const QByteArray &entry, const char *line) {
-            QTest::newRow(name) << entry << QByteArray(line);
-        };
+        const auto row = test::rows<QByteArray, QByteArray>();
         row("plain", "a.jpg: disk full", "a.jpg: disk full");
         row("letters", "Zürich 東京 🏔", "Zürich 東京 🏔");
         row("lines", "one\ntwo\r\nthree\n\n", "one | two | three");
@@ -33,7 +28,7 @@ private Q_SLOTS:
     }
 
     void anEntryIsOneLine() {
-        QFETCH(QByteArray, entry);
+        const auto [entry, line] = test::fetch<QByteArray, QByteArray>();
         const QTemporaryDir folder;
         LogFile log((folder.path() + QStringLiteral("/new/Pinmora.log")).toStdString());
         QVERIFY(!fs::exists(log.path()));
@@ -41,7 +36,7 @@ private Q_SLOTS:
         const QString text = QString::fromStdString(log.text());
         static const QRegularExpression stamped(
             QStringLiteral("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d (.*)\n$"));
-        QTEST(stamped.match(text).captured(1).toUtf8(), "line");
+        QCOMPARE(stamped.match(text).captured(1).toUtf8(), line);
     }
 
     void growsUpToTwiceItsLimit() {
@@ -59,18 +54,18 @@ private Q_SLOTS:
             QVERIFY(lines.at(i).endsWith(QStringLiteral(" %1").arg(102 - lines.size() + i)));
         }
         log.append(std::string(2 * limit, 'x'));
-        QCOMPARE(log.text().substr(log.text().size() - 3), std::string("xx\n"));
+        QCOMPARE(log.text().substr(log.text().size() - 3), "xx\n");
     }
 
     void whatCannotBeWrittenIsDropped_data() {
-        QTest::addColumn<QByteArray>("path");
-        QTest::newRow("full disk") << QByteArray("/dev/full");
-        QTest::newRow("no folder can be made") << QByteArray("/proc/none/Pinmora.log");
-        QTest::newRow("a folder") << QByteArray("/tmp");
+        const auto row = test::rows<QByteArray>();
+        row("full disk", "/dev/full");
+        row("no folder can be made", "/proc/none/Pinmora.log");
+        row("a folder", "/tmp");
     }
 
     void whatCannotBeWrittenIsDropped() {
-        QFETCH(QByteArray, path);
+        const auto [path] = test::fetch<QByteArray>();
         LogFile log(path.toStdString());
         log.append("lost");
         QVERIFY(log.path() == path.toStdString());

@@ -2,8 +2,6 @@
 
 #include <QTest>
 
-#include <optional>
-
 using namespace pinmora;
 
 class NotificationCentreTest : public QObject {

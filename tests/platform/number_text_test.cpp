@@ -1,6 +1,5 @@
 #include "platform/number_text.h"
-
-#include <QTest>
+#include "rows.h"
 
 #include <bit>
 #include <cmath>
@@ -25,12 +24,7 @@ class NumberTextTest : public QObject {
 
 private Q_SLOTS:
     void leadingNumbers_data() {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<double>("real");
-        QTest::addColumn<int>("whole");
-        const auto row = [](const char *text, double real, int whole) {
-            QTest::newRow(text) << QByteArray{text} << real << whole;
-        };
+        const auto row = test::rowsByValue<QByteArray, double, int>();
         row("47.3825", 47.3825, 47);
         row(" \t-8.5 m", -8.5, -8);
         row("+12", 12, 12);
@@ -43,16 +37,9 @@ private Q_SLOTS:
         row("7.", 7, 7);
         row("007", 7, 7);
         row("3e5", 3, 3);
-        row("0x1F", 0, 0);
-        row("", 0, 0);
-        row(".", 0, 0);
-        row("-", 0, 0);
-        row("--1", 0, 0);
-        row("+-1", 0, 0);
-        row("- 1", 0, 0);
-        row("inf", 0, 0);
-        row("nan", 0, 0);
-        row("N47", 0, 0);
+        for (const char *none : {"0x1F", "", ".", "-", "--1", "+-1", "- 1", "inf", "nan", "N47"}) {
+            row(none, 0, 0);
+        }
         row("2147483647", 2147483647.0, 2147483647);
         row("-2147483649", -2147483649.0, std::numeric_limits<int>::min());
         row("-99999999999999999999", -1e20, std::numeric_limits<int>::min());
@@ -60,9 +47,7 @@ private Q_SLOTS:
     }
 
     void leadingNumbers() {
-        QFETCH(QByteArray, text);
-        QFETCH(double, real);
-        QFETCH(int, whole);
+        const auto [text, real, whole] = test::fetch<QByteArray, double, int>();
         const std::string read = text.toStdString();
         QCOMPARE(exactly(leadingDouble(read)), exactly(real));
         QCOMPARE(exactly(leadingFloat(read)), exactly(static_cast<float>(real)));
@@ -88,26 +73,23 @@ private Q_SLOTS:
     }
 
     void plainDecimals_data() {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<int>("decimals");
-        QTest::addColumn<QByteArray>("expected");
-        QTest::newRow("short") << 47.3825 << 8 << QByteArray{"47.3825"};
-        QTest::newRow("whole") << -120.0 << 8 << QByteArray{"-120"};
-        QTest::newRow("cut and rounded") << 1.0 / 3 * 2 << 8 << QByteArray{"0.66666667"};
-        QTest::newRow("rounded up to whole") << 0.999999999 << 8 << QByteArray{"1"};
-        QTest::newRow("rounded zero") << -1e-9 << 8 << QByteArray{"0"};
-        QTest::newRow("no decimals") << 1230.4 << 0 << QByteArray{"1230"};
-        QTest::newRow("zeros before the point stay") << 100.0 << 0 << QByteArray{"100"};
-        QTest::newRow("large") << 1e21 << 8 << QByteArray{"1000000000000000000000"};
-        QTest::newRow("small") << 1e-7 << 8 << QByteArray{"0.0000001"};
-        QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << 8 << QByteArray{};
-        QTest::newRow("no number") << std::nan("") << 8 << QByteArray{};
+        const auto row = test::rows<double, int, QByteArray>();
+        row("short", 47.3825, 8, "47.3825");
+        row("whole", -120.0, 8, "-120");
+        row("cut and rounded", 1.0 / 3 * 2, 8, "0.66666667");
+        row("rounded up to whole", 0.999999999, 8, "1");
+        row("rounded zero", -1e-9, 8, "0");
+        row("no decimals", 1230.4, 0, "1230");
+        row("zeros before the point stay", 100.0, 0, "100");
+        row("large", 1e21, 8, "1000000000000000000000");
+        row("small", 1e-7, 8, "0.0000001");
+        row("infinite", std::numeric_limits<double>::infinity(), 8, {});
+        row("no number", std::nan(""), 8, {});
     }
 
     void plainDecimals() {
-        QFETCH(double, value);
-        QFETCH(int, decimals);
-        QTEST(QByteArray::fromStdString(decimalText(value, decimals)), "expected");
+        const auto [value, decimals, expected] = test::fetch<double, int, QByteArray>();
+        QCOMPARE(QByteArray::fromStdString(decimalText(value, decimals)), expected);
     }
 
     void longestNumbersFit() {

@@ -1,13 +1,13 @@
 #include "platform/process.h"
+#include "rows.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 #include <ctime>
-#include <filesystem>
 #include <fstream>
+#include <future>
 #include <thread>
 
 using namespace pinmora;
@@ -26,6 +26,20 @@ ProcessLimits within(std::chrono::milliseconds time) {
     return limits;
 }
 
+/// What calls at the same time return.
+template <class Result>
+std::vector<Result> inThreads(std::size_t count, const std::function<Result(std::size_t)> &work) {
+    std::vector<std::future<Result>> running;
+    for (std::size_t i = 0; i < count; ++i) {
+        running.push_back(std::async(std::launch::async, work, i));
+    }
+    std::vector<Result> results;
+    for (auto &one : running) {
+        results.push_back(one.get());
+    }
+    return results;
+}
+
 } // namespace
 
 class ProcessTest : public QObject {
@@ -40,12 +54,7 @@ private Q_SLOTS:
     void init() { clock_.start(); }
 
     void endings_data() {
-        QTest::addColumn<QByteArray>("script");
-        QTest::addColumn<int>("end");
-        QTest::addColumn<int>("code");
-        const auto row = [](const char *name, const char *script, End end, int code) {
-            QTest::newRow(name) << QByteArray{script} << static_cast<int>(end) << code;
-        };
+        const auto row = test::rows<std::string, End, int>();
         row("success", "true", End::Exited, 0);
         row("exit status", "exit 3", End::Exited, 3);
         row("signal", "kill -KILL $$", End::Crashed, SIGKILL);
@@ -57,12 +66,9 @@ private Q_SLOTS:
     }
 
     void endings() {
-        QFETCH(QByteArray, script);
-        QFETCH(int, end);
-        QFETCH(int, code);
-        const bool hangs = end == static_cast<int>(End::TimedOut);
-        const auto outcome = shell(script.toStdString(), hangs ? within(200ms) : ProcessLimits{});
-        QCOMPARE(static_cast<int>(outcome.end), end);
+        const auto [script, end, code] = test::fetch<std::string, End, int>();
+        const auto outcome = shell(script, end == End::TimedOut ? within(200ms) : ProcessLimits{});
+        QCOMPARE(outcome.end, end);
         QCOMPARE(outcome.code, code);
         QVERIFY(wasQuick());
     }
@@ -81,8 +87,8 @@ private Q_SLOTS:
                                    "echo abcdefghij >&2; i=$((i+1)); done",
                                    limits);
         QVERIFY(outcome.succeeded());
-        QCOMPARE(outcome.output.size(), std::size_t{1000});
-        QCOMPARE(outcome.errors.size(), std::size_t{1000});
+        QCOMPARE(outcome.output.size(), 1000U);
+        QCOMPARE(outcome.errors.size(), 1000U);
         QVERIFY(outcome.output.starts_with("0123456789\n0"));
     }
 
@@ -138,34 +144,24 @@ private Q_SLOTS:
 
     void manyAtOnce() {
         // A stream inherited by a neighbour would keep its `cat` from ending.
-        std::vector<std::thread> threads;
-        std::vector<int> wrong(16);
-        for (std::size_t i = 0; i < wrong.size(); ++i) {
-            threads.emplace_back([i, &wrong] {
-                for (int n = 0; n < 10; ++n) {
-                    const std::string word = std::to_string(i * 100) + std::to_string(n);
-                    wrong[i] += shell("echo " + word + " | cat").output == word + "\n" ? 0 : 1;
-                }
-            });
-        }
-        for (std::thread &thread : threads) {
-            thread.join();
-        }
-        QCOMPARE(wrong, std::vector<int>(wrong.size()));
+        const auto wrong = inThreads<int>(16, [](std::size_t i) {
+            int count = 0;
+            for (int n = 0; n < 10; ++n) {
+                const std::string word = std::to_string(i * 100) + std::to_string(n);
+                count += shell("echo " + word + " | cat").output == word + "\n" ? 0 : 1;
+            }
+            return count;
+        });
+        QCOMPARE(wrong, std::vector<int>(16));
         QVERIFY(wasQuick());
     }
 
     void childInheritsNoStrayDescriptors() {
-        const auto outcome = shell("ls /proc/self/fd | wc -l");
-        std::vector<std::thread> threads;
-        std::vector<std::string> counts(8);
-        for (std::string &count : counts) {
-            threads.emplace_back([&count] { count = shell("ls /proc/self/fd | wc -l").output; });
-        }
-        for (std::thread &thread : threads) {
-            thread.join();
-        }
-        QCOMPARE(counts, std::vector<std::string>(counts.size(), outcome.output));
+        const auto descriptors = [](std::size_t) {
+            return shell("ls /proc/self/fd | wc -l").output;
+        };
+        QCOMPARE(inThreads<std::string>(8, descriptors),
+                 std::vector<std::string>(8, descriptors(0)));
     }
 
     void findsTheFirstExecutableFile() {

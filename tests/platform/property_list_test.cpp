@@ -1,10 +1,9 @@
+#include "files.h"
 #include "platform/property_list.h"
+#include "rows.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 #include <plist/plist.h>
-
-#include <fstream>
 
 using namespace pinmora;
 namespace fs = std::filesystem;
@@ -32,11 +31,7 @@ class PropertyListTest : public QObject {
 
 private Q_SLOTS:
     void text_data() {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QByteArray>("expected");
-        const auto row = [](const char *name, const QByteArray &content, const char *expected) {
-            QTest::newRow(name) << content << QByteArray(expected);
-        };
+        const auto row = test::rows<QByteArray, QByteArray>();
         const auto dictionary = [](const char *value) {
             return head + "<dict><key>Other</key><string>1</string><key>ProductVersion</key>" +
                    value + "</dict></plist>";
@@ -57,12 +52,12 @@ private Q_SLOTS:
     }
 
     void text() {
-        QFETCH(QByteArray, content);
+        const auto [content, expected] = test::fetch<QByteArray, QByteArray>();
         const QTemporaryDir folder;
-        const fs::path file = fs::path(folder.path().toStdString()) / "list";
-        std::ofstream(file, std::ios::binary) << content.toStdString();
+        const auto file =
+            test::put(fs::path(folder.path().toStdString()) / "list", content.toStdString());
         const auto found = stringInPropertyList(file, "ProductVersion");
-        QTEST(QByteArray::fromStdString(found.value_or("-")), "expected");
+        QCOMPARE(QByteArray::fromStdString(found.value_or("-")), expected);
         QVERIFY(!stringInPropertyList(file.parent_path(), "ProductVersion"));
         QVERIFY(!stringInPropertyList(file.parent_path() / "absent", "ProductVersion"));
     }

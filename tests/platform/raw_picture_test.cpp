@@ -1,12 +1,11 @@
 #include "platform/decoded_picture.h"
 
-#include <QTest>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
 
 #include "platform/tagged_photo.h"
+#include "rows.h"
 
 using namespace pinmora;
 
@@ -138,23 +137,16 @@ class RawPictureTest : public QObject {
 
 private Q_SLOTS:
     void preview_data() {
-        QTest::addColumn<QSize>("preview");
-        QTest::addColumn<int>("fit");
-        QTest::addColumn<QByteArray>("expected");
-        QTest::newRow("a mere thumbnail: developed")
-            << QSize(160, 120) << 0 << QByteArray("1200x900 RGBW");
-        QTest::newRow("developed at half size")
-            << QSize(160, 120) << 300 << QByteArray("300x225 RGBW");
-        QTest::newRow("a thumbnail is enough")
-            << QSize(160, 120) << 160 << QByteArray("160x120 WWWW");
-        QTest::newRow("a preview worth the name")
-            << QSize(1000, 750) << 0 << QByteArray("1000x750 WWWW");
-        QTest::newRow("made smaller") << QSize(1000, 750) << 500 << QByteArray("500x375 WWWW");
+        const auto row = test::rows<QSize, int, QByteArray>();
+        row("a mere thumbnail: developed", QSize(160, 120), 0, "1200x900 RGBW");
+        row("developed at half size", QSize(160, 120), 300, "300x225 RGBW");
+        row("a thumbnail is enough", QSize(160, 120), 160, "160x120 WWWW");
+        row("a preview worth the name", QSize(1000, 750), 0, "1000x750 WWWW");
+        row("made smaller", QSize(1000, 750), 500, "500x375 WWWW");
     }
 
     void preview() {
-        QFETCH(QSize, preview);
-        QFETCH(int, fit);
+        const auto [preview, fit, expected] = test::fetch<QSize, int, QByteArray>();
         QImage white(preview, QImage::Format_RGB32);
         white.fill(Qt::white);
         PhotoFolder folder;
@@ -162,7 +154,7 @@ private Q_SLOTS:
         const auto shown =
             decodePicture(file, fit > 0 ? std::optional(PixelSize{fit, fit}) : std::nullopt);
         QVERIFY(shown);
-        QTEST(described(*shown), "expected");
+        QCOMPARE(described(*shown), expected);
     }
 };
 

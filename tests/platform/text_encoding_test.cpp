@@ -1,6 +1,5 @@
 #include "platform/text_encoding.h"
-
-#include <QTest>
+#include "rows.h"
 
 using namespace pinmora;
 
@@ -9,11 +8,7 @@ class TextEncodingTest : public QObject {
 
 private Q_SLOTS:
     void validity_data() {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<bool>("valid");
-        const auto row = [](const char *name, const char *bytes, bool valid) {
-            QTest::newRow(name) << QByteArray{bytes} << valid;
-        };
+        const auto row = test::rows<QByteArray, bool>();
         row("empty", "", true);
         row("ascii", "a long line of plain letters", true);
         row("first and last of two", "\xC2\x80\xDF\xBF", true);
@@ -34,8 +29,8 @@ private Q_SLOTS:
     }
 
     void validity() {
-        QFETCH(QByteArray, bytes);
-        QTEST(isUtf8(bytes.toStdString()), "valid");
+        const auto [bytes, valid] = test::fetch<QByteArray, bool>();
+        QCOMPARE(isUtf8(bytes.toStdString()), valid);
     }
 
     void characterCutAnywhereIsInvalid() {
