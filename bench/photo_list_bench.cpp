@@ -30,7 +30,7 @@ void measure(bench::Report &report) {
     QApplication application(argc, argv);
     app::Program program(".", nullptr);
     settle();
-    auto *const table = program.window().findChild<PhotoTable *>();
+    auto *const table = program.windows().windowInFront()->findChild<PhotoTable *>();
 
     std::vector<double> selections;
     for (int row = 0; row < 200; ++row) {

@@ -37,7 +37,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 # files have other headers put before them.
 function(pinmora_library name)
     cmake_parse_arguments(arg "PRECOMPILED" "" "SOURCES;USES" ${ARGN})
-    file(GLOB headers CONFIGURE_DEPENDS *.h)
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS *.h)
     set(alone)
     foreach(header IN LISTS headers)
         string(REGEX REPLACE "\\.h$" ".cpp" source "${header}")

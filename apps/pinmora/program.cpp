@@ -23,11 +23,11 @@ Program::Program(const std::filesystem::path &resourceFolder, MapPane::MakePage 
       delegate_(resourceFolder, screenSize(),
                 {.address = [this] { return services_.address(); },
                  .placeNamespace = LocalServer::placeNamespace}) {
-    // The main window decides, after the person has been asked.
+    // The windows decide, after the person has been asked.
     QApplication::setQuitOnLastWindowClosed(false);
     delegate_.awakeFromNib();
-    window_ = std::make_unique<MainWindow>(delegate_, std::move(makePage));
-    terminating_ = delegate_.terminate.connect([this] { window_->quit(); });
+    windows_ = std::make_unique<ProgramWindows>(delegate_, std::move(makePage));
+    terminating_ = delegate_.terminate.connect([this] { windows_->quit(); });
 }
 
 Program::~Program() = default;
@@ -35,7 +35,7 @@ Program::~Program() = default;
 void Program::open(const std::vector<std::string> &paths) {
     delegate_.interface.workingWindow().makeKeyAndOrderFront();
     if (!paths.empty()) {
-        window_->whenIdle([this, paths] { delegate_.subsystems().photoIntake.openFiles(paths); });
+        windows_->whenIdle([this, paths] { delegate_.subsystems().photoIntake.openFiles(paths); });
     }
 }
 

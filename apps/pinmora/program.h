@@ -2,7 +2,7 @@
 
 #include "services/local_server.h"
 #include "shell/pinmora_app_delegate.h"
-#include "ui/main_window.h"
+#include "ui/program_windows.h"
 
 #include <QObject>
 
@@ -27,12 +27,12 @@ public:
     void open(const std::vector<std::string> &paths);
 
     Pinmora_AppDelegate &delegate() { return delegate_; }
-    MainWindow &window() { return *window_; }
+    ProgramWindows &windows() { return *windows_; }
 
 private:
     LocalServer services_;
     Pinmora_AppDelegate delegate_;
-    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<ProgramWindows> windows_;
     Connection terminating_;
 };
 

@@ -19,7 +19,7 @@ struct Button;
 /// The menus, in the order of the menu bar.
 enum class MenuName { File, Edit, Photo, Gps, View, Help };
 
-/// Everything that a person can do with the main window, each once.
+/// Everything that a person can do with the windows, each once.
 enum class ActionName {
     AddPhotos,
     LoadGpsData,
@@ -46,9 +46,13 @@ enum class ActionName {
     FollowDesktop,
     LightLook,
     DarkLook,
-    Wizard,
+    ShowWizard,
+    ShowMainWindow,
     SampleOuting,
     ShowLog,
+    CheckVersion,
+    WebSite,
+    ReportProblem,
     About,
 };
 
@@ -68,22 +72,21 @@ struct ActionRow {
 /// All actions, in the order of their menus.
 std::span<const ActionRow> actionTable();
 
-/// The actions of one window, made from the table.
+/// The actions, made from the table.
 class Actions {
 public:
     explicit Actions(QObject *parent);
 
     QAction *operator[](ActionName name) const;
-    /// Puts them into their menus.
-    void fill(QMenuBar &bar);
-    /// Adds a menu of choices at the end of one of them.
-    void addMenu(MenuName menu, QMenu *choices) const;
+    /// Puts those into menus that `has` lets through; the menus, in the order of MenuName.
+    std::vector<QMenu *> fill(
+        QMenuBar &bar,
+        const std::function<bool(ActionName)> &has = [](ActionName) { return true; }) const;
     /// Icons in the colours in force.
     void refreshIcons() const;
 
 private:
     std::vector<QAction *> actions_; ///< in the order of the table
-    std::vector<QMenu *> menus_;     ///< in the order of MenuName, once filled
 };
 
 } // namespace pinmora

@@ -1,15 +1,12 @@
 #include "ui/clock_panel.h"
 
 #include "matching/matching_outlets.h"
-#include "outlets/editing.h"
 #include "store/image.h"
-#include "ui/field_bindings.h"
-#include "ui/field_edit.h"
+#include "ui/known_position.h"
+#include "ui/offset_steppers.h"
 #include "ui/roles.h"
-#include "ui/stepper_box.h"
 #include "ui/theme.h"
 
-#include <QButtonGroup>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -40,66 +37,17 @@ ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing,
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(smallGap);
     column->addWidget(labelOf(Role::Heading, tr("Camera clock")));
-    addSteppers(*column);
+    column->addWidget(new OffsetSteppers(outlets, outlets.plusMinus, editing));
     addTimes(*column);
     more_ = makeMore(find);
     addActions(*column);
     column->addWidget(more_);
     column->addStretch();
 
-    bindings_.keep(editing.addEditor([this] {
-        for (StepperBox *box : boxes_) {
-            box->takeOverTyped();
-        }
-        return true;
-    }));
     // A selection may change in the middle of a change of the library.
     bindings_.keep(outlets.pictureArray.selectionChanged.connect([this] { endOfTurn_.ask(); }));
     bindings_.keep(outlets.offsetText.text.onChange([this](const std::string &) { showTimes(); }));
     showTimes();
-}
-
-void ClockPanel::addSteppers(QVBoxLayout &column) {
-    auto *row = new QHBoxLayout;
-    row->setSpacing(smallGap);
-    auto *signs = new QButtonGroup(this);
-    auto *pair = new QHBoxLayout;
-    pair->setSpacing(0);
-    for (const auto &[tag, text, name] :
-         {std::tuple(1, QStringLiteral("+"), tr("Add to the camera's time")),
-          std::tuple(0, QStringLiteral("−"), tr("Subtract from the camera's time"))}) {
-        auto *button = new QPushButton(text);
-        button->setCheckable(true);
-        button->setFixedWidth(3 * spacing + 2);
-        button->setStyleSheet(tag == 1 ? QStringLiteral("QPushButton { padding: 3px 0;"
-                                                        "border-top-right-radius: 0;"
-                                                        "border-bottom-right-radius: 0; }")
-                                       : QStringLiteral("QPushButton { padding: 3px 0;"
-                                                        "border-left-width: 0;"
-                                                        "border-top-left-radius: 0;"
-                                                        "border-bottom-left-radius: 0; }"));
-        button->setAccessibleName(name);
-        button->setToolTip(name);
-        signs->addButton(button, tag);
-        pair->addWidget(button);
-    }
-    tie(bindings_, outlets_.plusMinus, signs);
-    row->addLayout(pair);
-    for (const auto &[stepper, unit, name, digits] :
-         {std::tuple(&outlets_.stepperHour, tr("h"), tr("Hours"), 3),
-          std::tuple(&outlets_.stepperMin, tr("min"), tr("Minutes"), 2),
-          std::tuple(&outlets_.stepperSec, tr("s"), tr("Seconds"), 2)}) {
-        auto *box = new StepperBox(*stepper, bindings_);
-        box->setAccessibleName(tr("%1 that the camera's clock is off").arg(name));
-        box->setStyleSheet(QStringLiteral("QAbstractSpinBox { padding: 3px 2px; }"));
-        box->setFixedWidth(box->fontMetrics().horizontalAdvance(QString(digits, u'0')) +
-                           3 * spacing + 2);
-        boxes_.push_back(box);
-        row->addWidget(box);
-        row->addWidget(new QLabel(unit));
-    }
-    row->addStretch();
-    column.addLayout(row);
 }
 
 void ClockPanel::addTimes(QVBoxLayout &column) {
@@ -157,36 +105,8 @@ QWidget *ClockPanel::makeMore(const std::function<void()> &find) {
     bindings_.tie(outlets_.matchButton, match);
     grid->addWidget(match, 0, 0, 1, 3, Qt::AlignLeft);
     grid->addWidget(labelOf(Role::Quiet, tr("Or where the photo is known to be:")), 1, 0, 1, 3);
-    int place = 0;
-    for (const auto &[field, hint, name] :
-         {std::tuple(&outlets_.knownLat, tr("Latitude"), tr("Known latitude, decimal degrees")),
-          std::tuple(&outlets_.knownLon, tr("Longitude"),
-                     tr("Known longitude, decimal degrees"))}) {
-        auto *edit = new FieldEdit;
-        edit->setPlaceholderText(hint);
-        edit->setAccessibleName(name);
-        edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance(hint) + 3 * spacing);
-        tie(bindings_, *field, edit);
-        connect(edit, &FieldEdit::returnPressed, this, find);
-        grid->addWidget(edit, 2, place++);
-    }
-    auto *findButton = new QPushButton(tr("Find"));
-    findButton->setToolTip(tr("Finds the track point nearest to this position and sets the clock "
-                              "by its time"));
-    connect(findButton, &QPushButton::clicked, this, find);
-    grid->addWidget(findButton, 2, 2);
+    grid->addWidget(new KnownPosition(outlets_, tr("Find"), find), 2, 0, 1, 3);
     grid->setColumnStretch(3, 1);
-    auto *problem = labelOf(Role::Problem);
-    problem->setWordWrap(true);
-    grid->addWidget(problem, 3, 0, 1, 4);
-    for (CheckedField *field : {&outlets_.knownLat, &outlets_.knownLon}) {
-        bindings_.watch(field->problem, [this, problem](const std::string &) {
-            const std::string &lat = outlets_.knownLat.problem.get();
-            const std::string &why = lat.empty() ? outlets_.knownLon.problem.get() : lat;
-            problem->setText(QString::fromStdString(why));
-            problem->setVisible(!why.empty());
-        });
-    }
     more->hide();
     return more;
 }

@@ -15,7 +15,6 @@ class QVBoxLayout;
 namespace pinmora {
 
 class Editing;
-class StepperBox;
 struct MatchingOutlets;
 
 /// How far the camera's clock is off: sign, hours, minutes and seconds, what that makes of the
@@ -30,14 +29,12 @@ public:
                QWidget *parent = nullptr);
 
 private:
-    void addSteppers(QVBoxLayout &column);
     void addTimes(QVBoxLayout &column);
     void addActions(QVBoxLayout &column);
     QWidget *makeMore(const std::function<void()> &find);
     void showTimes();
 
     MatchingOutlets &outlets_;
-    std::vector<StepperBox *> boxes_;
     QLabel *chooseFirst_;
     QWidget *times_;
     QStackedLayout *instead_; ///< one of these two

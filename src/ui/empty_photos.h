@@ -1,18 +1,17 @@
 #pragma once
 
-#include <QFrame>
+#include "ui/drop_ground.h"
 
 #include <functional>
 
 namespace pinmora {
 
 /// What the place of the photos shows while there is none: what to do.
-class EmptyPhotos : public QFrame {
-    Q_OBJECT
-
+class EmptyPhotos : public DropGround {
 public:
-    EmptyPhotos(std::function<void()> addPhotos, std::function<void()> loadLogs,
-                std::function<void()> trySample, QWidget *parent = nullptr);
+    /// What is null is not offered.
+    EmptyPhotos(const std::function<void()> &addPhotos, const std::function<void()> &loadLogs,
+                const std::function<void()> &trySample, QWidget *parent = nullptr);
 };
 
 } // namespace pinmora

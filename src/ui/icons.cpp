@@ -15,11 +15,13 @@ namespace {
 /// From this side on, in device-independent pixels, lines look coarse at their usual width.
 constexpr double largeSide = 40;
 
+enum class Ink { Text, Quiet, Accent };
+
 /// Draws from the drawing each time, in the colours of that moment.
 class LineIcon : public QIconEngine {
 public:
-    LineIcon(QString name, QByteArray drawing, bool quiet)
-        : name_(std::move(name)), drawing_(std::move(drawing)), quiet_(quiet) {}
+    LineIcon(QString name, QByteArray drawing, Ink ink)
+        : name_(std::move(name)), drawing_(std::move(drawing)), ink_(ink) {}
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override {
         draw(painter, rect, mode, rect.height());
@@ -73,36 +75,42 @@ public:
         return picture;
     }
 
-    QIconEngine *clone() const override { return new LineIcon(name_, drawing_, quiet_); }
+    QIconEngine *clone() const override { return new LineIcon(name_, drawing_, ink_); }
 
 private:
     QColor ink(QIcon::Mode mode) const {
-        return quiet_ || mode == QIcon::Disabled ? colours().quietText : colours().text;
+        return ink_ == Ink::Quiet || mode == QIcon::Disabled ? colours().quietText
+               : ink_ == Ink::Accent                         ? colours().accent
+                                                             : colours().text;
     }
 
     const QString name_;
     const QByteArray drawing_;
-    const bool quiet_;
+    const Ink ink_;
 };
 
-QIcon iconNamed(std::string_view name, bool quiet) {
+QIcon iconNamed(std::string_view name, Ink ink) {
     const QString text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
     QFile file(QStringLiteral(":/icons/%1.svg").arg(text));
     if (!file.open(QIODevice::ReadOnly)) {
         qWarning("no icon named %s", qPrintable(text));
         return {};
     }
-    return QIcon(new LineIcon(text, file.readAll(), quiet));
+    return QIcon(new LineIcon(text, file.readAll(), ink));
 }
 
 } // namespace
 
 QIcon icon(std::string_view name) {
-    return iconNamed(name, false);
+    return iconNamed(name, Ink::Text);
 }
 
 QIcon quietIcon(std::string_view name) {
-    return iconNamed(name, true);
+    return iconNamed(name, Ink::Quiet);
+}
+
+QIcon accentIcon(std::string_view name) {
+    return iconNamed(name, Ink::Accent);
 }
 
 } // namespace pinmora

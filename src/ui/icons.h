@@ -11,5 +11,7 @@ namespace pinmora {
 QIcon icon(std::string_view name);
 /// The same in the colour of quiet text.
 QIcon quietIcon(std::string_view name);
+/// The same in the accent colour.
+QIcon accentIcon(std::string_view name);
 
 } // namespace pinmora

@@ -3,65 +3,67 @@
 #include "platform/defaults.h"
 #include "shell/pinmora_app_delegate.h"
 #include "shell/subsystems.h"
+#include "ui/action_table.h"
 #include "ui/clock_panel.h"
 #include "ui/coordinate_panel.h"
 #include "ui/details_tab.h"
 #include "ui/fitting_scroll_area.h"
-#include "ui/full_view_window.h"
 #include "ui/library_status.h"
-#include "ui/log_window.h"
 #include "ui/photo_panel.h"
 #include "ui/quiet_bar_widget.h"
+#include "ui/stored_bytes.h"
 #include "ui/theme.h"
 #include "ui/track_panel.h"
 
-#include <QApplication>
-#include <QCloseEvent>
 #include <QMenuBar>
 #include <QSplitter>
 #include <QTabWidget>
-#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 
-#include <utility>
+#include <string_view>
 
 namespace pinmora {
+namespace {
 
-MainWindow::MainWindow(Pinmora_AppDelegate &delegate, MapPane::MakePage makePage, QWidget *parent)
-    : QMainWindow(parent), delegate_(delegate), parts_(delegate.subsystems()),
-      makePage_(std::move(makePage)), actions_(this) {
+constexpr std::string_view columnsKey = "windowColumns";
+constexpr std::string_view listsKey = "windowLists";
+
+} // namespace
+
+MainWindow::MainWindow(const WorkWindowParts &parts)
+    : WorkWindow(parts, parts.delegate.interface.window, "windowGeometry") {
     setObjectName(QStringLiteral("mainWindow"));
-    setAcceptDrops(true);
-    const Appearance look = appearanceFrom(delegate.defaults);
-    applyColours(*qApp, look);
-    actions_.fill(*menuBar());
     addToolBar();
     auto *surface = new QWidget;
     auto *column = new QVBoxLayout(surface);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(new QuietBarWidget(delegate.interface.quietBar));
+    column->addWidget(new QuietBarWidget(delegate_.interface.quietBar));
     columns_ = new QSplitter(Qt::Horizontal);
     columns_->setChildrenCollapsible(false);
     column->addWidget(columns_, 1);
     setCentralWidget(surface);
     addLists();
     addTabs();
-    setStatusBar(
-        new LibraryStatus(parts_.counts, parts_.placeNames.awaited, delegate.interface.statusLine));
-    connectActions();
-    connectLooks(look);
+    setStatusBar(new LibraryStatus(subsystems_.counts, subsystems_.placeNames.awaited,
+                                   delegate_.interface.statusLine));
+    addMenus();
     restoreLayout();
-    applyStyleSheet(*qApp);
-    followWindow();
-    addSheets();
     photos_->focusList();
 }
 
-MainWindow::~MainWindow() {
-    delete fullView_; // windows of their own
-    delete log_;
+void MainWindow::addMenus() {
+    const Actions &actions = parts_.actions;
+    const std::vector<QMenu *> menus = actions.fill(*menuBar());
+    QMenu *const view = menus.at(static_cast<std::size_t>(MenuName::View));
+    view->addSeparator();
+    view->addMenu(photos_->sortMenu());
+    photos_->addAction(actions[ActionName::RemovePictures]);
+    QAction *const only = actions[ActionName::OnlyWithoutPosition];
+    QAction *const filter = photos_->onlyWithoutPosition();
+    connect(only, &QAction::toggled, filter, &QAction::setChecked);
+    connect(filter, &QAction::toggled, only, &QAction::setChecked);
 }
 
 void MainWindow::addToolBar() {
@@ -72,36 +74,37 @@ void MainWindow::addToolBar() {
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
     setContextMenuPolicy(Qt::NoContextMenu);
     using enum ActionName;
-    bar->addAction(actions_[AddPhotos]);
-    bar->addAction(actions_[LoadGpsData]);
+    const Actions &actions = parts_.actions;
+    bar->addAction(actions[AddPhotos]);
+    bar->addAction(actions[LoadGpsData]);
     bar->addSeparator();
-    bar->addAction(actions_[ApplyToAll]);
-    bar->addAction(actions_[SavePhotos]);
+    bar->addAction(actions[ApplyToAll]);
+    bar->addAction(actions[SavePhotos]);
     bar->addSeparator();
-    bar->addAction(actions_[Undo]);
-    bar->addAction(actions_[Redo]);
+    bar->addAction(actions[Undo]);
+    bar->addAction(actions[Redo]);
     auto *gap = new QWidget;
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(gap);
-    bar->addAction(actions_[Wizard]);
+    bar->addAction(actions[ShowWizard]);
 }
 
 void MainWindow::addLists() {
     photos_ = new PhotoPanel({.context = delegate_.library.managedObjectContext(),
-                              .pictureArray = parts_.arrays.pictureArray,
-                              .gaps = parts_.gaps,
-                              .order = parts_.photoOrder,
-                              .marks = &parts_.saveMarks,
-                              .thumbnails = parts_.thumbnails,
-                              .notifications = &delegate_.notifications,
-                              .dropArea = parts_.photoIntake.theBorder1,
-                              .removePicture = parts_.inspectorOutlets.removePictButton,
-                              .addPhotos = [this] { parts_.photoIntake.getFiles(); },
-                              .loadLogs = [this] { parts_.gpsIntake.getGPSFile(); },
-                              .trySample = [this] { parts_.sampleOuting.load(); },
-                              .fullSize = [this] { parts_.inspector.imageFullView(); }});
+                              .pictureArray = subsystems_.arrays.pictureArray,
+                              .gaps = subsystems_.gaps,
+                              .order = subsystems_.photoOrder,
+                              .marks = &subsystems_.saveMarks,
+                              .thumbnails = subsystems_.thumbnails,
+                              .notifications = parts_.toldOfSelection,
+                              .dropArea = &subsystems_.photoIntake.theBorder1,
+                              .removePicture = subsystems_.inspectorOutlets.removePictButton,
+                              .addPhotos = [this] { subsystems_.photoIntake.getFiles(); },
+                              .loadLogs = [this] { subsystems_.gpsIntake.getGPSFile(); },
+                              .trySample = [this] { subsystems_.sampleOuting.load(); },
+                              .fullSize = [this] { subsystems_.inspector.imageFullView(); }});
     auto *tracks = new TrackPanel(delegate_.library.managedObjectContext(),
-                                  parts_.arrays.gpsTrackArrayController,
+                                  subsystems_.arrays.gpsTrackArrayController,
                                   [this] { delegate_.library.removeAllGPSData(); });
     lists_ = new QSplitter(Qt::Vertical);
     lists_->setChildrenCollapsible(false);
@@ -138,65 +141,39 @@ void MainWindow::addTabs() {
 }
 
 QWidget *MainWindow::makeDetailsTab() {
-    return new DetailsTab({.details = parts_.details,
+    return new DetailsTab({.details = subsystems_.details,
                            .picture = delegate_.interface.preview.theImageView1,
-                           .pictureLoading = parts_.preview.loading,
-                           .rename = [this] { parts_.renaming.photoNameChange(); },
-                           .fullSize = [this] { parts_.inspector.imageFullView(); }});
+                           .pictureLoading = subsystems_.preview.loading,
+                           .rename = [this] { subsystems_.renaming.photoNameChange(); },
+                           .fullSize = [this] { subsystems_.inspector.imageFullView(); }});
 }
 
 QWidget *MainWindow::makePositionTab() {
     auto *page = new QWidget;
     auto *column = new QVBoxLayout(page);
     column->setContentsMargins(spacing, spacing, spacing, spacing);
-    column->addWidget(new MapPane(delegate_.interface.webView1, makePage_), 1);
+    column->addWidget(new MapPane(delegate_.interface.webView1, parts_.makePage), 1);
     column->addWidget(new FittingScrollArea(
-        {new CoordinatePanel(parts_.coordinates, delegate_.interface.addRemoveMarker),
-         new ClockPanel(parts_.matching, delegate_.editing,
-                        [this] { parts_.matcher.guessFromLatLon(); })}));
+        {new CoordinatePanel(subsystems_.coordinates, delegate_.interface.addRemoveMarker),
+         new ClockPanel(subsystems_.matching, delegate_.editing,
+                        [this] { subsystems_.matcher.guessFromLatLon(); })}));
     return page;
 }
 
-void MainWindow::followWindow() {
-    Window &window = delegate_.interface.window;
-    bindings_.watch(window.title, [this](const std::string &title) {
-        setWindowTitle(QString::fromStdString(title));
-    });
-    bindings_.watch(window.visible, [this](bool visible) { setVisible(visible); });
-    bindings_.keep(window.fronted.connect([this] {
-        setWindowState(windowState() & ~Qt::WindowMinimized);
-        show();
-        raise();
-        activateWindow();
-    }));
-}
-
-bool MainWindow::isLoading() const {
-    return delegate_.interface.loadRunning || delegate_.interface.progress.progressWindow.isUp();
-}
-
-bool MainWindow::isBusy() const {
-    return isLoading() || parts_.saveOutlets.saveWindow.isUp();
-}
-
-void MainWindow::whenIdle(std::function<void()> act) {
-    constexpr int lookAgain = 100; // ms
-    QTimer::singleShot(isBusy() ? lookAgain : 0, this, [this, act = std::move(act)]() mutable {
-        isBusy() ? whenIdle(std::move(act)) : act();
-    });
-}
-
-void MainWindow::quit() {
-    if (!isLoading() && delegate_.applicationShouldTerminate() == TerminateReply::Now) {
-        keepLayout();
-        QCoreApplication::quit();
+void MainWindow::restoreLayout() {
+    restoreGeometryOr({1280, 800});
+    if (!columns_->restoreState(storedBytes(delegate_.defaults, columnsKey))) {
+        columns_->setSizes({width() * 13 / 32, width() * 19 / 32});
+    }
+    if (!lists_->restoreState(storedBytes(delegate_.defaults, listsKey))) {
+        lists_->setSizes({440, 170});
     }
 }
 
-/// Whether the window may go is the controller's word.
-void MainWindow::closeEvent(QCloseEvent *event) {
-    event->ignore();
-    quit();
+void MainWindow::keepLayout() {
+    WorkWindow::keepLayout();
+    storeBytes(delegate_.defaults, columnsKey, columns_->saveState());
+    storeBytes(delegate_.defaults, listsKey, lists_->saveState());
 }
 
 } // namespace pinmora

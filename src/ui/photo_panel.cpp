@@ -65,7 +65,9 @@ PhotoPanel::PhotoPanel(PhotoPanelParts parts, QWidget *parent)
     auto *const inPlace = seamless(place);
     inPlace->addWidget(empty_);
     inPlace->addWidget(tablePage_);
-    new DropHighlight(parts_.dropArea, tr("Drop to add photos and logs"), place);
+    if (parts_.dropArea) {
+        new DropHighlight(*parts_.dropArea, tr("Drop to add photos and logs"), place);
+    }
 
     auto *const layout = seamless(this);
     layout->addWidget(makeHeading());
@@ -121,6 +123,7 @@ QWidget *PhotoPanel::makeTablePage() {
     auto *const page = new QWidget(this);
     table_ = new PhotoTable(*filter_, parts_.order, parts_.thumbnails, *sortMenu_, parts_.fullSize,
                             page);
+    table_->setMayBeNarrow(parts_.mayBeNarrow);
     noneSeen_ = makeNoneSeen();
     auto *const layout = seamless(page);
     layout->addWidget(table_, 1);
@@ -184,7 +187,7 @@ void PhotoPanel::showCounts() {
                         ? tr("%1 of %2").arg(locale.toString(seen), locale.toString(all))
                         : locale.toString(all));
     count_->setVisible(all > 0);
-    onlyWithoutBox_->setVisible(all > 0);
+    onlyWithoutBox_->setVisible(all > 0 && !parts_.mayBeNarrow);
     const bool isFirst = all > 0 && empty_->isVisible();
     empty_->setVisible(all == 0);
     tablePage_->setVisible(all > 0);

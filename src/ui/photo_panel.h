@@ -38,12 +38,13 @@ struct PhotoPanelParts {
     Thumbnails &thumbnails;
     /// Told of each change of the selection; null where another panel of the same list tells it.
     NotificationCentre *notifications;
-    dragDropArea &dropArea;
+    dragDropArea *dropArea = nullptr; ///< null: its window shows that files may be dropped
     Button &removePicture;
     std::function<void()> addPhotos;
-    std::function<void()> loadLogs;
-    std::function<void()> trySample;
-    std::function<void()> fullSize; ///< of the first selected photo
+    std::function<void()> loadLogs{};  ///< null: not offered
+    std::function<void()> trySample{}; ///< null: not offered
+    std::function<void()> fullSize;    ///< of the first selected photo
+    bool mayBeNarrow = false;          ///< where there is little room only names and times are seen
 };
 
 /// The list of photos with its heading and buttons, and while there is none, what to do. It takes

@@ -69,13 +69,22 @@ void PhotoTable::fitColumns() {
         metrics.horizontalAdvance(QStringLiteral("47.38402, 8.54671")) + 3 * spacing;
     const int longest =
         metrics.horizontalAdvance(QStringLiteral("-47.38402, -108.54671")) + 3 * spacing;
-    setMinimumWidth(PhotoDelegate::textIndent + spacing +
-                    metrics.horizontalAdvance(QStringLiteral("28 May 10:03:47")) + shortest + gap +
-                    verticalScrollBar()->sizeHint().width());
+    const int narrowest = PhotoDelegate::textIndent + spacing +
+                          metrics.horizontalAdvance(QStringLiteral("28 May 10:03:47")) +
+                          verticalScrollBar()->sizeHint().width();
+    const bool isNarrow = mayBeNarrow_ && width() < narrowest + shortest + gap;
+    setMinimumWidth(mayBeNarrow_ ? narrowest : narrowest + shortest + gap);
+    setColumnHidden(PhotoTableModel::Position, isNarrow);
+    setColumnHidden(PhotoTableModel::Gap, isNarrow);
     const int room = viewport()->width() - gap - name;
     const int position = room > longest ? longest + (room - longest) / 2 : std::max(room, shortest);
     horizontalHeader()->resizeSection(PhotoTableModel::Gap, gap);
     horizontalHeader()->resizeSection(PhotoTableModel::Position, position);
+}
+
+void PhotoTable::setMayBeNarrow(bool yes) {
+    mayBeNarrow_ = yes;
+    fitColumns();
 }
 
 void PhotoTable::resizeEvent(QResizeEvent *event) {

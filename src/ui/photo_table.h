@@ -23,6 +23,9 @@ public:
     PhotoTable(PhotoFilter &filter, PhotoOrder &order, Thumbnails &thumbnails, QMenu &sortMenu,
                std::function<void()> open, QWidget *parent = nullptr);
 
+    /// Whether it may be too narrow for positions and gaps, which are then left out.
+    void setMayBeNarrow(bool yes);
+
 protected:
     void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
@@ -38,6 +41,7 @@ private:
     void fitColumns();
 
     std::function<void()> open_;
+    bool mayBeNarrow_ = false;
     std::optional<QPoint> pressed_; ///< on a row, and what that becomes is open
     Connection thumbnailReady_;
 };

@@ -3,6 +3,7 @@
 #include "platform/notification_centre.h"
 #include "saving/renaming.h"
 #include "shell/inspector.h"
+#include "ui/name_typing.h"
 #include "ui/theme.h"
 
 #include <QLabel>
@@ -39,14 +40,7 @@ RenameDialog::RenameDialog(RenamingOutlets &outlets, Renaming &renaming,
     connect(original, &QPushButton::clicked, this, [&renaming] { renaming.revertPhotoNames(); });
     connect(cancel, &QPushButton::clicked, this, &RenameDialog::reject);
     connect(name_, &QLineEdit::textEdited, this, [this](const QString &text) {
-        TextField &edited = field();
-        if (!name_->property("begun").toBool()) {
-            name_->setProperty("begun", true);
-            notifications_.post(controlTextDidBeginEditing,
-                                static_cast<const TextField *>(&edited));
-        }
-        edited.text.set(text.toStdString());
-        notifications_.post(controlTextDidChange, static_cast<const TextField *>(&edited));
+        tellTyped(*name_, field(), text, notifications_);
         showOutcome();
     });
 }
@@ -62,7 +56,7 @@ TextField &RenameDialog::field() const {
 void RenameDialog::aboutToShow() {
     TextField &shown = field();
     name_->setText(QString::fromStdString(shown.text.get()));
-    name_->setProperty("begun", false);
+    beginTyping(*name_);
     const bool anySelected = !outlets_.pictureArray.selectedObjects().empty();
     selected_->setVisible(anySelected);
     QPushButton *const wanted = anySelected ? selected_ : all_;

@@ -13,6 +13,8 @@ const char *nameOf(Role role) {
         return "heading";
     case Role::Title:
         return "title";
+    case Role::Question:
+        return "question";
     case Role::Quiet:
         return "quiet";
     case Role::Strong:
@@ -25,6 +27,8 @@ const char *nameOf(Role role) {
         return "removal";
     case Role::Flat:
         return "flat";
+    case Role::Plain:
+        return "";
     case Role::Default:
         return "default";
     case Role::Strip:
@@ -41,6 +45,18 @@ const char *nameOf(Role role) {
         return "dashed";
     case Role::DropOver:
         return "dropOver";
+    case Role::Card:
+        return "card";
+    case Role::Steps:
+        return "steps";
+    case Role::Step:
+        return "step";
+    case Role::StepDone:
+        return "stepDone";
+    case Role::StepNow:
+        return "stepNow";
+    case Role::StepAhead:
+        return "stepAhead";
     }
     return "";
 }
@@ -49,9 +65,9 @@ const char *nameOf(Role role) {
 
 void setRole(QWidget *widget, Role role) {
     widget->setProperty("role", QLatin1StringView(nameOf(role)).toString());
-    if (role == Role::Title) {
+    if (role == Role::Title || role == Role::Question) {
         QFont larger = widget->font();
-        larger.setPointSizeF(larger.pointSizeF() * 1.3);
+        larger.setPointSizeF(larger.pointSizeF() * (role == Role::Title ? 1.3 : 1.65));
         widget->setFont(larger);
     }
     // Properties count only when the widget is styled anew.

@@ -48,7 +48,7 @@ void SheetDialog::follow(Window *host) {
     hide();
     QWidget *const widget = host ? widgetOf_(*host) : nullptr;
     QWidget *const wanted = widget ? widget : owner_;
-    if (parentWidget() != wanted) {
+    if (host && parentWidget() != wanted) {
         setParent(wanted, sheetFlags);
         setWindowModality(Qt::WindowModal);
     }

@@ -26,7 +26,7 @@ class SheetDialog : public QDialog {
 
 public:
     /// The sheet must outlive the dialog. Without `cancel` Escape does nothing. `owner` owns the
-    /// dialog while it is not up.
+    /// dialog until it is first up.
     SheetDialog(Sheet &sheet, WidgetOf widgetOf, std::function<void()> cancel, QWidget *owner);
 
     /// For a dialog that has been made because its sheet is up.

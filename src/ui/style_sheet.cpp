@@ -87,6 +87,14 @@ QPushButton[role="link"]:focus, QPushButton[role="flat"]:focus { border-color: @
 QPushButton[role="removal"]:focus { border-color: @warning; }
 QPushButton[role="link"]:disabled, QPushButton[role="removal"]:disabled,
 QPushButton[role="flat"]:disabled { color: @disabled; }
+QPushButton[role="card"] { background: @button; border: 1px solid @line; border-radius: 8px; }
+QPushButton[role="card"]:hover { border-color: @accent; }
+QPushButton[role="card"]:focus { border: 2px solid @accent; }
+QPushButton[role="card"]:pressed { background: @accentGround; }
+QPushButton[role="step"] { background: transparent; border: 1px solid transparent;
+    border-radius: 6px; }
+QPushButton[role="step"]:hover:enabled { background: @veil; }
+QPushButton[role="step"]:focus { border-color: @accent; }
 QToolButton[role="flat"] { background: transparent; border: 1px solid transparent;
     border-radius: 4px; padding: 2px; }
 QToolButton[role="flat"]:hover { background: @veil; }
@@ -113,12 +121,19 @@ QProgressBar::chunk { background: @accent; border-radius: 3px; }
 
 /// Labels, frames and lists.
 constexpr auto contentRules = R"(
-QLabel[role="heading"], QLabel[role="strong"], QDialog QLabel[role="title"] {
+QLabel[role="heading"], QLabel[role="strong"], QLabel[role="question"], QDialog QLabel[role="title"] {
     font-weight: bold; }
 QLabel[role="quiet"], QCheckBox[role="quiet"] { color: @quiet; }
 QLabel[role="problem"] { color: @warning; }
 QFrame[role="strip"] { background: @window; border: none; border-bottom: 1px solid @line; }
 QFrame[role="footer"] { background: @window; border: none; border-top: 1px solid @line; }
+QFrame[role="steps"] { background: @window; border: none; border-right: 1px solid @line; }
+QLabel[role="stepDone"], QLabel[role="stepNow"], QLabel[role="stepAhead"] {
+    border: 1px solid transparent; border-radius: 10px; min-width: 18px; max-width: 18px;
+    min-height: 18px; max-height: 18px; }
+QLabel[role="stepDone"] { background: @accentGround; color: @linkOnAccent; }
+QLabel[role="stepNow"] { background: @accent; color: @onAccent; font-weight: bold; }
+QLabel[role="stepAhead"] { border-color: @edge; color: @quiet; }
 QFrame[frameShape="4"], QFrame[frameShape="5"] { color: @line; }
 QFrame[role="content"] { background: @content; border: none; }
 QFrame[role="framed"] { background: @content; border: 1px solid @line; border-radius: 5px; }
@@ -162,6 +177,7 @@ QString styleSheetIn(const Colours &c) {
                     QLatin1StringView(contentRules);
     // Longer names first: a name may begin with another.
     const std::initializer_list<std::pair<const char *, QString>> values{
+        {"@linkOnAccent", readable(c.accent, {c.accentGround}).name()},
         {"@linkOnWarning", readable(c.accent, {c.warningGround}).name()},
         {"@warningGround", c.warningGround.name()},
         {"@accentGround", c.accentGround.name()},

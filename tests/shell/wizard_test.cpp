@@ -141,7 +141,14 @@ private Q_SLOTS:
                                     {"step4", 6}});
         row("none chosen any more",
             {{"latlon", 5}, {"step2", 2}, {"step4", 2}, {"next", 3}, {"right", 7}, {"back", 3}});
-        row("without a log", {{"step5", 2}, {"next", 4}, {"next", 7}, {"back", 4}, {"log", 2}},
+        row("without a log",
+            {{"step5", 2},
+             {"next", 4},
+             {"next", 7},
+             {"back", 4},
+             {"log", 2},
+             {"next", 4},
+             {"back", 2}},
             false);
     }
     void wayThroughThePages() {

@@ -23,7 +23,7 @@ QString counts(const WindowDesk &desk) {
 }
 
 void drop(WindowDesk &desk, const QStringList &paths) {
-    MainWindow &window = *desk.window;
+    QWidget &window = *desk.window;
     QMimeData files;
     QList<QUrl> urls;
     for (const QString &path : paths) {
@@ -284,7 +284,7 @@ private Q_SLOTS:
     void quitsAtOnceWithoutChanges() {
         WindowDesk desk;
         drop(desk, {outing});
-        QTimer::singleShot(0, desk.window.get(), [&] { desk.window->close(); });
+        QTimer::singleShot(0, desk.window, [&] { desk.window->close(); });
         QCOMPARE(QApplication::exec(), 0);
         QVERIFY(!desk.sheet());
     }
@@ -298,7 +298,7 @@ private Q_SLOTS:
         QVERIFY(desk.sheet() && desk.window->isVisible());
         QTest::keyClick(desk.sheet(), Qt::Key_Escape);
         QVERIFY(!desk.sheet());
-        QTimer::singleShot(0, desk.window.get(), [&] { desk.window->close(); });
+        QTimer::singleShot(0, desk.window, [&] { desk.window->close(); });
         QCOMPARE(QApplication::exec(), 0); // asked once, and not again
     }
 

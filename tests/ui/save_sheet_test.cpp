@@ -118,7 +118,7 @@ private Q_SLOTS:
         desk.button("Cancel")->click();
         QCOMPARE(cancelled, 2);
         bool idle = false;
-        desk.window->whenIdle([&] { idle = true; }); // nothing is loaded meanwhile
+        desk.windows->whenIdle([&] { idle = true; }); // nothing is loaded meanwhile
         QTest::qWait(0);
         QCoreApplication::processEvents();
         QVERIFY(!idle);

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "shell/desk.h"
-#include "ui/main_window.h"
 #include "ui/photo_table.h"
+#include "ui/program_windows.h"
+#include "ui/work_window.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -11,18 +12,23 @@
 #include <QTableView>
 #include <QTest>
 
-/// The program with its main window, driven as a person would.
+/// The program with its windows, driven as a person would.
 struct WindowDesk : Desk {
     explicit WindowDesk(QSize size = {1280, 800},
                         const std::filesystem::path &resources = PINMORA_SOURCE_DIR "/samples")
         : Desk(resources) {
         start();
-        window = std::make_unique<pinmora::MainWindow>(delegate, nullptr);
+        windows = std::make_unique<pinmora::ProgramWindows>(delegate, nullptr);
+        quitting = delegate.terminate.connect([this] { windows->quit(); });
+        turnToFront();
         window->resize(size);
-        quitting = delegate.terminate.connect([this] { window->quit(); });
-        static_cast<void>(QTest::qWaitForWindowExposed(window.get()));
     }
 
+    /// Goes on in the window that has come to the front.
+    void turnToFront() {
+        window = windows->windowInFront();
+        static_cast<void>(QTest::qWaitForWindowExposed(window));
+    }
     /// What an action has left for the turns of the event loop after it. The list follows a load
     /// when there is time.
     void settle() {
@@ -34,13 +40,13 @@ struct WindowDesk : Desk {
         });
         if (!QApplication::activeWindow()) { // a sheet has gone, and there is no window manager
             window->activateWindow();
-            static_cast<void>(QTest::qWaitForWindowActive(window.get()));
+            static_cast<void>(QTest::qWaitForWindowActive(window));
         }
         if (!followed) {
             qFatal("the list does not follow the library");
         }
     }
-    QAction *action(pinmora::ActionName name) const { return window->action(name); }
+    QAction *action(pinmora::ActionName name) const { return windows->action(name); }
     /// What is shown to assistive technology by this name; it must be there, and to be seen.
     template <class Widget>
     Widget *named(const char *name) const {
@@ -54,7 +60,8 @@ struct WindowDesk : Desk {
     QAbstractButton *button(const char *text) const {
         for (QWidget *top : QApplication::topLevelWidgets()) {
             for (auto *one : top->findChildren<QAbstractButton *>()) {
-                if (one->isVisible() && one->text() == QString::fromUtf8(text)) {
+                if (one->isVisible() &&
+                    one->text().remove(QLatin1Char('&')) == QString::fromUtf8(text)) {
                     return one;
                 }
             }
@@ -80,6 +87,7 @@ struct WindowDesk : Desk {
         return *parts().arrays.pictureArray.arrangedObjects().at(row);
     }
 
-    std::unique_ptr<pinmora::MainWindow> window;
+    std::unique_ptr<pinmora::ProgramWindows> windows;
+    pinmora::WorkWindow *window = nullptr; ///< the one that is worked in
     pinmora::Connection quitting;
 };

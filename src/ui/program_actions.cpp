@@ -1,0 +1,132 @@
+#include "ui/program_actions.h"
+
+#include "places/place_settings.h"
+#include "platform/defaults.h"
+#include "shell/pinmora_app_delegate.h"
+#include "shell/subsystems.h"
+#include "ui/look_setting.h"
+#include "ui/photo_panel.h"
+#include "ui/undo_keys.h"
+#include "ui/work_window.h"
+
+#include <QAction>
+#include <QMessageBox>
+#include <QStatusBar>
+
+#include <utility>
+
+namespace pinmora {
+namespace {
+
+constexpr int messageTime = 5'000; // ms
+
+} // namespace
+
+ProgramActions::ProgramActions(Pinmora_AppDelegate &delegate, Surroundings surroundings,
+                               QObject *parent)
+    : QObject(parent), delegate_(delegate), parts_(delegate.subsystems()),
+      surroundings_(std::move(surroundings)), actions_(this) {
+    connectFiles();
+    connectPhotos();
+    connectViews();
+    connectPlaceNames();
+    connectLooks(actions_, delegate.defaults, this);
+    followOutlets();
+    followCounts();
+    new UndoKeys(this);
+}
+
+void ProgramActions::on(ActionName name, std::function<void()> act) {
+    connect(actions_[name], &QAction::triggered, this, [act = std::move(act)] { act(); });
+}
+
+void ProgramActions::connectFiles() {
+    using enum ActionName;
+    on(AddPhotos, [this] { parts_.photoIntake.menuLoadPhotos(); });
+    on(LoadGpsData, [this] { parts_.gpsIntake.menuLoadGPSData(); });
+    on(SaveLibrary, [this] {
+        if (delegate_.library.saveAction()) {
+            surroundings_.windowInFront()->statusBar()->showMessage(tr("Library saved"),
+                                                                    messageTime);
+        }
+    });
+    on(SavePhotos, [this] { parts_.savePipeline.updatePicts(); });
+    on(RemoveAllPhotos, [this] { parts_.removeAllPhotos.openRemoveAll(); });
+    on(RemoveGpsData, [this] { delegate_.library.removeAllGPSData(); });
+    on(ActionName::SampleOuting, [this] { parts_.sampleOuting.load(); });
+    on(Quit, [this] { surroundings_.quit(); });
+}
+
+void ProgramActions::connectPhotos() {
+    using enum ActionName;
+    on(SelectAll, [this] {
+        if (PhotoPanel *const photos = surroundings_.windowInFront()->photos()) {
+            photos->selectAll();
+        }
+    });
+    on(FullSize, [this] { parts_.inspector.imageFullView(); });
+    on(Rename, [this] { parts_.renaming.photoNameChange(); });
+    on(OriginalNames, [this] { parts_.renaming.revertPhotoNames(); });
+    on(ApplyToAll, [this] { parts_.matcher.applyToAllPictures(); });
+}
+
+void ProgramActions::connectViews() {
+    using enum ActionName;
+    on(ShowPosition, [this] { delegate_.interface.mainTabs.selectedIdentifier.set("1"); });
+    on(ShowDetails, [this] { delegate_.interface.mainTabs.selectedIdentifier.set("2"); });
+    on(ShowLog, [this] { parts_.logWindow.makeKeyAndOrderFront(); });
+    on(About, [this] { tellAbout(); });
+}
+
+void ProgramActions::tellAbout() {
+    QMessageBox::about(surroundings_.windowInFront(), tr("About Pinmora"),
+                       tr("<h3>Pinmora</h3><p>Puts photographs on the map.</p><p>Your photos "
+                          "are only ever read; what Pinmora writes are copies.</p>"
+                          "<p>Place names: GeoNames, CC BY 4.0. Bundled map: Natural "
+                          "Earth.</p>"));
+}
+
+void ProgramActions::followOutlets() {
+    using enum ActionName;
+    // Elsewhere than in a list of photos the key means something else, or nothing.
+    actions_[RemovePictures]->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    bindings_.tie(parts_.undoCommands.undoItem, actions_[Undo]);
+    bindings_.tie(parts_.undoCommands.redoItem, actions_[Redo]);
+    bindings_.tie(parts_.inspectorOutlets.removePictButton, actions_[RemovePictures]);
+    bindings_.tie(parts_.matching.matchButton, actions_[MatchPhoto]);
+    bindings_.tie(parts_.matching.offsetButton, actions_[SetFromPosition]);
+    bindings_.tie(delegate_.interface.addRemoveMarker, actions_[ToggleMarker]);
+    bindings_.tie(parts_.wizardOutlets.useWizard, actions_[ShowWizard]);
+    bindings_.tie(parts_.wizardOutlets.useAdvanced, actions_[ShowMainWindow]);
+    actions_[ActionName::SampleOuting]->setEnabled(parts_.sampleOuting.isThere());
+}
+
+void ProgramActions::followCounts() {
+    using enum ActionName;
+    bindings_.watch(parts_.saveOutlets.savePhotosButton.enabled, [this](bool) { enableSave(); });
+    bindings_.watch(parts_.counts.counts, [this](const Counts &now) {
+        for (const ActionName name : {Rename, OriginalNames, SelectAll, RemoveAllPhotos}) {
+            actions_[name]->setEnabled(now.photos > 0);
+        }
+        enableSave();
+        actions_[ApplyToAll]->setEnabled(now.photos > 0 && now.points > 0);
+        actions_[RemoveGpsData]->setEnabled(now.tracks > 0);
+    });
+}
+
+void ProgramActions::enableSave() {
+    actions_[ActionName::SavePhotos]->setEnabled(parts_.counts.counts.get().photos > 0 &&
+                                                 parts_.saveOutlets.savePhotosButton.enabled.get());
+}
+
+void ProgramActions::connectPlaceNames() {
+    QAction *const action = actions_[ActionName::LookUpPlaces];
+    action->setChecked(looksUpPlaces(delegate_.defaults));
+    connect(action, &QAction::toggled, this, [this](bool on) {
+        delegate_.defaults.setText(lookUpPlacesKey, on ? "1" : "0");
+        delegate_.defaults.synchronize();
+        parts_.placeNames.setEnabled(on);
+    });
+}
+
+} // namespace pinmora

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ui/action_table.h"
+#include "ui/bindings.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace pinmora {
+
+class Pinmora_AppDelegate;
+class WorkWindow;
+struct Subsystems;
+
+/// Ties the actions that both windows have to what they do. What only one window can do, it ties
+/// itself.
+class ProgramActions : public QObject {
+    Q_OBJECT
+
+public:
+    struct Surroundings {
+        std::function<WorkWindow *()> windowInFront;
+        std::function<void()> quit;
+    };
+
+    /// The controller must have been set up, and must outlive it.
+    ProgramActions(Pinmora_AppDelegate &delegate, Surroundings surroundings,
+                   QObject *parent = nullptr);
+
+    Actions &actions() { return actions_; }
+
+private:
+    void on(ActionName name, std::function<void()> act);
+    void connectFiles();
+    void connectPhotos();
+    void connectViews();
+    void connectPlaceNames();
+    void followOutlets();
+    void followCounts();
+    void enableSave();
+    void tellAbout();
+
+    Pinmora_AppDelegate &delegate_;
+    Subsystems &parts_;
+    const Surroundings surroundings_;
+    Actions actions_;
+    Bindings bindings_; ///< goes before what it writes to
+};
+
+} // namespace pinmora

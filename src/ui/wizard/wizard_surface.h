@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ui/bindings.h"
+#include "ui/work_window.h"
+
+#include <QWidget>
+
+namespace pinmora {
+
+class DetailsColumn;
+
+/// The photos, and on the pages that show them, the map and what is known of the selected photo:
+/// one set for all pages.
+class WizardSurface : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit WizardSurface(const WorkWindowParts &parts, QWidget *parent = nullptr);
+
+    PhotoPanel *photos() const { return photos_; }
+    DetailsColumn &details() { return *details_; }
+
+private:
+    void addPhotos(const WorkWindowParts &parts);
+    void addMap(const WorkWindowParts &parts);
+    void addDetails(const WorkWindowParts &parts);
+
+    PhotoPanel *photos_ = nullptr;
+    DetailsColumn *details_ = nullptr;
+    Bindings bindings_; ///< goes before what it writes to
+};
+
+} // namespace pinmora
