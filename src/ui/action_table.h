@@ -53,6 +53,9 @@ enum class ActionName {
     CheckVersion,
     WebSite,
     ReportProblem,
+    CheckVersion,
+    WebSite,
+    ReportProblem,
     About,
 };
 
