@@ -87,13 +87,7 @@ struct Table {
                   "Open Pinmora's web site in the browser"},
         ActionRow{ReportProblem, MenuName::Help, "&Report a Problem…", "Ctrl+Alt+R", "",
                   "Tell the makers of Pinmora what went wrong"},
-        ActionRow{CheckVersion, MenuName::Help, "Check for a &New Version…", "Ctrl+Alt+N", "",
-              "Ask whether there is a newer Pinmora, and fetch it", true},
-    ActionRow{WebSite, MenuName::Help, "&Web Site", "Ctrl+Alt+W", "",
-              "Open Pinmora's web site in the browser"},
-    ActionRow{ReportProblem, MenuName::Help, "&Report a Problem…", "Ctrl+Alt+R", "",
-              "Tell the makers of Pinmora what went wrong"},
-    ActionRow{About, MenuName::Help, "&About Pinmora", "F1", "", "Version and licence", true},
+        ActionRow{About, MenuName::Help, "&About Pinmora", "F1", "", "Version and licence", true},
     };
 };
 

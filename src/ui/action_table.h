@@ -53,9 +53,6 @@ enum class ActionName {
     CheckVersion,
     WebSite,
     ReportProblem,
-    CheckVersion,
-    WebSite,
-    ReportProblem,
     About,
 };
 

@@ -4,6 +4,7 @@
 #include "platform/defaults.h"
 #include "shell/pinmora_app_delegate.h"
 #include "shell/subsystems.h"
+#include "ui/help_actions.h"
 #include "ui/look_setting.h"
 #include "ui/photo_panel.h"
 #include "ui/undo_keys.h"
@@ -31,6 +32,7 @@ ProgramActions::ProgramActions(Pinmora_AppDelegate &delegate, Surroundings surro
     connectViews();
     connectPlaceNames();
     connectLooks(actions_, delegate.defaults, this);
+    connectHelpActions(actions_, parts_.versionCheck, delegate.interface.workspace);
     followOutlets();
     followCounts();
     new UndoKeys(this);

@@ -13,6 +13,7 @@
 #include "ui/remove_all_dialog.h"
 #include "ui/rename_dialog.h"
 #include "ui/save_dialog.h"
+#include "ui/update_window.h"
 
 #include <QDesktopServices>
 #include <QUrl>
@@ -89,6 +90,11 @@ void ProgramSheets::addWindows() {
         if (visible && !log_) {
             log_ = std::make_unique<LogWindow>(parts_.logWindow, parts_.log,
                                                delegate_.interface.workspace);
+        }
+    });
+    bindings_.watch(parts_.versionCheck.testUpdate, [this](updateTest *update) {
+        if (update && !update_) {
+            update_ = std::make_unique<UpdateWindow>(*update);
         }
     });
     bindings_.keep(delegate_.interface.workspace.opened.connect(

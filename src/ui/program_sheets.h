@@ -13,6 +13,7 @@ namespace pinmora {
 class FullViewWindow;
 class LogWindow;
 class Pinmora_AppDelegate;
+class UpdateWindow;
 struct Subsystems;
 
 /// The sheets, which hang from whichever window a person works in, and the windows beside it.
@@ -37,6 +38,7 @@ private:
     QWidget owner_; ///< never seen: has the sheets until they are first up
     std::unique_ptr<FullViewWindow> fullView_;
     std::unique_ptr<LogWindow> log_;
+    std::unique_ptr<UpdateWindow> update_;
     Bindings bindings_; ///< goes before what it writes to
 };
 
