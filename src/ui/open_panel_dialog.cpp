@@ -3,8 +3,7 @@
 #include "outlets/open_panel.h"
 #include "platform/defaults.h"
 #include "ui/file_names.h"
-#include "ui/mount_points.h"
-#include "ui/theme.h"
+#include "ui/file_panel_look.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -13,12 +12,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStandardPaths>
-#include <QTreeView>
-#include <QUrl>
 
 namespace pinmora {
 
@@ -42,49 +37,6 @@ QStringList foldersOf(const QFileDialog &dialog) {
         }
     }
     return folders.isEmpty() ? QStringList{dialog.directory().absolutePath()} : folders;
-}
-
-/// Where photos and logs come from: the person's own folders, and cards and receivers that are
-/// plugged in.
-QList<QUrl> places() {
-    QList<QUrl> places;
-    for (const auto place : {QStandardPaths::HomeLocation, QStandardPaths::DesktopLocation,
-                             QStandardPaths::PicturesLocation, QStandardPaths::DownloadLocation}) {
-        const QUrl folder = QUrl::fromLocalFile(QStandardPaths::writableLocation(place));
-        if (!places.contains(folder) && QFileInfo::exists(folder.toLocalFile())) {
-            places << folder;
-        }
-    }
-    for (const std::string &point : mountPoints()) {
-        places << QUrl::fromLocalFile(QFile::decodeName(QByteArray::fromStdString(point)));
-    }
-    return places;
-}
-
-/// The toolkit's own dialog opens too narrow for a date to be read.
-void makeRoomy(QFileDialog &dialog) {
-    dialog.setSidebarUrls(places());
-    if (auto *list = dialog.findChild<QTreeView *>()) {
-        constexpr int typeColumn = 2;
-        list->setColumnHidden(typeColumn, true);
-        list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-        list->header()->setSectionResizeMode(3, QHeaderView::ResizeToContents);
-    }
-    dialog.resize(105 * spacing, 65 * spacing);
-}
-
-/// Its buttons carry pictures, and folders alone have only one type.
-void makeCalm(QFileDialog &dialog, bool hasTypes) {
-    if (const auto *buttons = dialog.findChild<QDialogButtonBox *>()) {
-        for (QAbstractButton *button : buttons->buttons()) {
-            button->setIcon({});
-        }
-    }
-    for (const char *name : {"fileTypeLabel", "fileTypeCombo"}) {
-        if (auto *widget = dialog.findChild<QWidget *>(QLatin1String(name))) {
-            widget->setVisible(hasTypes);
-        }
-    }
 }
 
 /// What stands in the field, where that is a folder. While a path is typed the toolkit marks each
@@ -148,7 +100,8 @@ void OpenPanelDialog::makeDialog(QWidget *parent) {
     }
     startAt(startFolder());
     makeRoomy(*dialog_);
-    makeCalm(*dialog_, panel_.canChooseFiles);
+    makeCalm(*dialog_);
+    showTypes(*dialog_, panel_.canChooseFiles);
     if (panel_.canChooseDirectories && panel_.canChooseFiles) {
         addFolderButton();
     }
