@@ -60,11 +60,16 @@ void MissingList::takeSelection() {
     const std::unordered_set<const image *> chosen(photos.begin(), photos.end());
     QItemSelection selection;
     int first = -1;
-    for (int row = 0; row < model_->rowCount(); ++row) {
-        if (chosen.contains(model_->photoAt(row))) {
-            const QModelIndex index = model_->index(row, MissingTableModel::Photo);
-            selection.merge({index, index}, QItemSelectionModel::Select);
-            first = first < 0 ? row : first;
+    const int count = model_->rowCount();
+    for (int row = 0; row < count; ++row) {
+        const int from = row;
+        while (row < count && chosen.contains(model_->photoAt(row))) {
+            ++row;
+        }
+        if (row > from) { // one range for all, else tens of thousands would be compared in pairs
+            selection.append({model_->index(from, MissingTableModel::Photo),
+                              model_->index(row - 1, MissingTableModel::Photo)});
+            first = first < 0 ? from : first;
         }
     }
     selectionModel()->select(selection,
