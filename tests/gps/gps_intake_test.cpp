@@ -76,6 +76,7 @@ private Q_SLOTS:
                             std::to_string(static_cast<int>(bar.maximum.get())) +
                             (desk.progress.progressWindow.isUp() ? "" : " closed"));
         });
+        desk.progress.progressIndic.value.set(9); // of a load before
         desk.intake.getGPSFile();
         desk.intake.panel.answer(logs);
         QVERIFY(!desk.intake.panel.sheet().isUp() && !desk.progress.progressWindow.isUp());

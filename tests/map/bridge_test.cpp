@@ -1,6 +1,5 @@
 #include "map/map_desk.h"
-
-#include <QTest>
+#include "rows.h"
 
 #include <limits>
 
@@ -18,57 +17,42 @@ private Q_SLOTS:
             desk.scripts += "pointer ";
         });
         desk.webView2.loaded.emit();
-        QCOMPARE(desk.scripts, std::string("pointer "));
+        QCOMPARE(desk.scripts, "pointer ");
         desk.scripts.clear();
         desk.webView1.loaded.emit();
-        QCOMPARE(desk.scripts, std::string("1:show_map() 2:show_map() pointer "));
+        QCOMPARE(desk.scripts, "1:show_map() 2:show_map() pointer ");
         desk.webView1.loaded.emit();
         QCOMPARE(wanted, 3);
     }
 
     void positions_data() {
-        QTest::addColumn<std::string>("said");
-        QTest::addColumn<std::string>("state"); // of the one selected photo
-        const auto row = [](const char *said, const char *state) {
-            QTest::newRow(said) << std::string(said) << std::string(state);
-        };
-        const char *const untouched = "1 2 5 - -";
+        // state: of the one selected photo
+        const auto row = test::rowsByValue<std::string, std::string>();
         row("51.50123:-0.12463:14", "51.50123 -0.12463 14 - map");
         row("+51.50:-.5:-1", "+51.50 -.5 -1 - map");
         row("90:-180:0", "90 -180 0 - map");
         row("47:8:3:and more", "47 8 3 - map");
-        row("", untouched);
-        row("::", untouched);
-        row("47:8", untouched);
-        row("47:8:", untouched);
-        row(":8:3", untouched);
-        row("90.0001:8:3", untouched);
-        row("47:180.5:3", untouched);
         row("47:8:3.7", "47 8 3 - map");
-        row("47:8:x", untouched);
-        row("47:8: 3", untouched);
-        row("47:8:99999999999", untouched);
-        row("47: 8:3", untouched);
-        row("47\n:8:3", untouched);
-        row("4e1:8:3", untouched);
-        row("nan:8:3", untouched);
-        row("0x10:8:3", untouched);
-        row("47,5:8:3", untouched);
-        row("47);alert(1:8:3", untouched);
-        row(("47." + std::string(61, '0') + ":8:3").c_str(),
-            ("47." + std::string(61, '0') + " 8 3 - map").c_str());
-        row(("47." + std::string(62, '0') + ":8:3").c_str(), untouched);
+        const std::string longest = "47." + std::string(61, '0');
+        row(longest + ":8:3", longest + " 8 3 - map");
+        row(longest + "0:8:3", "1 2 5 - -");
+        for (const char *untouched :
+             {"", "::", "47:8", "47:8:", ":8:3", "90.0001:8:3", "47:180.5:3", "47:8:x", "47:8: 3",
+              "47:8:99999999999", "47: 8:3", "47\n:8:3", "4e1:8:3", "nan:8:3", "0x10:8:3",
+              "47,5:8:3", "47);alert(1:8:3"}) {
+            row(untouched, "1 2 5 - -");
+        }
     }
 
     void positions() {
-        QFETCH(std::string, said);
+        const auto [said, state] = test::fetch<std::string, std::string>();
         MapDesk desk;
         image &photo = desk.addPhoto("1", "2");
         photo.setZoom(5);
         desk.pictureArray.select(&photo);
         desk.settle();
         desk.webView1.called.emit({"latLonJavascript", said});
-        QTEST(MapDesk::stateOf(photo), "state");
+        QCOMPARE(MapDesk::stateOf(photo), state);
         QCOMPARE(photo.getHasChanges(), desk.undo.canUndo());
     }
 
@@ -80,20 +64,20 @@ private Q_SLOTS:
         desk.pictureArray.setSelectedObjects({&a, &b});
         desk.settle();
         desk.bridge.latLonJavascript("-47.5:8.25:9");
-        QCOMPARE(MapDesk::stateOf(a), std::string("-47.5 8.25 9 - map"));
+        QCOMPARE(MapDesk::stateOf(a), "-47.5 8.25 9 - map");
         QCOMPARE(MapDesk::stateOf(b), MapDesk::stateOf(a));
-        QCOMPARE(a.lat_ref().string(), std::string("S"));
+        QCOMPARE(a.lat_ref().string(), "S");
         QCOMPARE(desk.shown.degree_lat(), degrees::Number(-47.5));
         QCOMPARE(desk.shown.degree_lon(), degrees::Number(8.25));
         QCoreApplication::processEvents();
-        QCOMPARE(desk.undo.undoActionName(), std::string("Place on Map"));
+        QCOMPARE(desk.undo.undoActionName(), "Place on Map");
         desk.undo.undo();
-        QCOMPARE(MapDesk::stateOf(a), std::string("  - - -"));
-        QCOMPARE(MapDesk::stateOf(b), std::string("1 2 - - -"));
+        QCOMPARE(MapDesk::stateOf(a), "  - - -");
+        QCOMPARE(MapDesk::stateOf(b), "1 2 - - -");
         QVERIFY(!desk.undo.canUndo());
         desk.undo.redo();
-        QCOMPARE(MapDesk::stateOf(a), std::string("-47.5 8.25 9 - map"));
-        QCOMPARE(MapDesk::stateOf(other), std::string("5 6 - - -"));
+        QCOMPARE(MapDesk::stateOf(a), "-47.5 8.25 9 - map");
+        QCOMPARE(MapDesk::stateOf(other), "5 6 - - -");
     }
 
     void nothingSelectedNothingPlaced() {
@@ -107,49 +91,44 @@ private Q_SLOTS:
 
     /// What was typed is in a step of its own, under the placement; what is unfit stops nothing.
     void typingIsTakenOverFirst_data() {
-        QTest::addColumn<bool>("fit");
-        QTest::newRow("fit") << true;
-        QTest::newRow("unfit") << false;
+        const auto row = test::rows<bool>();
+        row("fit", true);
+        row("unfit", false);
     }
 
     void typingIsTakenOverFirst() {
-        QFETCH(bool, fit);
+        const auto [fit] = test::fetch<bool>();
         MapDesk desk;
         image &photo = desk.addPhoto();
         desk.pictureArray.select(&photo);
         desk.settle();
-        const Connection editor = desk.editing.addEditor([&] {
+        const Connection editor = desk.editing.addEditor([&, fit = fit] {
             photo.setLat("1");
             return fit;
         });
         bool told = false;
         const Connection telling = desk.editing.ended.connect([&](bool) { told = true; });
         desk.bridge.latLonJavascript("47:8:3");
-        QCOMPARE(MapDesk::stateOf(photo), std::string("47 8 3 - map"));
+        QCOMPARE(MapDesk::stateOf(photo), "47 8 3 - map");
         QVERIFY(!told);
     }
 
     void zoomLevels_data() {
-        QTest::addColumn<int>("selected");
-        QTest::addColumn<std::string>("lat");
-        QTest::addColumn<double>("level");
-        QTest::addColumn<std::string>("state");
-        QTest::newRow("one") << 1 << std::string("47") << 13.0 << std::string("47 8 13 1 -");
-        QTest::newRow("between") << 1 << std::string("47") << 12.7 << std::string("47 8 12 1 -");
-        QTest::newRow("none") << 0 << std::string("47") << 13.0 << std::string("47 8 - - -");
-        QTest::newRow("two") << 2 << std::string("47") << 13.0 << std::string("47 8 - - -");
-        QTest::newRow("not placed") << 1 << std::string() << 13.0 << std::string(" 8 - - -");
-        for (const double level : {1e12, std::numeric_limits<double>::infinity(),
-                                   std::numeric_limits<double>::quiet_NaN()}) {
-            QTest::addRow("%f", level)
-                << 1 << std::string("47") << level << std::string("47 8 - - -");
+        const auto row = test::rows<int, std::string, double, std::string>();
+        row("one", 1, "47", 13.0, "47 8 13 1 -");
+        row("between", 1, "47", 12.7, "47 8 12 1 -");
+        row("none", 0, "47", 13.0, "47 8 - - -");
+        row("two", 2, "47", 13.0, "47 8 - - -");
+        row("not placed", 1, "", 13.0, " 8 - - -");
+        using Real = std::numeric_limits<double>;
+        for (const double level : {1e12, Real::infinity(), Real::quiet_NaN()}) {
+            row(std::to_string(level), 1, "47", level, "47 8 - - -");
         }
     }
 
     void zoomLevels() {
-        QFETCH(int, selected);
-        QFETCH(std::string, lat);
-        QFETCH(double, level);
+        const auto [selected, lat, level, state] =
+            test::fetch<int, std::string, double, std::string>();
         MapDesk desk;
         image &photo = desk.addPhoto(lat.c_str(), "8");
         std::vector<image *> photos{&photo, &desk.addPhoto("1", "2")};
@@ -157,27 +136,25 @@ private Q_SLOTS:
         desk.pictureArray.setSelectedObjects(photos);
         desk.settle();
         desk.webView2.called.emit({"zoomChangeJavascript", level});
-        QTEST(MapDesk::stateOf(photo), "state");
+        QCOMPARE(MapDesk::stateOf(photo), state);
         QCoreApplication::processEvents();
         QVERIFY(!desk.undo.canUndo());
         QVERIFY(!photo.getHasChanges());
     }
 
     void otherCallsAreIgnored_data() {
-        QTest::addColumn<std::string>("function");
-        QTest::addColumn<bool>("isNumber");
-        QTest::newRow("newMarker") << std::string("newMarker") << false;
-        QTest::newRow("mapLoadComplete") << std::string("mapLoadComplete") << false;
-        QTest::newRow("colon") << std::string("latLonJavascript:") << false;
-        QTest::newRow("position as a number") << std::string("latLonJavascript") << true;
-        QTest::newRow("zoom as a text") << std::string("zoomChangeJavascript") << false;
-        QTest::newRow("removePict") << std::string("removePict") << false;
-        QTest::newRow("none") << std::string() << true;
+        const auto row = test::rows<std::string, bool>();
+        row("newMarker", "newMarker", false);
+        row("mapLoadComplete", "mapLoadComplete", false);
+        row("colon", "latLonJavascript:", false);
+        row("position as a number", "latLonJavascript", true);
+        row("zoom as a text", "zoomChangeJavascript", false);
+        row("removePict", "removePict", false);
+        row("none", {}, true);
     }
 
     void otherCallsAreIgnored() {
-        QFETCH(std::string, function);
-        QFETCH(bool, isNumber);
+        const auto [function, isNumber] = test::fetch<std::string, bool>();
         MapDesk desk;
         desk.pictureArray.select(&desk.addPhoto("1", "2"));
         desk.settle();

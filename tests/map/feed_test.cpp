@@ -1,10 +1,10 @@
 #include "map/feed_messages.h"
 #include "map/map_desk.h"
+#include "rows.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTest>
 
 using namespace pinmora;
 using namespace std::chrono_literals;
@@ -176,20 +176,17 @@ private Q_SLOTS:
     }
 
     void selection_data() {
-        QTest::addColumn<int>("placed");
-        QTest::addColumn<int>("unplaced");
-        QTest::addColumn<bool>("clickPlaces");
-        QTest::addColumn<bool>("clickPlacesInWizard");
-        QTest::newRow("none") << 0 << 0 << false << false;
-        QTest::newRow("one placed") << 1 << 0 << false << true;
-        QTest::newRow("one unplaced") << 0 << 1 << true << true;
-        QTest::newRow("two unplaced") << 0 << 2 << false << true;
-        QTest::newRow("mixed") << 1 << 1 << false << true;
+        const auto row = test::rows<int, int, bool, bool>();
+        row("none", 0, 0, false, false);
+        row("one placed", 1, 0, false, true);
+        row("one unplaced", 0, 1, true, true);
+        row("two unplaced", 0, 2, false, true);
+        row("mixed", 1, 1, false, true);
     }
 
     void selection() {
-        QFETCH(int, placed);
-        QFETCH(int, unplaced);
+        const auto [placed, unplaced, clickPlaces, clickPlacesInWizard] =
+            test::fetch<int, int, bool, bool>();
         MapDesk desk;
         PageStub page(desk.webView1);
         PageStub wizards(desk.webView2);
@@ -207,8 +204,8 @@ private Q_SLOTS:
         desk.pictureArray.setSelectedObjects(photos);
         QTRY_COMPARE(page.selection[u"count"].toInt(), placed + unplaced);
         QCOMPARE(page.selection[u"ids"].toArray(), ids);
-        QTEST(page.selection[u"clickPlaces"].toBool(), "clickPlaces");
-        QTEST(wizards.selection[u"clickPlaces"].toBool(), "clickPlacesInWizard");
+        QCOMPARE(page.selection[u"clickPlaces"].toBool(), clickPlaces);
+        QCOMPARE(wizards.selection[u"clickPlaces"].toBool(), clickPlacesInWizard);
         if (unplaced == 1 && placed == 0) {
             photos.front()->updateLatAndLon({"1", "2"});
             QTRY_VERIFY(!page.selection[u"clickPlaces"].toBool());
@@ -217,38 +214,30 @@ private Q_SLOTS:
     }
 
     void hostileTexts_data() {
-        QTest::addColumn<QByteArray>("lat");
-        QTest::addColumn<QByteArray>("name");
-        QTest::addColumn<QString>("drawn");
-        const auto row = [](const char *lat, const QByteArray &name, const QString &drawn) {
-            QTest::addRow("%s %s", lat, name.toPercentEncoding().constData())
-                << QByteArray(lat) << name << drawn;
-        };
-        row("47", "</script><img onerror=alert(1)>",
-            QStringLiteral("</script><img onerror=alert(1)> 47 8|"));
-        row("47", "\"}],\"x\":[\\u0022\\", QStringLiteral("\"}],\"x\":[\\u0022\\ 47 8|"));
-        row("47", QByteArray("a\0b\n\x7f", 5), QString::fromLatin1("a\0b\n\x7f 47 8|", 11));
-        row("47", "Z\xC3\xBCrich \xE2\x80\xA8", QStringLiteral("Zürich \u2028 47 8|"));
-        row("47", "\xFF\xE2\x80", QStringLiteral("\uFFFD\uFFFD\uFFFD 47 8|"));
-        row("0);alert(1)//", "a", QString());
-        row("\"47\"", "a", QString());
-        row("4e1", "a", QString());
-        row("90.5", "a", QString());
-        row("nan", "a", QString());
-        row(" -07.50 ", "a", QStringLiteral("a -7.5 8|"));
-        row("+.5", "a", QStringLiteral("a 0.5 8|"));
+        const auto row = test::rowsByValue<QByteArray, QByteArray, QByteArray>();
+        row("47", "</script><img onerror=alert(1)>", "</script><img onerror=alert(1)> 47 8|");
+        row("47", "\"}],\"x\":[\\u0022\\", "\"}],\"x\":[\\u0022\\ 47 8|");
+        row("47", QByteArray("a\0b\n\x7f", 5), QByteArray("a\0b\n\x7f 47 8|", 11));
+        row("47", "Z\xC3\xBCrich \xE2\x80\xA8", "Zürich \u2028 47 8|");
+        row("47", "\xFF\xE2\x80", "\uFFFD\uFFFD\uFFFD 47 8|");
+        row("0);alert(1)//", "a", "");
+        row("\"47\"", "a", "");
+        row("4e1", "a", "");
+        row("90.5", "a", "");
+        row("nan", "a", "");
+        row(" -07.50 ", "a", "a -7.5 8|");
+        row("+.5", "a", "a 0.5 8|");
     }
 
     void hostileTexts() {
-        QFETCH(QByteArray, lat);
-        QFETCH(QByteArray, name);
+        const auto [lat, name, drawn] = test::fetch<QByteArray, QByteArray, QByteArray>();
         MapDesk desk;
         PageStub page(desk.webView1);
         image &photo = desk.addPhoto(lat.constData(), "8");
         photo.setImage_name(name.toStdString());
         addTrack(desk, 1).points().front()->setLat(lat.toStdString());
         desk.webView1.loaded.emit();
-        QTEST(page.drawn(), "drawn");
+        QCOMPARE(page.drawn().toUtf8(), drawn);
         QCOMPARE(page.tracks.size(), page.photos.size());
     }
 
@@ -268,18 +257,17 @@ private Q_SLOTS:
     }
 
     void manyPointsAreThinned_data() {
-        QTest::addColumn<QList<int>>("tracks"); // how many points each has
-        QTest::addColumn<int>("most");
-        QTest::newRow("few") << QList{5, 1} << 6;
-        QTest::newRow("one too many") << QList{5, 2} << 6;
-        QTest::newRow("many") << QList{1000, 1, 2, 3, 777} << 100;
-        QTest::newRow("barely more than ends") << QList{50, 50, 50} << 7;
-        QTest::newRow("ends only") << QList{50, 50, 50} << 6;
+        // tracks: how many points each has
+        const auto row = test::rows<QList<int>, int>();
+        row("few", QList{5, 1}, 6);
+        row("one too many", QList{5, 2}, 6);
+        row("many", QList{1000, 1, 2, 3, 777}, 100);
+        row("barely more than ends", QList{50, 50, 50}, 7);
+        row("ends only", QList{50, 50, 50}, 6);
     }
 
     void manyPointsAreThinned() {
-        QFETCH(QList<int>, tracks);
-        QFETCH(int, most);
+        const auto [tracks, most] = test::fetch<QList<int>, int>();
         MapDesk desk;
         int all = 0;
         for (const int points : tracks) {

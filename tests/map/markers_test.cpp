@@ -1,6 +1,5 @@
 #include "map/map_desk.h"
-
-#include <QTest>
+#include "rows.h"
 
 using namespace pinmora;
 
@@ -9,18 +8,12 @@ class MarkersTest : public QObject {
 
 private Q_SLOTS:
     void adding_data() {
-        QTest::addColumn<bool>("wizard");
-        QTest::addColumn<int>("selected");
-        QTest::addColumn<std::string>("last"); // "LAT,LON,ZOOM" of the photo shown last; "": none
-        QTest::addColumn<std::string>("script");
-        QTest::addColumn<std::string>("state");
-        const auto row = [](const char *what, int selected, const char *last, const char *script,
-                            const char *state) {
-            for (const bool wizard : {false, true}) {
-                QTest::addRow("%s%s", what, wizard ? ", wizard" : "")
-                    << wizard << selected << std::string(last) << std::string(script)
-                    << std::string(state);
-            }
+        // last: "LAT,LON,ZOOM" of the photo shown last; "": none
+        const auto add = test::rows<bool, int, std::string, std::string, std::string>();
+        const auto row = [&](const std::string &what, int selected, const char *last,
+                             const char *script, const char *state) {
+            add(what, false, selected, last, script, state);
+            add(what + ", wizard", true, selected, last, script, state);
         };
         row("nothing shown yet", 1, "", "addNewMarkerToMap(0,0,1)", "  - - -");
         row("none selected", 0, "47.10,-8.2,14", "addNewMarkerToMap(47.10,-8.2,14)", "  - - -");
@@ -33,10 +26,8 @@ private Q_SLOTS:
     }
 
     void adding() {
-        QFETCH(bool, wizard);
-        QFETCH(int, selected);
-        QFETCH(std::string, last);
-        QFETCH(std::string, script);
+        const auto [wizard, selected, last, script, state] =
+            test::fetch<bool, int, std::string, std::string, std::string>();
         MapDesk desk;
         std::vector<image *> photos{&desk.addPhoto(), &desk.addPhoto(), &desk.addPhoto()};
         image &first = *photos.front();
@@ -54,7 +45,7 @@ private Q_SLOTS:
         Button &button = wizard ? desk.addRemoveMarker2 : desk.addRemoveMarker;
         button.press();
         QCOMPARE(desk.scripts, (wizard ? "2:" : "1:") + script + " ");
-        QTEST(MapDesk::stateOf(first), "state");
+        QCOMPARE(MapDesk::stateOf(first), state);
         QCOMPARE(button.title.get(),
                  std::string(selected > 1 ? "Remove Markers" : "Remove Marker"));
         QCOMPARE(button.tag, 1);
@@ -65,17 +56,15 @@ private Q_SLOTS:
     }
 
     void removing_data() {
-        QTest::addColumn<bool>("wizard");
-        QTest::addColumn<int>("selected");
+        const auto row = test::rowsByValue<bool, int>();
         for (const int selected : {0, 1, 3}) {
-            QTest::addRow("%d", selected) << false << selected;
-            QTest::addRow("%d, wizard", selected) << true << selected;
+            row(false, selected);
+            row(true, selected);
         }
     }
 
     void removing() {
-        QFETCH(bool, wizard);
-        QFETCH(int, selected);
+        const auto [wizard, selected] = test::fetch<bool, int>();
         MapDesk desk;
         std::vector<image *> photos;
         for (int i = 0; i < 3; ++i) {
@@ -96,26 +85,26 @@ private Q_SLOTS:
         button.tag = 1;
         button.press();
         QCOMPARE(desk.scripts, std::string(wizard ? "2:removePointer() " : "1:removePointer() "));
-        QCOMPARE(button.title.get(), std::string("Add Marker"));
+        QCOMPARE(button.title.get(), "Add Marker");
         QCOMPARE(button.tag, 0);
         QCOMPARE(desk.offsetButton2.enabled.get(), !wizard);
         for (const image *photo : photos) {
-            QCOMPARE(MapDesk::stateOf(*photo), std::string("  - - -"));
+            QCOMPARE(MapDesk::stateOf(*photo), "  - - -");
             for (const char *key : {"city", "prov", "country", "lat_ref", "lon_ref"}) {
                 QCOMPARE(photo->valueForKey(key).toText(), Text(""));
             }
             QVERIFY(photo->getHasChanges());
         }
-        QCOMPARE(MapDesk::stateOf(kept), std::string("5 6 - - -"));
+        QCOMPARE(MapDesk::stateOf(kept), "5 6 - - -");
         QCoreApplication::processEvents();
         QCOMPARE(desk.undo.undoActionName(), std::string(selected == 0   ? ""
                                                          : selected == 1 ? "Remove Marker"
                                                                          : "Remove Markers"));
         desk.undo.undo();
         for (const image *photo : all) {
-            QCOMPARE(MapDesk::stateOf(*photo), std::string("-47 -8 9 - map"));
-            QCOMPARE(photo->country().string(), std::string("Peru"));
-            QCOMPARE(photo->lat_ref().string(), std::string("S"));
+            QCOMPARE(MapDesk::stateOf(*photo), "-47 -8 9 - map");
+            QCOMPARE(photo->country().string(), "Peru");
+            QCOMPARE(photo->lat_ref().string(), "S");
         }
     }
 
@@ -129,10 +118,10 @@ private Q_SLOTS:
             return std::to_string(one) + desk.addRemoveMarker.title.get() +
                    std::to_string(desk.addRemoveMarker2.tag);
         };
-        QCOMPARE(saidFor({&placed}), std::string("1Remove Marker1"));
-        QCOMPARE(saidFor({&placed, &unplaced}), std::string("0Remove Marker1"));
-        QCOMPARE(saidFor({&unplaced}), std::string("1Add Marker0"));
-        QCOMPARE(saidFor({}), std::string("0Add Marker0"));
+        QCOMPARE(saidFor({&placed}), "1Remove Marker1");
+        QCOMPARE(saidFor({&placed, &unplaced}), "0Remove Marker1");
+        QCOMPARE(saidFor({&unplaced}), "1Add Marker0");
+        QCOMPARE(saidFor({}), "0Add Marker0");
     }
 
     void pointerFollowsInTheActiveMap() {
@@ -142,7 +131,7 @@ private Q_SLOTS:
         desk.markers.updateMap({"47.10", "8);alert(1"});
         desk.applying = true;
         desk.markers.updateMap({"1", "2"});
-        QCOMPARE(desk.scripts, std::string("1:movePointer(47.10,-8,'') 2:removePointer() "));
+        QCOMPARE(desk.scripts, "1:movePointer(47.10,-8,'') 2:removePointer() ");
     }
 };
 

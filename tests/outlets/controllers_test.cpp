@@ -2,8 +2,6 @@
 
 #include <QTest>
 
-#include <memory>
-
 using namespace pinmora;
 
 namespace {
@@ -84,16 +82,16 @@ class ControllersTest : public QObject {
 private Q_SLOTS:
     void arrangement() {
         Table table("bAcB");
-        QCOMPARE(names(table.array.arrangedObjects()), std::string("bAcB"));
+        QCOMPARE(names(table.array.arrangedObjects()), "bAcB");
         table.sortDownwards();
-        QCOMPARE(names(table.array.arrangedObjects()), std::string("cbBA"));
+        QCOMPARE(names(table.array.arrangedObjects()), "cbBA");
         table.array.setFilter(isCapital);
-        QCOMPARE(names(table.array.arrangedObjects()), std::string("BA"));
+        QCOMPARE(names(table.array.arrangedObjects()), "BA");
         // Equal objects keep their order.
         table.array.setFilter({});
         table.array.setSort(
             [](const Thing &a, const Thing &b) { return isCapital(a) < isCapital(b); });
-        QCOMPARE(names(table.array.arrangedObjects()), std::string("bcAB"));
+        QCOMPARE(names(table.array.arrangedObjects()), "bcAB");
     }
 
     void changesCostNothingUntilSomebodyLooks() {
@@ -101,32 +99,32 @@ private Q_SLOTS:
         for (char name = 'a'; name <= 'z'; ++name) {
             table.add(name);
         }
-        QCOMPARE(table.array.count(), std::size_t{26});
-        QCOMPARE(table.takeHeard(), std::string("a"));
+        QCOMPARE(table.array.count(), 26U);
+        QCOMPARE(table.takeHeard(), "a");
         QCOMPARE(table.fetches, 0);
         table.array.setFilter(isCapital); // counting was looking
-        QCOMPARE(table.array.count(), std::size_t{0});
+        QCOMPARE(table.array.count(), 0U);
         QCOMPARE(table.fetches, 1);
         table.add('A');
-        QCOMPARE(table.takeHeard(), std::string("aa"));
-        QCOMPARE(table.array.count(), std::size_t{1});
+        QCOMPARE(table.takeHeard(), "aa");
+        QCOMPARE(table.array.count(), 1U);
     }
 
     void selectionIsInArrangedOrder() {
         Table table("abcd");
         table.array.setSelectedObjects(table.named("dab"));
-        QCOMPARE(names(table.array.selectedObjects()), std::string("abd"));
+        QCOMPARE(names(table.array.selectedObjects()), "abd");
         table.sortDownwards();
-        QCOMPARE(names(table.array.selectedObjects()), std::string("dba"));
-        QCOMPARE(table.array.firstSelectedObject()->name, std::string("d"));
+        QCOMPARE(names(table.array.selectedObjects()), "dba");
+        QCOMPARE(table.array.firstSelectedObject()->name, "d");
         table.takeHeard();
         table.array.setSelectedObjects(table.named("bad")); // the same
         QCOMPARE(table.takeHeard(), std::string());
         table.array.select(table.named("c").front());
-        QCOMPARE(names(table.array.selectedObjects()), std::string("c"));
+        QCOMPARE(names(table.array.selectedObjects()), "c");
         table.array.setSelectedObjects({});
         QCOMPARE(table.array.firstSelectedObject(), nullptr);
-        QCOMPARE(table.takeHeard(), std::string("ss"));
+        QCOMPARE(table.takeHeard(), "ss");
     }
 
     void whatHasGoneLeavesTheSelection() {
@@ -134,20 +132,20 @@ private Q_SLOTS:
         table.array.setSelectedObjects(table.named("aBc"));
         table.takeHeard();
         table.remove("a"); // destroyed, and looked for by its address alone
-        QCOMPARE(names(table.array.selectedObjects()), std::string("Bc"));
-        QCOMPARE(table.takeHeard(), std::string("as"));
+        QCOMPARE(names(table.array.selectedObjects()), "Bc");
+        QCOMPARE(table.takeHeard(), "as");
 
         // Hidden by a filter is gone, too.
         table.array.setFilter(isCapital);
-        QCOMPARE(names(table.array.selectedObjects()), std::string("B"));
+        QCOMPARE(names(table.array.selectedObjects()), "B");
         table.array.setFilter({});
-        QCOMPARE(names(table.array.selectedObjects()), std::string("B"));
+        QCOMPARE(names(table.array.selectedObjects()), "B");
 
         table.array.setSelectedObjects(table.named("BD"));
         table.takeHeard();
         table.array.contentLost(table.named("B").front());
         table.array.contentLost(table.named("D").front());
-        QCOMPARE(table.takeHeard(), std::string("as")); // nobody has looked in between
+        QCOMPARE(table.takeHeard(), "as"); // nobody has looked in between
         QVERIFY(table.array.selectedObjects().empty());
     }
 
@@ -156,12 +154,12 @@ private Q_SLOTS:
         table.array.setSelectedObjects(table.named("bd"));
         table.takeHeard();
         table.array.removeObjects(table.named("ab"));
-        QCOMPARE(names(table.array.selectedObjects()), std::string("d"));
-        QCOMPARE(table.takeHeard(), std::string("as"));
+        QCOMPARE(names(table.array.selectedObjects()), "d");
+        QCOMPARE(table.takeHeard(), "as");
         table.array.remove();
         table.array.remove();
-        QCOMPARE(names(table.array.arrangedObjects()), std::string("ce"));
-        QCOMPARE(table.takeHeard(), std::string("as"));
+        QCOMPARE(names(table.array.arrangedObjects()), "ce");
+        QCOMPARE(table.takeHeard(), "as");
     }
 };
 

@@ -1,8 +1,7 @@
 #include "outlets/editing.h"
 #include "outlets/selector.h"
 #include "outlets/stepper.h"
-
-#include <QTest>
+#include "rows.h"
 
 using namespace pinmora;
 
@@ -13,43 +12,36 @@ class ControlsTest : public QObject {
 
 private Q_SLOTS:
     void stepping_data() {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<bool>("wraps");
-        QTest::addColumn<Steps>("steps");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<int>("times");
-
-        QTest::newRow("up and down") << 30 << false << Steps{1, 3, -2} << 32 << 3;
-        QTest::newRow("stays at the top") << 58 << false << Steps{1, 1, 1} << 59 << 1;
-        QTest::newRow("stays at the bottom") << 3 << false << Steps{-5, -1} << 0 << 1;
-        QTest::newRow("over the top") << 59 << true << Steps{1} << 0 << 1;
-        QTest::newRow("under the bottom") << 0 << true << Steps{-1} << 59 << 1;
-        QTest::newRow("several times around") << 1 << true << Steps{-122} << 59 << 1;
-        QTest::newRow("once around") << 1 << true << Steps{60} << 1 << 0;
-        QTest::newRow("from beyond the range") << 900 << false << Steps{-1} << 58 << 1;
-        QTest::newRow("very far") << 1 << false << Steps{INT_MAX, INT_MIN} << 0 << 2;
+        const auto row = test::rows<int, bool, Steps, int, int>();
+        row("up and down", 30, false, {1, 3, -2}, 32, 3);
+        row("stays at the top", 58, false, {1, 1, 1}, 59, 1);
+        row("stays at the bottom", 3, false, {-5, -1}, 0, 1);
+        row("over the top", 59, true, {1}, 0, 1);
+        row("under the bottom", 0, true, {-1}, 59, 1);
+        row("several times around", 1, true, {-122}, 59, 1);
+        row("once around", 1, true, {60}, 1, 0);
+        row("from beyond the range", 900, false, {-1}, 58, 1);
+        row("very far", 1, false, {INT_MAX, INT_MIN}, 0, 2);
     }
 
     void stepping() {
-        QFETCH(int, from);
-        QFETCH(bool, wraps);
-        QFETCH(Steps, steps);
+        const auto [from, wraps, steps, value, times] = test::fetch<int, bool, Steps, int, int>();
         Stepper stepper;
         stepper.maximum = 59;
         stepper.wraps = wraps;
         stepper.value.set(from);
-        int times = 0;
-        const Connection connection = stepper.stepped.connect([&] { ++times; });
+        int heard = 0;
+        const Connection connection = stepper.stepped.connect([&] { ++heard; });
         for (int step : steps) {
             stepper.stepBy(step);
         }
-        QTEST(stepper.value.get(), "value");
-        QTEST(times, "times");
+        QCOMPARE(stepper.value.get(), value);
+        QCOMPARE(heard, times);
 
         stepper.enabled.set(false);
         stepper.stepBy(-1);
         stepper.stepBy(1);
-        QTEST(stepper.value.get(), "value");
+        QCOMPARE(stepper.value.get(), value);
     }
 
     void choosingTheSameAgainIsAChoice() {

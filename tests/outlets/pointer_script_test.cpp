@@ -1,6 +1,5 @@
 #include "outlets/pointer_script.h"
-
-#include <QTest>
+#include "rows.h"
 
 using namespace pinmora;
 
@@ -9,34 +8,22 @@ class PointerScriptTest : public QObject {
 
 private Q_SLOTS:
     void positions_data() {
-        QTest::addColumn<std::string>("lat");
-        QTest::addColumn<std::string>("lon");
-        QTest::addColumn<std::string>("arguments"); // "": no numbers
+        // arguments: "": no numbers
+        const auto row = test::rowsByValue<std::string, std::string, std::string>();
 
-        const auto row = [](const std::string &lat, const std::string &lon,
-                            const std::string &arguments) {
-            QTest::addRow("%s, %s", lat.c_str(), lon.c_str()) << lat << lon << arguments;
-        };
         row("47.0", "8", "47.0,8");
         row(" -47.5 ", "+.5", "-47.5,+.5");
         row("07.50", "-008.", "7.50,-8.");
         row("00.5", "000", "0.5,0");
-        row("47", "-.", "");
-        row("4.7.1", "8", "");
-        row("4 7", "8", "");
-        row("1e2", "8", "");
-        row("47,5", "8", "");
-        row("0x10", "8", "");
-        row("47", "8);alert(1", "");
-        row("nan", "inf", "");
-        row("--1", "1-", "");
-        row("47\u2028", "8", "");
+        for (const char *unfit : {"-.", "4.7.1", "4 7", "1e2", "47,5", "0x10", "8);alert(1", "nan",
+                                  "inf", "--1", "1-", "47\u2028"}) {
+            row(unfit, "8", "");
+            row("47", unfit, "");
+        }
     }
 
     void positions() {
-        QFETCH(std::string, lat);
-        QFETCH(std::string, lon);
-        QFETCH(std::string, arguments);
+        const auto [lat, lon, arguments] = test::fetch<std::string, std::string, std::string>();
         const bool fit = !arguments.empty();
         QCOMPARE(pointerScript(lat, lon, 7),
                  fit ? "movePointer(" + arguments + ",7,'')" : "removePointer()");
@@ -45,26 +32,22 @@ private Q_SLOTS:
     }
 
     void noPositionIsNoPlaceButAPlaceToBegin() {
-        QCOMPARE(pointerScript("", "8"), std::string("removePointer()"));
-        QCOMPARE(pointerScript("47", "", 7, "a"), std::string("removePointer()"));
-        QCOMPARE(newMarkerScript("", "", 4), std::string("addNewMarkerToMap(0,0,4)"));
+        QCOMPARE(pointerScript("", "8"), "removePointer()");
+        QCOMPARE(pointerScript("47", "", 7, "a"), "removePointer()");
+        QCOMPARE(newMarkerScript("", "", 4), "addNewMarkerToMap(0,0,4)");
     }
 
     void labels_data() {
-        QTest::addColumn<std::string>("label");
-        QTest::addColumn<std::string>("quoted");
-        QTest::newRow("plain") << std::string("IMG_1") << std::string("IMG_1");
-        QTest::newRow("script") << std::string("');alert(1)//") << std::string("\\x27);alert(1)//");
-        QTest::newRow("escapes") << std::string("\\'\"</a\n")
-                                 << std::string("\\x5c\\x27\\x22\\x3c/a\\x0a");
-        QTest::newRow("line ends")
-            << std::string("Zürich\u2028\u2029\u2027") << std::string("Zürich\\u2028\\u2029\u2027");
-        QTest::newRow("cut off") << std::string("a\xE2\x80") << std::string("a\xE2\x80");
+        const auto row = test::rows<std::string, std::string>();
+        row("plain", "IMG_1", "IMG_1");
+        row("script", "');alert(1)//", "\\x27);alert(1)//");
+        row("escapes", "\\'\"</a\n", "\\x5c\\x27\\x22\\x3c/a\\x0a");
+        row("line ends", "Zürich\u2028\u2029\u2027", "Zürich\\u2028\\u2029\u2027");
+        row("cut off", "a\xE2\x80", "a\xE2\x80");
     }
 
     void labels() {
-        QFETCH(std::string, label);
-        QFETCH(std::string, quoted);
+        const auto [label, quoted] = test::fetch<std::string, std::string>();
         QCOMPARE(pointerScript("1", "2", 3, label), "movePointerWithZoom(1,2,3,'" + quoted + "')");
     }
 };
