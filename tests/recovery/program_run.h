@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files.h"
 #include "gps/gps.h"
 #include "outlets/error_sheet.h"
 #include "outlets/progress_sheet.h"
@@ -14,8 +15,6 @@
 #include <QString>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -152,24 +151,14 @@ inline std::string logText(unsigned salt, int points) {
     return text + "</trkseg></trk></gpx>";
 }
 
-inline std::filesystem::path writeFile(const std::filesystem::path &path, std::string_view bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-    return path;
-}
-
-inline std::string readFile(const std::filesystem::path &path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 /// The names of the photos, with their comments.
-inline QString photos(ProgramRun &program) {
+inline std::string photos(ProgramRun &program) {
     std::string names;
     for (const image *photo : program.context().records<image>()) {
         names += (names.empty() ? "" : " ") + photo->image_name().string();
         names += photo->comments().hasValue() ? "=" + photo->comments().string() : "";
     }
-    return QString::fromStdString(names);
+    return names;
 }
 
 inline image &photo(ProgramRun &program, std::string_view name) {
@@ -181,18 +170,12 @@ inline image &photo(ProgramRun &program, std::string_view name) {
     throw std::runtime_error("no photo " + std::string(name));
 }
 
-inline QString bringBackAll(ProgramRun &program) {
+inline std::string bringBackAll(ProgramRun &program) {
     std::string errors;
     for (const RecoveryOffer &offer : program.offers()) {
         errors += program.recovered().bringBack(offer).value_or("");
     }
-    return QString::fromStdString(errors);
-}
-
-inline std::size_t filesIn(const std::filesystem::path &folder) {
-    std::error_code none;
-    return static_cast<std::size_t>(
-        std::distance(std::filesystem::directory_iterator(folder, none), {}));
+    return errors;
 }
 
 } // namespace pinmora::test

@@ -138,7 +138,7 @@ private:
     }
     void import(ProgramRun &program) {
         const unsigned salt = number(100);
-        const auto log = writeFile(logs_ / "log", logText(salt, static_cast<int>(number(5))));
+        const auto log = put(logs_ / "log", logText(salt, static_cast<int>(number(5))));
         program.import(log, number(2) == 0 ? LogReading::Exact : LogReading::Tolerant);
     }
 
