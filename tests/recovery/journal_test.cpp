@@ -145,6 +145,7 @@ private Q_SLOTS:
                     }
                     if (thread.flush()) {
                         onDisk.push_back(step);
+                        QVERIFY(files.callsLeft >= 0); // no call has failed
                     }
                 }
                 hasSucceeded = onDisk.size() == 3;

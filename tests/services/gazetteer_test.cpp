@@ -1,13 +1,9 @@
+#include "rows.h"
 #include "services/bundled_files.h"
 #include "services/gazetteer.h"
 #include "services/gunzip.h"
 
-#include <QTest>
-
 #include <cmath>
-#include <string>
-#include <string_view>
-#include <vector>
 
 using namespace pinmora;
 
@@ -31,11 +27,7 @@ class GazetteerTest : public QObject {
 
 private Q_SLOTS:
     void lines_data() {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("places");
-        const auto row = [](const char *name, const char *text, const char *places) {
-            QTest::newRow(name) << QByteArray(text) << QByteArray(places);
-        };
+        const auto row = test::rows<QByteArray, QByteArray>();
         row("nothing", "", "");
         row("regions and countries head their places",
             "C\tA\nR\tr\none\t1.5\t-2\nR\ts\ntwo\t0\t0\nC\tB\nR\t\nthree\t-90\t180\n",
@@ -53,8 +45,7 @@ private Q_SLOTS:
             "");
     }
     void lines() {
-        QFETCH(QByteArray, text);
-        QFETCH(QByteArray, places);
+        const auto [text, places] = test::fetch<QByteArray, QByteArray>();
         QCOMPARE(QByteArray::fromStdString(allOf(Gazetteer(text.toStdString()))), places);
     }
 
@@ -88,7 +79,7 @@ private Q_SLOTS:
         const auto content = [](const QByteArray &bytes) {
             return gunzip({bytes.data(), static_cast<std::size_t>(bytes.size())});
         };
-        QCOMPARE(content(whole), std::string("hello"));
+        QCOMPARE(content(whole), "hello");
         for (qsizetype length = 0; length < whole.size(); ++length) {
             QVERIFY(!content(whole.first(length)));
         }

@@ -1,8 +1,5 @@
+#include "rows.h"
 #include "services/map_page.h"
-
-#include <QTest>
-
-#include <string>
 
 using namespace pinmora;
 
@@ -11,11 +8,8 @@ class MapPageTest : public QObject {
 
 private Q_SLOTS:
     void pictures_data() {
-        QTest::addColumn<QByteArray>("setting");
-        QTest::addColumn<QByteArray>("sources"); // beyond the page's own
-        const auto row = [](const char *setting, const char *sources) {
-            QTest::newRow(setting) << QByteArray(setting) << QByteArray(sources);
-        };
+        // sources: beyond the page's own
+        const auto row = test::rowsByValue<std::string, std::string>();
         row("", " https://tile.openstreetmap.org");
         row("none", "");
         row("https://t.example/{z}/{x}/{y}.png?key=1", " https://t.example");
@@ -24,22 +18,17 @@ private Q_SLOTS:
         row("https://{s}.t.example/{z}", " https://*.t.example");
         row("https://tile{s}.t.example:81/{z}", " https://*.t.example:81");
         row("https://{a}.x.{b}.t.example/{z}", " https://*.t.example");
-        row("https://{s}/{z}", "");
-        row("/tiles/{z}/{x}/{y}.png", "");
-        row("file:///{z}/{x}/{y}.png", "");
-        row("javascript://t.example/{z}", "");
-        row("https://t.example; script-src */{z}", "");
-        row("https://*/{z}", "");
-        row("https://", "");
-        row("https://user@t.example/{z}", "");
-        row("https://t.example\r\nX-Header: 1/{z}", "");
-        row("https://t.example'unsafe-inline'/{z}", "");
+        for (const char *refused :
+             {"https://{s}/{z}", "/tiles/{z}/{x}/{y}.png", "file:///{z}/{x}/{y}.png",
+              "javascript://t.example/{z}", "https://t.example; script-src */{z}", "https://*/{z}",
+              "https://", "https://user@t.example/{z}", "https://t.example\r\nX-Header: 1/{z}",
+              "https://t.example'unsafe-inline'/{z}"}) {
+            row(refused, "");
+        }
     }
     void pictures() {
-        QFETCH(QByteArray, setting);
-        QFETCH(QByteArray, sources);
-        const std::string policy = contentSecurityPolicy(tileAddress(setting.toStdString()));
-        QCOMPARE(QByteArray::fromStdString(policy),
+        const auto [setting, sources] = test::fetch<std::string, std::string>();
+        QCOMPARE(contentSecurityPolicy(tileAddress(setting)),
                  "default-src 'none'; script-src 'self'; style-src 'self' 'unsafe-inline'; "
                  "img-src 'self' data:" +
                      sources +
@@ -49,9 +38,9 @@ private Q_SLOTS:
 
     void addressInThePage() {
         QCOMPARE(mapPage("<a b=\"@TILE_SERVER@\" c='@TILE_SERVER@'>", "\"'><script>&@TILE_SERVER@"),
-                 std::string("<a b=\"&quot;&#39;&gt;&lt;script&gt;&amp;@TILE_SERVER@\""
-                             " c='&quot;&#39;&gt;&lt;script&gt;&amp;@TILE_SERVER@'>"));
-        QCOMPARE(mapPage("no place for it", "x"), std::string("no place for it"));
+                 "<a b=\"&quot;&#39;&gt;&lt;script&gt;&amp;@TILE_SERVER@\""
+                 " c='&quot;&#39;&gt;&lt;script&gt;&amp;@TILE_SERVER@'>");
+        QCOMPARE(mapPage("no place for it", "x"), "no place for it");
     }
 };
 

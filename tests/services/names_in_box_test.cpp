@@ -1,13 +1,10 @@
+#include "rows.h"
 #include "services/names_in_box.h"
 #include "services/places.h"
-
-#include <QTest>
 
 #include <cmath>
 #include <limits>
 #include <set>
-#include <string>
-#include <vector>
 
 using namespace pinmora;
 
@@ -48,12 +45,7 @@ class NamesInBoxTest : public QObject {
 
 private Q_SLOTS:
     void boxes_data() {
-        QTest::addColumn<double>("south");
-        QTest::addColumn<double>("west");
-        QTest::addColumn<double>("north");
-        QTest::addColumn<double>("east");
-        const auto row = [](const char *name, double south, double west, double north,
-                            double east) { QTest::newRow(name) << south << west << north << east; };
+        const auto row = test::rows<double, double, double, double>();
         row("small", 46.5, 7.5, 48.5, 9.5);
         row("the world", -90, -180, 90, 180);
         row("more than the world", -90, -400, 90, 400);
@@ -68,10 +60,7 @@ private Q_SLOTS:
         row("a point", 10, 10, 10, 10);
     }
     void boxes() {
-        QFETCH(double, south);
-        QFETCH(double, west);
-        QFETCH(double, north);
-        QFETCH(double, east);
+        const auto [south, west, north, east] = test::fetch<double, double, double, double>();
         for (const std::size_t limit : {1U, 2U, 7U, 50U, 200U}) {
             const auto found = named({south, west, north, east}, limit);
             QVERIFY(found.size() <= limit);
@@ -113,11 +102,7 @@ private Q_SLOTS:
     }
 
     void prominentFirst_data() {
-        QTest::addColumn<QByteArray>("places");
-        QTest::addColumn<QByteArray>("chosen");
-        const auto row = [](const char *name, const char *places, const char *chosen) {
-            QTest::newRow(name) << QByteArray(places) << QByteArray(chosen);
-        };
+        const auto row = test::rows<QByteArray, QByteArray>();
         row("in the middle", "Edge\t1.9\t1.9\nMiddle\t1\t1\n", "Middle");
         row("named as the region", "Middle\t1\t1\nRegiön\t0.1\t0.1\n", "Regiön");
         row("with quarters",
@@ -130,12 +115,12 @@ private Q_SLOTS:
             "Middle");
     }
     void prominentFirst() {
-        QFETCH(QByteArray, places);
+        const auto [places, chosen] = test::fetch<QByteArray, QByteArray>();
         const Gazetteer few("C\tA\nR\tRegion\n" + places.toStdString());
         const Prominence prominence(few, FoldedNames(few));
         const auto found = placesInBox(few, prominence, {0, 0, 2, 2}, 1);
         QCOMPARE(found.size(), 1U);
-        QTEST(QByteArray::fromStdString(std::string(few.name(found.front()))), "chosen");
+        QCOMPARE(QByteArray::fromStdString(std::string(few.name(found.front()))), chosen);
     }
 
     void noBox() {

@@ -1,14 +1,11 @@
+#include "rows.h"
 #include "services/place_index.h"
 #include "services/places.h"
-
-#include <QTest>
 
 #include <cmath>
 #include <cstddef>
 #include <limits>
 #include <random>
-#include <string>
-#include <vector>
 
 using namespace pinmora;
 
@@ -74,13 +71,13 @@ class PlaceIndexTest : public QObject {
 
 private Q_SLOTS:
     void equalsAScan_data() {
-        QTest::addColumn<int>("count");
-        for (const int count : {1, 2, 15, 16, 17, 31, 32, 33, 65, 1000, 4097}) {
-            QTest::addRow("%d places", count) << count;
+        const auto row = test::rowsByValue<int>();
+        for (const int count : {1, 2, 15, 16, 17, 31, 32, 33, 65, 1000, 4097, 70'000}) {
+            row(count);
         }
     }
     void equalsAScan() {
-        QFETCH(int, count);
+        const auto [count] = test::fetch<int>();
         auto places = anywhere(static_cast<std::size_t>(count), 1);
         places.resize(static_cast<std::size_t>(count));
         QCOMPARE(firstDifference(unitVectors(places), anywhere(500, 2)), QString());
@@ -98,23 +95,6 @@ private Q_SLOTS:
             return positions;
         };
         QCOMPARE(firstDifference(unitVectors(anyNear(1000)), anyNear(1000)), QString());
-    }
-
-    void bundledEqualsAScan() {
-        const Gazetteer &gazetteer = Places::bundled().gazetteer();
-        std::vector<UnitVector> places;
-        for (std::size_t i = 0; i < gazetteer.size(); ++i) {
-            places.push_back(unitVector(gazetteer.position(i)));
-        }
-        std::vector<Position> asked = anywhere(1000, 3);
-        // Where places are, and as far from two of them as can be told.
-        for (std::size_t i = 0; i + 1 < gazetteer.size(); i += 700) {
-            const auto [lat, lon] = gazetteer.position(i);
-            const auto [otherLat, otherLon] = gazetteer.position(i + 1);
-            asked.push_back({lat, lon});
-            asked.push_back({(lat + otherLat) / 2, (lon + otherLon) / 2});
-        }
-        QCOMPARE(firstDifference(places, asked), QString());
     }
 
     // Points of a lattice are equally far from several of its corners, to the last bit.
@@ -138,14 +118,8 @@ private Q_SLOTS:
     }
 
     void knownPlaces_data() {
-        QTest::addColumn<double>("lat");
-        QTest::addColumn<double>("lon");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<double>("kilometres"); // on the sphere, to a hundredth
-        const auto row = [](const char *where, double lat, double lon, const char *name,
-                            double kilometres) {
-            QTest::newRow(where) << lat << lon << QString::fromUtf8(name) << kilometres;
-        };
+        // kilometres: on the sphere, to a hundredth
+        const auto row = test::rows<double, double, std::string, double>();
         row("in it", 47.36667, 8.55, "Zürich, Zurich, Switzerland", 0);
         row("in a part of it", 47.3769, 8.5417, "Zürich (Kreis 1) / Lindenhof, Zurich, Switzerland",
             0.57);
@@ -159,34 +133,28 @@ private Q_SLOTS:
         row("farthest from all land", -48.87, -123.39, "Hanga Roa, Valparaiso, Chile", 2697.14);
     }
     void knownPlaces() {
-        QFETCH(double, lat);
-        QFETCH(double, lon);
+        const auto [lat, lon, name, kilometres] =
+            test::fetch<double, double, std::string, double>();
         const auto [place, metres] = Places::bundled().nearest({lat, lon});
-        const Gazetteer &gazetteer = Places::bundled().gazetteer();
-        QStringList fields;
-        for (const std::string_view field :
-             {gazetteer.name(place), gazetteer.region(place), gazetteer.country(place)}) {
-            fields << QString::fromUtf8(field.data(), static_cast<qsizetype>(field.size()));
-        }
-        QTEST(fields.join(QStringLiteral(", ")), "name");
-        QTEST(std::round(metres / 10) / 100, "kilometres");
+        const Gazetteer &all = Places::bundled().gazetteer();
+        QCOMPARE(std::string(all.name(place)) + ", " + std::string(all.region(place)) + ", " +
+                     std::string(all.country(place)),
+                 name);
+        QCOMPARE(std::round(metres / 10) / 100, kilometres);
     }
 
     void metres_data() {
-        QTest::addColumn<double>("lat");
-        QTest::addColumn<double>("lon");
-        QTest::addColumn<double>("metres"); // from 0, 0
+        // metres: from 0, 0
+        const auto row = test::rows<double, double, double>();
         constexpr double degree = 6371008.8 * std::numbers::pi / 180;
-        QTest::newRow("here") << 0.0 << 0.0 << 0.0;
-        QTest::newRow("next door") << 0.00001 << 0.0 << degree * 0.00001;
-        QTest::newRow("a degree") << 0.0 << -1.0 << degree;
-        QTest::newRow("the pole") << 90.0 << 123.0 << 90 * degree;
-        QTest::newRow("the other side") << 0.0 << 180.0 << 180 * degree;
+        row("here", 0.0, 0.0, 0.0);
+        row("next door", 0.00001, 0.0, degree * 0.00001);
+        row("a degree", 0.0, -1.0, degree);
+        row("the pole", 90.0, 123.0, 90 * degree);
+        row("the other side", 0.0, 180.0, 180 * degree);
     }
     void metres() {
-        QFETCH(double, lat);
-        QFETCH(double, lon);
-        QFETCH(double, metres);
+        const auto [lat, lon, metres] = test::fetch<double, double, double>();
         const double squared = squaredChord(unitVector({0, 0}), unitVector({lat, lon}));
         QVERIFY(std::abs(metresFromSquaredChord(squared) - metres) < 0.001);
     }

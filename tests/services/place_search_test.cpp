@@ -1,11 +1,6 @@
+#include "rows.h"
 #include "services/folded_text.h"
 #include "services/places.h"
-
-#include <QTest>
-
-#include <optional>
-#include <string>
-#include <vector>
 
 using namespace pinmora;
 
@@ -18,10 +13,6 @@ constexpr const char *few =
     "R\tMaine\nParis\t44.26\t-70.5\nNew Paris Hill\t44.2\t-70.4\n"
     "Le Parisien\t45\t-70\n";
 
-QString words(const std::string &text) {
-    return QString::fromStdString(text);
-}
-
 } // namespace
 
 class PlaceSearchTest : public QObject {
@@ -32,22 +23,19 @@ class PlaceSearchTest : public QObject {
     const Prominence prominence_{gazetteer_, names_};
     const PlaceSearch search_{gazetteer_, names_, prominence_};
 
-    QString found(const QString &text, std::optional<Position> near, std::size_t limit) const {
-        QStringList places;
-        for (const std::size_t place : search_.find(text.toStdString(), near, limit)) {
-            places << QStringLiteral("%1/%2").arg(words(std::string(gazetteer_.name(place))),
-                                                  words(std::string(gazetteer_.region(place))));
+    std::string found(const std::string &text, std::optional<Position> near,
+                      std::size_t limit) const {
+        std::string places;
+        for (const std::size_t place : search_.find(text, near, limit)) {
+            places += (places.empty() ? "" : ", ") + std::string(gazetteer_.name(place)) + "/" +
+                      std::string(gazetteer_.region(place));
         }
-        return places.join(QStringLiteral(", "));
+        return places;
     }
 
 private Q_SLOTS:
     void folding_data() {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("result");
-        const auto row = [](const char *text, const char *result) {
-            QTest::newRow(result) << QByteArray(text) << QByteArray(result);
-        };
+        const auto row = test::rowsByValue<QByteArray, QByteArray>();
         row("ZÜRICH", "zurich");
         row("Zu\u0308rich", "zurich");
         row("Ångström Łódź Ñuñoa", "angstrom lodz nunoa");
@@ -65,16 +53,13 @@ private Q_SLOTS:
         row("\xed\xa0\x80\xf4\x90\x80\x80 x", "x");
     }
     void folding() {
-        QFETCH(QByteArray, text);
-        QTEST(QByteArray::fromStdString(folded(text.toStdString())), "result");
+        const auto [text, result] = test::fetch<QByteArray, QByteArray>();
+        QCOMPARE(QByteArray::fromStdString(folded(text.toStdString())), result);
     }
 
     void finds_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("result"); // seen from Maine
-        const auto row = [](const char *text, const char *result) {
-            QTest::newRow(text) << QString::fromUtf8(text) << QString::fromUtf8(result);
-        };
+        // result: seen from Maine
+        const auto row = test::rowsByValue<std::string, std::string>();
         row("PARIS", "Paris/Maine, Paris/Texas, Paris/Île-de-France, Parisville/Texas, "
                      "New Paris Hill/Maine, Le Parisien/Maine, "
                      "Le Touquet-Paris-Plage/Île-de-France");
@@ -99,27 +84,26 @@ private Q_SLOTS:
         row("?!", "");
     }
     void finds() {
-        QFETCH(QString, text);
-        QTEST(found(text, Position{44, -70}, 20), "result");
+        const auto [text, result] = test::fetch<std::string, std::string>();
+        QCOMPARE(found(text, Position{44, -70}, 20), result);
     }
 
     void limitAndOrderWithoutAPosition() {
-        QCOMPARE(found(QStringLiteral("paris"), std::nullopt, 2),
-                 QStringLiteral("Paris/Maine, Paris/Île-de-France"));
-        QCOMPARE(found(QStringLiteral("paris"), std::nullopt, 0), QString());
+        QCOMPARE(found("paris", std::nullopt, 2), "Paris/Maine, Paris/Île-de-France");
+        QCOMPARE(found("paris", std::nullopt, 0), "");
     }
 
     void whatNobodyTypes_data() {
-        QTest::addColumn<QByteArray>("text");
-        QTest::newRow("10 kB") << QByteArray(10'000, 'a');
-        QTest::newRow("10 kB of commas") << QByteArray(10'000, ',');
-        QTest::newRow("many words") << QByteArray("a ").repeated(100);
-        QTest::newRow("many areas") << QByteArray("zqx,").repeated(70);
-        QTest::newRow("bytes") << QByteArray("\0\xff\n\t\xc3", 5);
-        QTest::newRow("two names") << QByteArray("Zug\nZürich");
+        const auto row = test::rows<QByteArray>();
+        row("10 kB", QByteArray(10'000, 'a'));
+        row("10 kB of commas", QByteArray(10'000, ','));
+        row("many words", QByteArray("a ").repeated(100));
+        row("many areas", QByteArray("zqx,").repeated(70));
+        row("bytes", QByteArray("\0\xff\n\t\xc3", 5));
+        row("two names", "Zug\nZürich");
     }
     void whatNobodyTypes() {
-        QFETCH(QByteArray, text);
+        const auto [text] = test::fetch<QByteArray>();
         QVERIFY(BundledNames::get().search().find(text.toStdString(), {}, 20).empty());
     }
 

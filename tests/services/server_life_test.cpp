@@ -9,11 +9,7 @@
 #include <QTest>
 
 #include <atomic>
-#include <memory>
-#include <optional>
-#include <string>
 #include <thread>
-#include <vector>
 
 using namespace pinmora;
 using namespace pinmora::test;

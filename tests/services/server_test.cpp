@@ -1,16 +1,17 @@
 #include "services/local_server.h"
 
+#include "rows.h"
 #include "services/server_desk.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTest>
-
-#include <string>
 
 using namespace pinmora;
 using namespace pinmora::test;
+using namespace Qt::StringLiterals;
+
+static constexpr const char *ask = "POST /TerraService2.asmx";
 
 class ServerTest : public QObject {
     Q_OBJECT
@@ -30,7 +31,7 @@ class ServerTest : public QObject {
         const auto answer = clientOf(server_).Get(path);
         return answer && answer->status == 200
                    ? QJsonDocument::fromJson(QByteArray::fromStdString(answer->body)).array()
-                   : QJsonArray{QStringLiteral("no answer")};
+                   : QJsonArray{u"no answer"_s};
     }
 
 private Q_SLOTS:
@@ -59,17 +60,13 @@ private Q_SLOTS:
     }
 
     void files_data() {
-        QTest::addColumn<QByteArray>("path");
-        QTest::addColumn<QByteArray>("type");
-        QTest::newRow("script") << QByteArray("/maps/leaflet.js")
-                                << QByteArray("text/javascript; charset=utf-8");
-        QTest::newRow("style") << QByteArray("/maps/leaflet.css")
-                               << QByteArray("text/css; charset=utf-8");
-        QTest::newRow("world") << QByteArray("/maps/world.json") << QByteArray("application/json");
+        const auto row = test::rows<QByteArray, QByteArray>();
+        row("script", "/maps/leaflet.js", "text/javascript; charset=utf-8");
+        row("style", "/maps/leaflet.css", "text/css; charset=utf-8");
+        row("world", "/maps/world.json", "application/json");
     }
     void files() {
-        QFETCH(QByteArray, path);
-        QFETCH(QByteArray, type);
+        const auto [path, type] = test::fetch<QByteArray, QByteArray>();
         httplib::Client client = clientOf(server_);
         const auto answer = client.Get(path.toStdString(), {{"Accept-Encoding", "gzip, br"}});
         QVERIFY(answer);
@@ -86,52 +83,34 @@ private Q_SLOTS:
     }
 
     void refused_data() {
-        QTest::addColumn<QByteArray>("start");
-        QTest::addColumn<QByteArray>("fields"); // "": the right host
-        QTest::addColumn<int>("status");
-        const auto row = [](const char *name, const char *start, const char *fields, int status) {
-            QTest::newRow(name) << QByteArray(start) << QByteArray(fields) << status;
-        };
-        row("root", "GET /", "", 404);
-        row("folder", "GET /maps/", "", 404);
-        row("template", "GET /maps/index.html", "", 404);
-        row("up", "GET /maps/../../etc/passwd", "", 404);
-        row("up, encoded", "GET /maps/%2e%2e/%2e%2e/etc/passwd", "", 404);
-        row("up, encoded slash", "GET /maps/..%2f..%2fetc%2fpasswd", "", 404);
-        row("around", "GET /maps/../maps/leaflet.js", "", 404);
-        row("double slash", "GET //maps/leaflet.js", "", 404);
-        row("resource", "GET /maps/:/places/gazetteer.tsv.gz", "", 404);
-        row("backslash", "GET /maps/..\\leaflet.js", "", 404);
-        row("end of text", "GET /maps/leaflet.js%00.png", "", 404);
-        row("other case", "GET /maps/LEAFLET.JS", "", 404);
-        row("long",
-            "GET /maps/"
-            "{8000}",
-            "", 404);
-        row("too long",
-            "GET /maps/"
-            "{9000}",
-            "", 414);
+        // fields: "": the right host
+        const auto row = test::rows<QByteArray, QByteArray, int>();
+        for (const QByteArray path :
+             {"/", "/maps/", "/maps/index.html", "/maps/../../etc/passwd",
+              "/maps/%2e%2e/%2e%2e/etc/passwd", "/maps/..%2f..%2fetc%2fpasswd",
+              "/maps/../maps/leaflet.js", "//maps/leaflet.js", "/maps/:/places/gazetteer.tsv.gz",
+              "/maps/..\\leaflet.js", "/maps/leaflet.js%00.png", "/maps/LEAFLET.JS",
+              "/maps/{8000}"}) {
+            row(path.toStdString(), "GET " + path, "", 404);
+        }
+        row("too long", "GET /maps/{9000}", "", 414);
         row("delete", "DELETE /maps/leaflet.js", "", 405);
         row("options", "OPTIONS /maps/leaflet.js", "", 405);
         row("put", "PUT /maps/x.js", "Content-Length: 3\r\n", 404);
         row("post", "POST /maps/leaflet.js", "Content-Length: 3\r\n", 405);
         row("get the operation", "GET /TerraService2.asmx", "", 405);
-        row("no length", "POST /TerraService2.asmx", "", 411);
-        row("chunked", "POST /TerraService2.asmx", "Transfer-Encoding: chunked\r\n", 411);
-        row("odd length", "POST /TerraService2.asmx", "Content-Length: 1x\r\n", 411);
-        row("negative length", "POST /TerraService2.asmx", "Content-Length: -1\r\n", 411);
-        row("large", "POST /TerraService2.asmx", "Content-Length: 70000\r\n", 413);
-        row("endless", "POST /TerraService2.asmx", "Content-Length: 99999999999999999999\r\n", 413);
-        row("packed", "POST /TerraService2.asmx", "Content-Length: 9\r\nContent-Encoding: gzip\r\n",
-            415);
+        row("no length", ask, "", 411);
+        row("chunked", ask, "Transfer-Encoding: chunked\r\n", 411);
+        row("odd length", ask, "Content-Length: 1x\r\n", 411);
+        row("negative length", ask, "Content-Length: -1\r\n", 411);
+        row("large", ask, "Content-Length: 70000\r\n", 413);
+        row("endless", ask, "Content-Length: 99999999999999999999\r\n", 413);
+        row("packed", ask, "Content-Length: 9\r\nContent-Encoding: gzip\r\n", 415);
         row("box without end", "GET /maps/names?south=1&west=2&north=3&east={400}", "", 400);
         row("box without sides", "GET /maps/names?south=1&west=2&north=x&east=3", "", 400);
     }
     void refused() {
-        QFETCH(QByteArray, start);
-        QFETCH(QByteArray, fields);
-        QFETCH(int, status);
+        auto [start, fields, status] = test::fetch<QByteArray, QByteArray, int>();
         start.replace("{8000}", QByteArray(8'000, 'a'))
             .replace("{9000}", QByteArray(9'000, 'a'))
             .replace("{400}", QByteArray(400, '9'));
@@ -143,21 +122,19 @@ private Q_SLOTS:
 
     // A web site's name may lead to 127.0.0.1; it does not get to the server by that.
     void hosts_data() {
-        QTest::addColumn<QByteArray>("host");
-        QTest::addColumn<int>("status");
+        const auto row = test::rows<QByteArray, int>();
         const QByteArray port = ":" + QByteArray::number(portOf(server_));
-        QTest::newRow("number") << QByteArray("127.0.0.1" + port) << 200;
-        QTest::newRow("name") << QByteArray("localhost" + port) << 200;
-        QTest::newRow("foreign") << QByteArray("rebound.example" + port) << 403;
-        QTest::newRow("beginning") << QByteArray("localhost.example" + port) << 403;
-        QTest::newRow("no port") << QByteArray("127.0.0.1") << 403;
-        QTest::newRow("other port") << QByteArray("127.0.0.1:1") << 403;
-        QTest::newRow("other loopback") << QByteArray("127.0.0.2" + port) << 403;
-        QTest::newRow("none") << QByteArray() << 403;
+        row("number", QByteArray("127.0.0.1" + port), 200);
+        row("name", QByteArray("localhost" + port), 200);
+        row("foreign", QByteArray("rebound.example" + port), 403);
+        row("beginning", QByteArray("localhost.example" + port), 403);
+        row("no port", "127.0.0.1", 403);
+        row("other port", "127.0.0.1:1", 403);
+        row("other loopback", QByteArray("127.0.0.2" + port), 403);
+        row("none", {}, 403);
     }
     void hosts() {
-        QFETCH(QByteArray, host);
-        QFETCH(int, status);
+        const auto [host, status] = test::fetch<QByteArray, int>();
         const QByteArray field = host.isEmpty() ? "" : "Host: " + host + "\r\n";
         const auto expected = "HTTP/1.1 " + QByteArray::number(status);
         const QByteArray end = field + "Connection: close\r\n";
@@ -170,14 +147,14 @@ private Q_SLOTS:
 
     // What stands in a body that is not read is not taken for the next request.
     void bodiesAreNoRequests_data() {
-        QTest::addColumn<QByteArray>("start");
-        QTest::newRow("get") << QByteArray("GET /maps/leaflet.css");
-        QTest::newRow("post elsewhere") << QByteArray("POST /maps/leaflet.css");
-        QTest::newRow("large") << QByteArray("POST /TerraService2.asmx");
-        QTest::newRow("method") << QByteArray("BREW /maps/leaflet.css");
+        const auto row = test::rows<QByteArray>();
+        row("get", "GET /maps/leaflet.css");
+        row("post elsewhere", "POST /maps/leaflet.css");
+        row("large", ask);
+        row("method", "BREW /maps/leaflet.css");
     }
     void bodiesAreNoRequests() {
-        QFETCH(QByteArray, start);
+        const auto [start] = test::fetch<QByteArray>();
         const QByteArray within = "GET /maps/leaflet.css HTTP/1.1\r\n" + host() + "\r\n";
         const QByteArray body = within.repeated(2'000);
         const QByteArray answer = raw(start + " HTTP/1.1\r\n" + host() + "Content-Length: " +
@@ -192,17 +169,13 @@ private Q_SLOTS:
     }
 
     void endlessRequests_data() {
-        QTest::addColumn<QByteArray>("start");
-        QTest::addColumn<QByteArray>("repeated");
-        QTest::newRow("fields") << QByteArray("GET /maps/leaflet.css HTTP/1.1\r\n")
-                                << QByteArray("X-Field: 0123456789\r\n");
-        QTest::newRow("one field")
-            << QByteArray("GET /maps/leaflet.css HTTP/1.1\r\nX: ") << QByteArray("0123456789");
-        QTest::newRow("path") << QByteArray("GET /") << QByteArray("0123456789");
+        const auto row = test::rows<QByteArray, QByteArray>();
+        row("fields", "GET /maps/leaflet.css HTTP/1.1\r\n", "X-Field: 0123456789\r\n");
+        row("one field", "GET /maps/leaflet.css HTTP/1.1\r\nX: ", "0123456789");
+        row("path", "GET /", "0123456789");
     }
     void endlessRequests() {
-        QFETCH(QByteArray, start);
-        QFETCH(QByteArray, repeated);
+        const auto [start, repeated] = test::fetch<QByteArray, QByteArray>();
         const QByteArray answer = raw(start + repeated.repeated(100'000));
         QVERIFY2(answer.isEmpty() || answer.startsWith("HTTP/1.1 4"), answer.left(200));
         QVERIFY(answer.count("HTTP/1.1 ") <= 1 && !answer.endsWith("(open)"));
@@ -237,14 +210,14 @@ private Q_SLOTS:
         const QJsonArray found = json("/maps/search?q=paris,%20texas&lat=48.9&lon=2.3&limit=1");
         QCOMPARE(found.size(), 1);
         const QJsonObject place = found[0].toObject();
-        QCOMPARE(place[QStringLiteral("name")], QJsonValue(QStringLiteral("Paris")));
-        QCOMPARE(place[QStringLiteral("region")], QJsonValue(QStringLiteral("Texas")));
-        QCOMPARE(place[QStringLiteral("country")], QJsonValue(QStringLiteral("United States")));
-        QCOMPARE(place[QStringLiteral("lat")], QJsonValue(33.66094));
-        QCOMPARE(place[QStringLiteral("lon")], QJsonValue(-95.55551));
+        QCOMPARE(place[u"name"_s], QJsonValue(u"Paris"_s));
+        QCOMPARE(place[u"region"_s], QJsonValue(u"Texas"_s));
+        QCOMPARE(place[u"country"_s], QJsonValue(u"United States"_s));
+        QCOMPARE(place[u"lat"_s], QJsonValue(33.66094));
+        QCOMPARE(place[u"lon"_s], QJsonValue(-95.55551));
         const QJsonArray near = json("/maps/search?q=paris&lat=48.9&lon=2.3");
         QCOMPARE(near.size(), 10);
-        QCOMPARE(near[0][QStringLiteral("country")], QJsonValue(QStringLiteral("France")));
+        QCOMPARE(near[0][u"country"_s], QJsonValue(u"France"_s));
         QCOMPARE(json("/maps/search?q=a&limit=1000").size(), 20);
         QCOMPARE(json("/maps/search?q=a&limit=-1").size(), 1);
         QCOMPARE(json("/maps/search?q=%22%5C%00%ff").size(), 0);
@@ -259,9 +232,9 @@ private Q_SLOTS:
             json("/maps/names?south=-19&west=176&north=-15&east=-178&limit=1000");
         QVERIFY(!found.isEmpty() && found.size() <= 200);
         for (const QJsonValue &place : found) {
-            const double lon = place[QStringLiteral("lon")].toDouble();
+            const double lon = place[u"lon"_s].toDouble();
             QVERIFY(lon >= 176 || lon <= -178);
-            QVERIFY(!place[QStringLiteral("name")].toString().isEmpty());
+            QVERIFY(!place[u"name"_s].toString().isEmpty());
         }
     }
 };

@@ -1,8 +1,6 @@
+#include "rows.h"
 #include "services/soap.h"
 
-#include <QTest>
-
-#include <string>
 #include <variant>
 
 using namespace pinmora;
@@ -27,11 +25,8 @@ class SoapTest : public QObject {
 
 private Q_SLOTS:
     void requests_data() {
-        QTest::addColumn<QByteArray>("body");
-        QTest::addColumn<QString>("result"); // the position, or what the fault speaks of
-        const auto row = [](const char *name, const QByteArray &body, const char *result) {
-            QTest::newRow(name) << body << QString::fromUtf8(result);
-        };
+        // result: the position, or what the fault speaks of
+        const auto row = test::rows<QByteArray, std::string>();
         row("plain", envelope(point("8.5", "47.25")), "47.25 8.5");
         row("with a declaration",
             envelope(point("8.5", "47.25"), "<?xml version=\"1.0\" encoding=\"utf-8\"?>"),
@@ -47,16 +42,13 @@ private Q_SLOTS:
                 point("\n 8.5 ", " 47.25\n") +
                 "\n</ConvertLonLatPtToNearestPlace></Body></Envelope>",
             "47.25 8.5");
+        row("signs and zeros", envelope(point("-051.7216", "+64.1835")), "64.1835 -51.7216");
         row("the edges", envelope(point("-180", "90")), "90 -180");
-        row(
-            "UTF-16",
-            QByteArray::fromHex("fffe") +
-                [] {
-                    const QString text = QString::fromUtf8(envelope(point("8.5", "47.25")));
-                    return QByteArray(reinterpret_cast<const char *>(text.utf16()),
-                                      2 * text.size());
-                }(),
-            "47.25 8.5");
+        QByteArray wide = QByteArray::fromHex("fffe");
+        for (const char letter : envelope(point("8.5", "47.25"))) {
+            wide.append(letter).append('\0');
+        }
+        row("UTF-16", wide, "47.25 8.5");
         row("numbers in pieces", envelope(point("8<!-- -->.<![CDATA[5]]>", "4&#55;")), "47 8.5");
 
         row("nothing", "", "XML");
@@ -90,31 +82,31 @@ private Q_SLOTS:
             "XML");
     }
     void requests() {
-        QFETCH(QByteArray, body);
-        QFETCH(QString, result);
+        const auto [body, result] = test::fetch<QByteArray, std::string>();
         const auto request = placeRequest({body.data(), static_cast<std::size_t>(body.size())});
         if (const auto *position = std::get_if<Position>(&request)) {
-            QCOMPARE(QStringLiteral("%1 %2").arg(position->lat).arg(position->lon), result);
+            QCOMPARE(QString(QStringLiteral("%1 %2").arg(position->lat).arg(position->lon)),
+                     QString::fromStdString(result));
         } else {
-            const QString reason = QString::fromStdString(std::get<SoapFault>(request).reason);
-            QVERIFY2(reason.contains(result), qPrintable(reason));
+            const std::string &reason = std::get<SoapFault>(request).reason;
+            QVERIFY2(reason.find(result) != std::string::npos, reason.c_str());
         }
     }
 
     // The whole answer: clients take all text before the end of the result for its beginning.
     void response() {
         QCOMPARE(placeResponse("A&B <c>, \"D\", É", "urn:x/"),
-                 std::string("<?xml version=\"1.0\" encoding=\"utf-8\"?>"
-                             "<soap:Envelope"
-                             " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\""
-                             " xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\""
-                             " xmlns:soap=\"http://schemas.xmlsoap.org/soap/envelope/\">"
-                             "<soap:Body><ConvertLonLatPtToNearestPlaceResponse xmlns=\"urn:x/\">"
-                             "<ConvertLonLatPtToNearestPlaceResult>"
-                             "A&amp;B &lt;c&gt;, &quot;D&quot;, É"
-                             "</ConvertLonLatPtToNearestPlaceResult>"
-                             "</ConvertLonLatPtToNearestPlaceResponse>"
-                             "</soap:Body></soap:Envelope>"));
+                 "<?xml version=\"1.0\" encoding=\"utf-8\"?>"
+                 "<soap:Envelope"
+                 " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\""
+                 " xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\""
+                 " xmlns:soap=\"http://schemas.xmlsoap.org/soap/envelope/\">"
+                 "<soap:Body><ConvertLonLatPtToNearestPlaceResponse xmlns=\"urn:x/\">"
+                 "<ConvertLonLatPtToNearestPlaceResult>"
+                 "A&amp;B &lt;c&gt;, &quot;D&quot;, É"
+                 "</ConvertLonLatPtToNearestPlaceResult>"
+                 "</ConvertLonLatPtToNearestPlaceResponse>"
+                 "</soap:Body></soap:Envelope>");
     }
 };
 
