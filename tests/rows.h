@@ -37,7 +37,8 @@ auto rowsByValue() {
                 return '"' + std::string(value) + '"';
             }
         };
-        row((... + (shown(values) + ' ')), std::move(values)...);
+        const std::string name = (... + (shown(values) + ' '));
+        row(name, std::move(values)...);
     };
 }
 
