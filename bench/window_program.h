@@ -5,6 +5,7 @@
 #include "program.h"
 
 #include "persistence/xml_store.h"
+#include "platform/defaults.h"
 #include "shell/subsystems.h"
 
 #include <QApplication>
@@ -28,6 +29,9 @@ public:
         for (const char *name : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"}) {
             qputenv(name, folder_.path().toUtf8());
         }
+        Defaults settings;
+        settings.setText("useWizard", "0"); // measured is the main window
+        settings.synchronize();
     }
 
     std::filesystem::path path() const { return folder_.path().toStdString(); }

@@ -96,11 +96,35 @@ void ProgramActions::followOutlets() {
     bindings_.tie(parts_.undoCommands.redoItem, actions_[Redo]);
     bindings_.tie(parts_.inspectorOutlets.removePictButton, actions_[RemovePictures]);
     bindings_.tie(parts_.matching.matchButton, actions_[MatchPhoto]);
-    bindings_.tie(parts_.matching.offsetButton, actions_[SetFromPosition]);
-    bindings_.tie(delegate_.interface.addRemoveMarker, actions_[ToggleMarker]);
+    tieInFront(parts_.matching.offsetButton, parts_.matching.offsetButton2,
+               actions_[SetFromPosition]);
+    tieInFront(delegate_.interface.addRemoveMarker, delegate_.interface.addRemoveMarker2,
+               actions_[ToggleMarker]);
     bindings_.tie(parts_.wizardOutlets.useWizard, actions_[ShowWizard]);
     bindings_.tie(parts_.wizardOutlets.useAdvanced, actions_[ShowMainWindow]);
     actions_[ActionName::SampleOuting]->setEnabled(parts_.sampleOuting.isThere());
+}
+
+/// Each window has a button of its own for it, which works on its own map.
+void ProgramActions::tieInFront(Button &ofMain, Button &ofWizard, QAction *action) {
+    const auto inFront = [this, &ofMain, &ofWizard]() -> Button & {
+        return delegate_.interface.inWizard ? ofWizard : ofMain;
+    };
+    const auto show = [inFront, action] {
+        const Button &button = inFront();
+        action->setEnabled(button.enabled.get());
+        if (!button.title.get().empty()) {
+            action->setText(QString::fromStdString(button.title.get()));
+        }
+    };
+    for (Button *const button : {&ofMain, &ofWizard}) {
+        bindings_.watch(button->enabled, [show](bool) { show(); });
+        bindings_.watch(button->title, [show](const std::string &) { show(); });
+    }
+    for (Window *const window : {&delegate_.interface.window, &delegate_.interface.wizardWindow}) {
+        bindings_.keep(window->fronted.connect(show));
+    }
+    connect(action, &QAction::triggered, this, [inFront] { inFront().press(); });
 }
 
 void ProgramActions::followCounts() {

@@ -37,6 +37,7 @@ private:
     void connectViews();
     void connectPlaceNames();
     void followOutlets();
+    void tieInFront(Button &ofMain, Button &ofWizard, QAction *action);
     void followCounts();
     void enableSave();
     void tellAbout();

@@ -65,7 +65,7 @@ QAbstractSpinBox::up-button:hover, QAbstractSpinBox::down-button:hover { backgro
 QAbstractSpinBox::up-arrow { image: url(:/icons/arrow-up.svg); width: 10px; height: 10px; }
 QAbstractSpinBox::down-arrow { image: url(:/icons/arrow-down.svg); width: 10px; height: 10px; }
 QPushButton { background: @button; color: @text; border: 1px solid @line; border-radius: 4px;
-    padding: 5px 12px; min-height: 16px; }
+    padding: 5px 12px; min-height: 16px; outline: none; }
 QPushButton:hover { background: @over; }
 QPushButton:pressed, QPushButton:checked { background: @pressed; }
 QPushButton:checked { background: @accentGround; }
@@ -87,14 +87,16 @@ QPushButton[role="link"]:focus, QPushButton[role="flat"]:focus { border-color: @
 QPushButton[role="removal"]:focus { border-color: @warning; }
 QPushButton[role="link"]:disabled, QPushButton[role="removal"]:disabled,
 QPushButton[role="flat"]:disabled { color: @disabled; }
-QPushButton[role="card"] { background: @button; border: 1px solid @line; border-radius: 8px; }
+QPushButton[role="card"] { background: @button; border: 1px solid @line; border-radius: 8px;
+    min-height: 64px; }
 QPushButton[role="card"]:hover { border-color: @accent; }
 QPushButton[role="card"]:focus { border: 2px solid @accent; }
 QPushButton[role="card"]:pressed { background: @accentGround; }
 QPushButton[role="step"] { background: transparent; border: 1px solid transparent;
-    border-radius: 6px; }
+    border-radius: 6px; min-height: 24px; }
 QPushButton[role="step"]:hover:enabled { background: @veil; }
 QPushButton[role="step"]:focus { border-color: @accent; }
+QFrame#wizardBar QPushButton { padding: 5px 18px; min-width: 44px; min-height: 22px; }
 QToolButton[role="flat"] { background: transparent; border: 1px solid transparent;
     border-radius: 4px; padding: 2px; }
 QToolButton[role="flat"]:hover { background: @veil; }

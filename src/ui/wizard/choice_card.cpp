@@ -9,13 +9,10 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace pinmora {
 namespace {
 
 constexpr int cardIconSide = 32;
-constexpr int leastHeight = 76;
 
 } // namespace
 
@@ -45,17 +42,14 @@ ChoiceCard::ChoiceCard(std::string_view iconName, const QString &title, const QS
     row->addLayout(column, 1);
 }
 
+// A push button knows of its own text alone.
+
 QSize ChoiceCard::sizeHint() const {
-    const QSize content = layout()->sizeHint();
-    return {content.width(), std::max(leastHeight, content.height())};
+    return layout()->sizeHint();
 }
 
 QSize ChoiceCard::minimumSizeHint() const {
-    return {layout()->minimumSize().width(), leastHeight};
-}
-
-int ChoiceCard::heightForWidth(int width) const {
-    return std::max(leastHeight, layout()->heightForWidth(width));
+    return layout()->minimumSize();
 }
 
 } // namespace pinmora

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int columnWidth = 210;
 constexpr int pictureHeight = 132;
+constexpr int leastPictureHeight = 64; ///< gives way to what stands below
 
 } // namespace
 
@@ -61,7 +62,8 @@ DetailsColumn::DetailsColumn(const Parts &parts, QWidget *parent)
 QWidget *DetailsColumn::addPicture(const Parts &parts) {
     auto *const frame = new QFrame;
     setRole(frame, Role::Framed);
-    frame->setFixedHeight(pictureHeight);
+    frame->setMinimumHeight(leastPictureHeight);
+    frame->setMaximumHeight(pictureHeight);
     auto *const inside = new QVBoxLayout(frame);
     inside->setContentsMargins(1, 1, 1, 1);
     auto *const picture = new PictureView(parts.picture, parts.pictureLoading, frame);

@@ -26,7 +26,7 @@ EndTool::EndTool(Pinmora_AppDelegate &delegate, QWidget *parent)
 void EndTool::addApply(QVBoxLayout &column) {
     auto *const apply = new QPushButton(tr("Apply to All"), this);
     apply->setToolTip(tr("Gives every photo the position of the track point nearest in time"));
-    apply->setMinimumSize(20 * spacing, 4 * spacing + smallGap);
+    apply->setStyleSheet(QStringLiteral("QPushButton { padding: 5px 32px; min-height: 24px; }"));
     apply->setAutoDefault(true);
     connect(apply, &QPushButton::clicked, this, [this] { parts_.matcher.applyToAllPictures(); });
     column.addWidget(apply, 0, Qt::AlignLeft);

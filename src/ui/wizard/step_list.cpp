@@ -45,7 +45,6 @@ void StepList::addStep(QVBoxLayout &column, std::size_t place) {
     Step &step = steps_.at(place);
     step.button = new QPushButton(this);
     setRole(step.button, Role::Step);
-    step.button->setFixedHeight(36);
     step.button->setAutoDefault(true);
     step.number = new QLabel(QString::number(place + 1), step.button);
     step.number->setAlignment(Qt::AlignCenter);

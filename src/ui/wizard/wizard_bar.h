@@ -4,8 +4,11 @@
 
 #include <QFrame>
 
+class QHBoxLayout;
+
 namespace pinmora {
 
+class LibraryCounts;
 struct MatchingOutlets;
 struct WizardOutlets;
 
@@ -15,10 +18,14 @@ class WizardBar : public QFrame {
     Q_OBJECT
 
 public:
-    /// Both must outlive it.
-    WizardBar(WizardOutlets &outlets, MatchingOutlets &matching, QWidget *parent = nullptr);
+    /// All must outlive it.
+    WizardBar(WizardOutlets &outlets, MatchingOutlets &matching, LibraryCounts &counts,
+              QWidget *parent = nullptr);
 
 private:
+    void addSave(QHBoxLayout &row, WizardOutlets &outlets, MatchingOutlets &matching,
+                 LibraryCounts &counts);
+
     Bindings bindings_; ///< goes before what it writes to
 };
 

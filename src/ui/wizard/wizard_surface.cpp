@@ -28,10 +28,10 @@ QFrame *inFrame(QWidget *content, QWidget *parent) {
 
 } // namespace
 
-WizardSurface::WizardSurface(const WorkWindowParts &parts, QWidget *parent) : QWidget(parent) {
-    auto *const row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(spacing + smallGap);
+WizardSurface::WizardSurface(const WorkWindowParts &parts, QWidget *parent)
+    : QWidget(parent), row_(new QHBoxLayout(this)) {
+    row_->setContentsMargins(0, 0, 0, 0);
+    row_->setSpacing(spacing + smallGap);
     addPhotos(parts);
     addMap(parts);
     addDetails(parts);
@@ -53,7 +53,7 @@ void WizardSurface::addPhotos(const WorkWindowParts &parts) {
                               .mayBeNarrow = true});
     photos_->addAction(parts.actions[ActionName::RemovePictures]);
     QFrame *const frame = inFrame(photos_, this);
-    layout()->addWidget(frame);
+    row_->addWidget(frame);
     bindings_.watch(delegate.interface.webView2.visible, [frame](bool isBesideMap) {
         frame->setMaximumWidth(isBesideMap ? listWidth : QWIDGETSIZE_MAX);
     });
@@ -62,7 +62,7 @@ void WizardSurface::addPhotos(const WorkWindowParts &parts) {
 void WizardSurface::addMap(const WorkWindowParts &parts) {
     MapView &view = parts.delegate.interface.webView2;
     QFrame *const frame = inFrame(new MapPane(view, parts.makePage), this);
-    static_cast<QHBoxLayout *>(layout())->addWidget(frame, 1);
+    row_->addWidget(frame, 1);
     bindings_.watch(view.visible, [frame](bool visible) { frame->setVisible(visible); });
 }
 
@@ -74,7 +74,7 @@ void WizardSurface::addDetails(const WorkWindowParts &parts) {
                            .pictureLoading = subsystems.preview.loading,
                            .fullSize = [&subsystems] { subsystems.inspector.imageFullView(); }},
                           this);
-    layout()->addWidget(details_);
+    row_->addWidget(details_);
 }
 
 } // namespace pinmora

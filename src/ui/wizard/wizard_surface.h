@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+class QHBoxLayout;
+
 namespace pinmora {
 
 class DetailsColumn;
@@ -25,6 +27,7 @@ private:
     void addMap(const WorkWindowParts &parts);
     void addDetails(const WorkWindowParts &parts);
 
+    QHBoxLayout *row_;
     PhotoPanel *photos_ = nullptr;
     DetailsColumn *details_ = nullptr;
     Bindings bindings_; ///< goes before what it writes to

@@ -62,11 +62,12 @@ PageTexts textsFor(WizardPage page, const Counts &counts, bool isApplied) {
                     ? say("A log of a GPS receiver or a phone knows where you were, and when. No "
                           "log? Press Next: you can put photos on the map by hand.")
                     : say("A log of a GPS receiver or a phone knows where you were, and when. Load "
-                          "all that belong to these photos, then press Next.")};
+                          "all logs of these photos, then press Next.")};
     case WizardPage::OffsetSelect:
         return {say("Was the camera’s clock right?"),
                 say("A photo gets the position that the log has for the moment it was taken. If "
-                    "the camera’s clock was off, say here how to find by how much.")};
+                    "the camera’s clock was off, say here how to find by how much. Choose what you "
+                    "know:")};
     case WizardPage::OffsetByMap:
         return mapTexts(counts);
     case WizardPage::OffsetByLatLon:

@@ -41,7 +41,8 @@ WizardWindow::WizardWindow(const WorkWindowParts &parts)
     row->addWidget(new StepList(subsystems_.wizardOutlets, subsystems_.wizard));
     row->addWidget(makeContent(), 1);
     column->addLayout(row, 1);
-    column->addWidget(new WizardBar(subsystems_.wizardOutlets, subsystems_.matching));
+    bar_ = new WizardBar(subsystems_.wizardOutlets, subsystems_.matching, subsystems_.counts);
+    column->addWidget(bar_);
     setCentralWidget(surface);
     setStatusBar(new LibraryStatus(subsystems_.counts, subsystems_.placeNames.awaited,
                                    delegate_.interface.statusLine));
@@ -132,10 +133,12 @@ void WizardWindow::showPage() {
     detailTools_->setVisible(now == WizardPage::OffsetByMap);
     showTexts();
     setUpdatesEnabled(true);
-    if (shown.body == surface_) {
+    if (shown.body == surface_ && subsystems_.counts.counts.get().photos > 0) {
         surface_->photos()->focusList();
-    } else {
+    } else if (now == WizardPage::OffsetSelect) {
         shown.body->setFocus();
+    } else {
+        bar_->setFocus();
     }
 }
 

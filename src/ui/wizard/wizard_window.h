@@ -10,6 +10,7 @@ class QVBoxLayout;
 
 namespace pinmora {
 
+class WizardBar;
 class WizardSurface;
 
 /// The wizard: the same work as in the main window, one question a page.
@@ -45,6 +46,7 @@ private:
     QLabel *question_ = nullptr;
     QLabel *words_ = nullptr;
     WizardSurface *surface_ = nullptr;
+    WizardBar *bar_ = nullptr;
     QWidget *detailTools_ = nullptr;
 };
 
