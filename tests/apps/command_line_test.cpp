@@ -1,36 +1,31 @@
 #include "command_line.h"
+#include "rows.h"
 
-#include <QTest>
-
-#include <filesystem>
-
+using namespace pinmora;
 using namespace pinmora::app;
 
 using Words = std::vector<std::string>;
-
-Q_DECLARE_METATYPE(Words)
 
 class CommandLineTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void readsPaths_data() {
-        QTest::addColumn<Words>("arguments");
-        QTest::addColumn<Words>("paths");
+        const auto row = test::rows<Words, Words>();
         const std::string here = std::filesystem::current_path().string() + "/";
-        QTest::newRow("none") << Words{} << Words{};
-        QTest::newRow("relative") << Words{"a.jpg", "/b"} << Words{here + "a.jpg", "/b"};
-        QTest::newRow("not UTF-8") << Words{"/\xE9.jpg"} << Words{"/\xE9.jpg"};
-        QTest::newRow("like an option") << Words{"--", "-x.jpg"} << Words{here + "-x.jpg"};
-        QTest::newRow("empty") << Words{"", "/b"} << Words{"/b"};
-        QTest::newRow("a mere dash") << Words{"-"} << Words{here + "-"};
+        row("none", {}, {});
+        row("relative", {"a.jpg", "/b"}, {here + "a.jpg", "/b"});
+        row("not UTF-8", {"/\xE9.jpg"}, {"/\xE9.jpg"});
+        row("like an option", {"--", "-x.jpg"}, {here + "-x.jpg"});
+        row("empty", {"", "/b"}, {"/b"});
+        row("a mere dash", {"-"}, {here + "-"});
     }
 
     void readsPaths() {
-        QFETCH(Words, arguments);
+        auto [arguments, paths] = test::fetch<Words, Words>();
         arguments.insert(arguments.begin(), "pinmora");
         const CommandLine parsed = parseCommandLine(arguments);
-        QTEST(parsed.paths, "paths");
+        QCOMPARE(parsed.paths, paths);
         QVERIFY(parsed.message.empty());
     }
 

@@ -1,23 +1,14 @@
 #include "report.h"
+#include "rows.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QtTest>
 
 using namespace pinmora;
 using namespace pinmora::tag;
 using namespace std::chrono_literals;
-
-class ReportTest : public QObject {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void exitStatusTellsWhetherAllIsDone_data();
-    void exitStatusTellsWhetherAllIsDone();
-    void jsonKeepsTextsAndTellsNullFromEmpty();
-    void tableColumnsStandUnderEachOther();
-};
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -44,59 +35,59 @@ Report sample() {
 
 } // namespace
 
-void ReportTest::exitStatusTellsWhetherAllIsDone_data() {
-    QTest::addColumn<int>("status");
-    QTest::addColumn<bool>("trouble");
-    QTest::addColumn<int>("exit");
-    QTest::newRow("saved") << int(Status::Saved) << false << 0;
-    QTest::newRow("dry run") << int(Status::Matched) << false << 0;
-    QTest::newRow("unmatched") << int(Status::Unmatched) << false << 1;
-    QTest::newRow("failed") << int(Status::Failed) << false << 1;
-    QTest::newRow("a path could not be used") << int(Status::Saved) << true << 1;
-}
+class ReportTest : public QObject {
+    Q_OBJECT
 
-void ReportTest::exitStatusTellsWhetherAllIsDone() {
-    QFETCH(int, status);
-    QFETCH(bool, trouble);
-    QFETCH(int, exit);
-    Report report{.photos = {{}, {.status = static_cast<Status>(status)}, {}}, .trouble = trouble};
-    QCOMPARE(exitStatus(report), exit);
-}
+private Q_SLOTS:
+    void exitStatusTellsWhetherAllIsDone_data() {
+        const auto row = test::rows<Status, bool, int>();
+        row("saved", Status::Saved, false, 0);
+        row("dry run", Status::Matched, false, 0);
+        row("unmatched", Status::Unmatched, false, 1);
+        row("failed", Status::Failed, false, 1);
+        row("a path could not be used", Status::Saved, true, 1);
+    }
 
-void ReportTest::jsonKeepsTextsAndTellsNullFromEmpty() {
-    const QByteArray json = QByteArray::fromStdString(jsonText(sample()));
-    const QJsonObject document = QJsonDocument::fromJson(json).object();
-    QCOMPARE(document[u"tracks"].toInt(), 2);
-    QCOMPARE(document[u"points"].toInt(), 900);
-    const QJsonObject first = document[u"photos"][0].toObject();
-    QCOMPARE(first[u"taken"].toString(), QStringLiteral("2025-06-14T10:00:00"));
-    QCOMPARE(first[u"corrected"].toString(), QStringLiteral("2025-06-14T10:00:40"));
-    QCOMPARE(first[u"lat"].toString(), QStringLiteral("+47.3825"));
-    QCOMPARE(first[u"lon"].toString(), QStringLiteral("8.50"));
-    QCOMPARE(first[u"city"].toString(), QStringLiteral("Zürich"));
-    QCOMPARE(first[u"prov"].toString(), QStringLiteral("ZH"));
-    QCOMPARE(first[u"country"].toString(), QStringLiteral("Switzerland"));
-    QCOMPARE(first[u"seconds_apart"].toInt(), 3);
-    QCOMPARE(first[u"status"].toString(), QStringLiteral("saved"));
-    const QJsonObject second = document[u"photos"][1].toObject();
-    QVERIFY(second[u"taken"].isNull() && second[u"corrected"].isNull());
-    QVERIFY(second[u"seconds_apart"].isNull());
-    QCOMPARE(second[u"lat"], QJsonValue(QString()));
-    QCOMPARE(second[u"file"].toString(), QStringLiteral("/p/caf\\xE9 é.jpg"));
-    QCOMPARE(second[u"message"].toString(), QStringLiteral("disk full"));
-}
+    void exitStatusTellsWhetherAllIsDone() {
+        const auto [status, trouble, exit] = test::fetch<Status, bool, int>();
+        QCOMPARE(exitStatus({.photos = {{}, {.status = status}, {}}, .trouble = trouble}), exit);
+    }
 
-void ReportTest::tableColumnsStandUnderEachOther() {
-    const QStringList lines = QString::fromStdString(tableText(sample())).split(u'\n');
-    QCOMPARE(lines[1].indexOf(QStringLiteral("2025-06-14")), lines[0].indexOf(u"Taken"));
-    QCOMPARE(lines[2].indexOf(QStringLiteral("no capture time")), lines[0].indexOf(u"Taken"));
-    QCOMPARE(lines[1].indexOf(QStringLiteral("+47.3825, 8.50")), lines[0].indexOf(u"Position"));
-    QVERIFY(lines[1].contains(QStringLiteral("412.5 m  Zürich, ZH, Switzerland ")));
-    QCOMPARE(lines[2].indexOf(QStringLiteral("ZH ")), lines[0].indexOf(u"Place"));
-    QVERIFY(lines[1].endsWith(QStringLiteral("IMG_0001.JPG")));
-    QVERIFY(lines[3].contains(QStringLiteral("failed: disk full")));
-    QCOMPARE(lines[4], QStringLiteral("2 photos: 1 saved, 1 failed. 2 tracks, 900 points."));
-}
+    void jsonKeepsTextsAndTellsNullFromEmpty() {
+        const QByteArray json = QByteArray::fromStdString(jsonText(sample()));
+        const QJsonObject document = QJsonDocument::fromJson(json).object();
+        QCOMPARE(document[u"tracks"].toInt(), 2);
+        QCOMPARE(document[u"points"].toInt(), 900);
+        const QJsonObject first = document[u"photos"][0].toObject();
+        QCOMPARE(first[u"taken"].toString(), u"2025-06-14T10:00:00"_s);
+        QCOMPARE(first[u"corrected"].toString(), u"2025-06-14T10:00:40"_s);
+        QCOMPARE(first[u"lat"].toString(), u"+47.3825"_s);
+        QCOMPARE(first[u"lon"].toString(), u"8.50"_s);
+        QCOMPARE(first[u"city"].toString(), u"Zürich"_s);
+        QCOMPARE(first[u"prov"].toString(), u"ZH"_s);
+        QCOMPARE(first[u"country"].toString(), u"Switzerland"_s);
+        QCOMPARE(first[u"seconds_apart"].toInt(), 3);
+        QCOMPARE(first[u"status"].toString(), u"saved"_s);
+        const QJsonObject second = document[u"photos"][1].toObject();
+        QVERIFY(second[u"taken"].isNull() && second[u"corrected"].isNull());
+        QVERIFY(second[u"seconds_apart"].isNull());
+        QCOMPARE(second[u"lat"], QJsonValue(QString()));
+        QCOMPARE(second[u"file"].toString(), u"/p/caf\\xE9 é.jpg"_s);
+        QCOMPARE(second[u"message"].toString(), u"disk full"_s);
+    }
+
+    void tableColumnsStandUnderEachOther() {
+        const QStringList lines = QString::fromStdString(tableText(sample())).split(u'\n');
+        QCOMPARE(lines[1].indexOf(u"2025-06-14"_s), lines[0].indexOf(u"Taken"));
+        QCOMPARE(lines[2].indexOf(u"no capture time"_s), lines[0].indexOf(u"Taken"));
+        QCOMPARE(lines[1].indexOf(u"+47.3825, 8.50"_s), lines[0].indexOf(u"Position"));
+        QVERIFY(lines[1].contains(u"412.5 m  Zürich, ZH, Switzerland "_s));
+        QCOMPARE(lines[2].indexOf(u"ZH "_s), lines[0].indexOf(u"Place"));
+        QVERIFY(lines[1].endsWith(u"IMG_0001.JPG"_s));
+        QVERIFY(lines[3].contains(u"failed: disk full"_s));
+        QCOMPARE(lines[4], u"2 photos: 1 saved, 1 failed. 2 tracks, 900 points."_s);
+    }
+};
 
 QTEST_APPLESS_MAIN(ReportTest)
 #include "report_test.moc"
