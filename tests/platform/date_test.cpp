@@ -69,19 +69,14 @@ private Q_SLOTS:
         row("fraction", "2008-05-12T14:05:09.5Z", gpx, -1);
         row("numeric zone", "2008-05-12T14:05:09+02:00", gpx, -1);
         row("cut", "2008-05-12T14:05:09", gpx, -1);
-        row("cut in a field", "2008:05:12 14:05:0", exif, -1);
-        row("something after it", "2008:05:12 14:05:09 ", exif, -1);
-        row("one digit", "2008:5:12 14:05:09", exif, -1);
-        row("blank for a digit", "2008:05:12 14:05: 9", exif, -1);
-        row("sign for a digit", "2008:05:12 14:05:+9", exif, -1);
-        row("colon for a digit", "2008:05:12 14:05:1:", exif, -1); // the character after 9
-        row("no leap year", "2100:02:29 00:00:00", exif, -1);
-        row("31 April", "2008:04:31 00:00:00", exif, -1);
-        row("month 0", "0000:00:00 00:00:00", exif, -1);
-        row("24 o'clock", "2008:05:12 24:00:00", exif, -1);
-        row("minute 60", "2008:05:12 14:60:09", exif, -1);
-        row("leap second", "2008:12:31 23:59:60", exif, -1);
-        row("empty", "", exif, -1);
+        for (const char *text :
+             {"2008:05:12 14:05:0", "2008:05:12 14:05:09 ", "2008:5:12 14:05:09",
+              "2008:05:12 14:05: 9", "2008:05:12 14:05:+9",
+              "2008:05:12 14:05:1:", // the character after 9
+              "2100:02:29 00:00:00", "2008:04:31 00:00:00", "0000:00:00 00:00:00",
+              "2008:05:12 24:00:00", "2008:05:12 14:60:09", "2008:12:31 23:59:60", ""}) {
+            row(text, text, exif, -1);
+        }
         row("field unknown", "08", "%y", -1);
         row("format cut", "08", "08%", -1);
     }
