@@ -76,12 +76,12 @@ QWidget *DropGround::makeArea(const Parts &parts) {
     };
     addAir(4 * spacing);
     inside->addWidget(new IconLabel(quietIcon(parts.iconName), 52, area));
-    inside->addSpacing(spacing);
+    addAir(spacing);
     inside->addWidget(centred(parts.title, Role::Title, area));
     inside->addWidget(centred(parts.words, Role::Quiet, area));
-    inside->addSpacing(spacing);
+    addAir(spacing);
     inside->addLayout(makeButtons(parts.buttons, area));
-    inside->addSpacing(spacing);
+    addAir(spacing);
     for (const Choice &link : parts.links) {
         inside->addWidget(buttonFor(link, Role::Link, area), 0, Qt::AlignHCenter);
     }

@@ -51,7 +51,7 @@ struct WindowDesk : Desk {
     template <class Widget>
     Widget *named(const char *name) const {
         for (auto *widget : window->findChildren<Widget *>()) {
-            if (widget->accessibleName() == QLatin1String(name) && widget->isVisible()) {
+            if (widget->accessibleName() == QString::fromUtf8(name) && widget->isVisible()) {
                 return widget;
             }
         }

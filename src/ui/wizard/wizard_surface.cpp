@@ -15,7 +15,8 @@
 namespace pinmora {
 namespace {
 
-constexpr int listWidth = 236; ///< beside a map
+constexpr int listWidth = 236;      ///< beside a map
+constexpr int leastMapHeight = 144; ///< what a small screen leaves below the tools of a page
 
 QFrame *inFrame(QWidget *content, QWidget *parent) {
     auto *const frame = new QFrame(parent);
@@ -61,7 +62,9 @@ void WizardSurface::addPhotos(const WorkWindowParts &parts) {
 
 void WizardSurface::addMap(const WorkWindowParts &parts) {
     MapView &view = parts.delegate.interface.webView2;
-    QFrame *const frame = inFrame(new MapPane(view, parts.makePage), this);
+    auto *const map = new MapPane(view, parts.makePage);
+    map->setMinimumHeight(leastMapHeight);
+    QFrame *const frame = inFrame(map, this);
     row_->addWidget(frame, 1);
     bindings_.watch(view.visible, [frame](bool visible) { frame->setVisible(visible); });
 }

@@ -31,6 +31,9 @@ PageTexts mapTexts(const Counts &counts) {
 }
 
 PageTexts endTexts(const Counts &counts, bool isApplied) {
+    if (counts.photos == 0) {
+        return {placedOf(counts), say("Add the photos first: the step “Photos” leads there.")};
+    }
     const QString saving = say("Save Photos writes tagged copies into a folder of your choice. The "
                                "originals stay as they are.");
     if (counts.points > 0 && !isApplied) {
@@ -38,7 +41,7 @@ PageTexts endTexts(const Counts &counts, bool isApplied) {
                 say("Every photo gets the position that the log has for its corrected time. Look "
                     "at a few on the map, then save.")};
     }
-    if (counts.photos > 0 && counts.withPosition == counts.photos) {
+    if (counts.withPosition == counts.photos) {
         return {say("Every photo has its place"), saving};
     }
     return {placedOf(counts), saving};
@@ -85,8 +88,9 @@ PageTexts textsFor(WizardPage page, const Counts &counts, bool isApplied) {
 }
 
 QString placedOf(const Counts &counts) {
-    return say("%1 of %2 photos have their place")
-        .arg(number(counts.withPosition), number(counts.photos));
+    return counts.photos == 0 ? say("There are no photos yet")
+                              : say("%1 of %2 photos have their place")
+                                    .arg(number(counts.withPosition), number(counts.photos));
 }
 
 QString holdings(const Counts &counts) {

@@ -18,7 +18,7 @@ PageTexts textsFor(WizardPage page, const Counts &counts, bool isApplied);
 
 /// "8 photos and 2 tracks"; "" for an empty library.
 QString holdings(const Counts &counts);
-/// "3 of 8 photos have their place".
+/// "3 of 8 photos have their place", or that there are none.
 QString placedOf(const Counts &counts);
 
 } // namespace pinmora
