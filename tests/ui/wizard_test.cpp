@@ -68,6 +68,9 @@ struct WizardDesk : Folders, WindowDesk {
         settle();
     }
     QString clock() const { return named<QLabel>("Correction of the camera clock")->text(); }
+    QString selected() const {
+        return window->findChild<QLabel *>(QStringLiteral("selectedPhoto"))->accessibleName();
+    }
     void setFromPosition() { press("Set From This Position"); }
     /// Saves what is there, until all is written.
     void save() {
@@ -185,7 +188,7 @@ private Q_SLOTS:
         desk.save();
         QCOMPARE(desk.copyNames().size(), 8U);
         desk.clickPhoto("IMG_0412");
-        const QString copy = desk.named<QLabel>("Selected photo")->text();
+        const QString copy = desk.selected();
         QVERIFY(copy.startsWith(QStringLiteral("zug_")));
         const QString latitude = desk.latitudeIn(copy.toStdString() + ".JPG");
         QTEST(latitude, "latitude");
@@ -244,11 +247,10 @@ private Q_SLOTS:
         QVERIFY(desk.window == wizard && wizard->isVisible());
         QVERIFY(!desk.action(ActionName::ShowWizard)->isEnabled());
         QCOMPARE(desk.photoTable()->selectionModel()->selectedRows().first().row(), 5);
-        QCOMPARE(desk.named<QLabel>("Selected photo")->text().toStdString(),
-                 desk.photo(5).image_name().string());
+        QCOMPARE(desk.selected().toStdString(), desk.photo(5).image_name().string());
         desk.action(ActionName::SelectAll)->trigger(); // in the window that is seen
         desk.settle();
-        QCOMPARE(desk.named<QLabel>("Selected photo")->text(), QStringLiteral("8 photos"));
+        QCOMPARE(desk.selected(), QStringLiteral("8 photos"));
 
         desk.press("Do not show the wizard at start");
         QCOMPARE(desk.delegate.defaults.text("useWizard"), std::optional<std::string>("0"));

@@ -1,6 +1,7 @@
 #include "ui/wizard/details_column.h"
 
 #include "shell/wizard_details.h"
+#include "ui/elided_label.h"
 #include "ui/picture_view.h"
 #include "ui/roles.h"
 #include "ui/theme.h"
@@ -32,11 +33,13 @@ DetailsColumn::DetailsColumn(const Parts &parts, QWidget *parent)
     column_->addWidget(addPicture(parts));
     setRole(choose_, Role::Quiet);
     column_->addWidget(choose_);
-    auto *const name = new QLabel(content);
+    auto *const name = new ElidedLabel(content); // wrapped, it would keep the picture large
+    name->setObjectName(QStringLiteral("selectedPhoto"));
     setRole(name, Role::Strong);
-    name->setWordWrap(true);
-    name->setAccessibleName(tr("Selected photo"));
-    bindings_.show(parts.details.pictureData2, name);
+    bindings_.follow(parts.details.pictureData2, name);
+    bindings_.watch(parts.details.pictureData2.text, [name](const std::string &text) {
+        name->setWholeText(QString::fromStdString(text));
+    });
     column_->addWidget(name);
     auto *const grid = new QGridLayout;
     grid->setHorizontalSpacing(spacing);
