@@ -4,6 +4,7 @@
 #include "window_program.h"
 
 #include "ui/photo_table.h"
+#include "ui/work_window.h"
 
 #include <QScrollBar>
 
