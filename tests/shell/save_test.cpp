@@ -1,5 +1,7 @@
 #include "shell/save_desk.h"
 
+#include <utility>
+
 using namespace pinmora;
 namespace fs = std::filesystem;
 
@@ -125,8 +127,12 @@ void SaveTest::isNotOverBeforeItsSheetIsDrawn() {
     SaveDesk desk(3);
     fs::remove_all(desk.copies);
     const SavePipeline &pipeline = desk.parts().savePipeline;
-    desk.listening.push_back(desk.outlets().saveWindow.displayed.connect(
-        [&] { static_cast<void>(QTest::qWaitFor([&] { return !pipeline.isRunning(); }, 200)); }));
+    bool isDrawn = false;
+    desk.listening.push_back(desk.outlets().saveWindow.displayed.connect([&] {
+        if (!std::exchange(isDrawn, true)) {
+            static_cast<void>(QTest::qWaitFor([&] { return !pipeline.isRunning(); }, 200));
+        }
+    }));
     desk.confirm();
     QVERIFY(pipeline.isRunning());
     QVERIFY(desk.ends());
