@@ -161,8 +161,8 @@ void Wizard::goBack() {
     switch (page()) {
     case WizardPage::OffsetByMap:
     case WizardPage::OffsetByLatLon:
-    case WizardPage::OffsetByKnown: // without a log nobody has come by the question of the clock
-        surroundings_.hasTrackData() ? goToOffsetSelect() : goGPSWizard();
+    case WizardPage::OffsetByKnown:
+        goToOffsetSelect();
         break;
     case WizardPage::MatchAll:
         goToOffsetStart();

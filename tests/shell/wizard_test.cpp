@@ -148,6 +148,7 @@ private Q_SLOTS:
              {"back", 4},
              {"log", 2},
              {"next", 4},
+             {"back", 3},
              {"back", 2}},
             false);
     }

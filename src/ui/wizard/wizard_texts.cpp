@@ -19,6 +19,17 @@ QString amount(std::size_t count, const char *one, const char *many) {
     return number(count) + QLatin1Char(' ') + say(count == 1 ? one : many);
 }
 
+PageTexts clockTexts(const Counts &counts) {
+    return counts.points == 0
+               ? PageTexts{say("There is no log to set the clock by"),
+                           say("Go back to load one, or choose the map and put your photos where "
+                               "they were taken.")}
+               : PageTexts{say("Was the camera’s clock right?"),
+                           say("A photo gets the position that the log has for the moment it was "
+                               "taken. If the camera’s clock was off, say here how to find by how "
+                               "much.")};
+}
+
 PageTexts mapTexts(const Counts &counts) {
     return counts.points == 0
                ? PageTexts{say("Put your photos where they were taken"),
@@ -67,10 +78,7 @@ PageTexts textsFor(WizardPage page, const Counts &counts, bool isApplied) {
                     : say("A log of a GPS receiver or a phone knows where you were, and when. Load "
                           "all logs of these photos, then press Next.")};
     case WizardPage::OffsetSelect:
-        return {say("Was the camera’s clock right?"),
-                say("A photo gets the position that the log has for the moment it was taken. If "
-                    "the camera’s clock was off, say here how to find by how much. Choose what you "
-                    "know:")};
+        return clockTexts(counts);
     case WizardPage::OffsetByMap:
         return mapTexts(counts);
     case WizardPage::OffsetByLatLon:
