@@ -41,7 +41,6 @@ int run(int &argc, char **argv, const Paths &paths, InstanceChannel &channel, In
     QApplication::setAttribute(Qt::AA_ShareOpenGLContexts); // the page view asks for it
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("pinmora"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Pinmora"));
     QApplication::setDesktopFileName(QStringLiteral("pinmora"));
     if (!channel.listen()) {
         std::cerr << "pinmora: files cannot be handed over to this program by later starts.\n";

@@ -20,7 +20,7 @@ namespace pinmora {
 LogWindow::LogWindow(Window &window, const LogFile &log, const Workspace &workspace,
                      QWidget *parent)
     : QWidget(parent, Qt::Window), window_(window), log_(log), text_(new QPlainTextEdit) {
-    setWindowTitle(tr("Log"));
+    setWindowTitle(tr("Pinmora - Log"));
     resize(100 * spacing, 52 * spacing);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(2 * spacing, 2 * spacing, 2 * spacing, 2 * spacing);

@@ -30,6 +30,7 @@ SheetDialog::SheetDialog(Sheet &sheet, WidgetOf widgetOf, std::function<void()> 
                          QWidget *owner)
     : QDialog(owner, sheetFlags), sheet_(sheet), widgetOf_(std::move(widgetOf)),
       cancel_(std::move(cancel)), owner_(owner), column_(new QVBoxLayout(this)) {
+    setWindowTitle(QStringLiteral("Pinmora"));
     setWindowModality(Qt::WindowModal);
     column_->setContentsMargins(3 * spacing, 2 * spacing, 3 * spacing, 2 * spacing);
     column_->setSpacing(spacing + spacing / 2);
