@@ -59,7 +59,7 @@ PhotoLine placePhoto(image &photo, const offset &clockOffset, NearestPoints *poi
     const bool hadAltitude = !photo.alt().view().empty();
     const track_part *const point = points && corrected ? points->inTime(*corrected) : nullptr;
     if (point) {
-        placeAtWithAltitude(photo, *point);
+        placeAtWithAltitude(photo, *point, corrected);
     }
     if (point && hasTime) {
         line.secondsApart =

@@ -53,14 +53,36 @@ void ClockOffset::connectControls() {
             selector->chosen.connect([this, selector] { changePlusMinu(*selector); }));
     }
     connections_.push_back(outlets_.offsetObj.onChange([this](offset *) { showStoredOffset(); }));
+    connections_.push_back(
+        outlets_.pictureArray.selectionChanged.connect([this] { showStoredOffset(); }));
+}
+
+std::string ClockOffset::clockOf(const image &photo) const {
+    const offset *const stored = outlets_.offsetObj.content();
+    const bool isOwn = stored && stored->cameraOffsets().find(photo.camera().view());
+    return isOwn ? photo.camera().string() : std::string();
+}
+
+std::string ClockOffset::cameraInHand() const {
+    const image *const photo = outlets_.pictureArray.firstSelectedObject();
+    return photo ? clockOf(*photo) : std::string();
+}
+
+ClockParts ClockOffset::shownParts() const {
+    const offset *const stored = outlets_.offsetObj.content();
+    if (!stored) {
+        return {};
+    }
+    const ClockParts *const own = stored->cameraOffsets().find(cameraInHand());
+    return own ? *own : stored->parts();
 }
 
 void ClockOffset::showStoredOffset() {
-    const offset *const stored = outlets_.offsetObj.content();
-    outlets_.stepperHour.value.set(stored ? stored->hours().value_or(0) : 0);
-    outlets_.stepperMin.value.set(stored ? stored->minutes().value_or(0) : 0);
-    outlets_.stepperSec.value.set(stored ? stored->seconds().value_or(0) : 0);
-    const int tag = stored && stored->plus().value_or(0) != 0 ? 1 : 0;
+    const ClockParts shown = shownParts();
+    outlets_.stepperHour.value.set(shown.hours);
+    outlets_.stepperMin.value.set(shown.minutes);
+    outlets_.stepperSec.value.set(shown.seconds);
+    const int tag = shown.plus ? 1 : 0;
     for (Selector *selector :
          {&outlets_.plusMinus, &outlets_.plusMinus1, &outlets_.plusMinus2, &outlets_.plusMinus3}) {
         selector->selectedTag.set(tag);
@@ -83,31 +105,104 @@ void ClockOffset::didDelete(Record &record) {
 }
 
 void ClockOffset::stepHour(const Stepper &sender) {
-    step(&offset::setHours, sender);
+    step(&offset::setHours, &ClockParts::hours, sender);
 }
 
 void ClockOffset::stepMin(const Stepper &sender) {
-    step(&offset::setMinutes, sender);
+    step(&offset::setMinutes, &ClockParts::minutes, sender);
 }
 
 void ClockOffset::stepSec(const Stepper &sender) {
-    step(&offset::setSeconds, sender);
+    step(&offset::setSeconds, &ClockParts::seconds, sender);
 }
 
-void ClockOffset::step(Field field, const Stepper &sender) {
-    if (offset *const stored = outlets_.offsetObj.content()) {
-        const UndoGroup group(context_, "Step Clock Offset");
-        (stored->*field)(sender.value.get());
-        stepped.emit();
+void ClockOffset::step(Field field, std::int32_t ClockParts::*part, const Stepper &sender) {
+    offset *const stored = outlets_.offsetObj.content();
+    if (!stored) {
+        return;
     }
+    const UndoGroup group(context_, "Step Clock Offset");
+    if (const std::string camera = cameraInHand(); !camera.empty()) {
+        ClockParts parts = shownParts();
+        parts.*part = sender.value.get();
+        storeOwn(camera, parts);
+    } else {
+        (stored->*field)(sender.value.get());
+    }
+    stepped.emit();
 }
 
 void ClockOffset::changePlusMinu(const Selector &sender) {
-    if (offset *const stored = outlets_.offsetObj.content()) {
-        const UndoGroup group(context_, "Change Sign of Clock Offset");
-        stored->setPlus(sender.selectedTag.get());
-        updateShownOffset();
+    offset *const stored = outlets_.offsetObj.content();
+    if (!stored) {
+        return;
     }
+    const UndoGroup group(context_, "Change Sign of Clock Offset");
+    if (const std::string camera = cameraInHand(); !camera.empty()) {
+        ClockParts parts = shownParts();
+        parts.plus = sender.selectedTag.get() != 0;
+        storeOwn(camera, parts);
+    } else {
+        stored->setPlus(sender.selectedTag.get());
+    }
+    updateShownOffset();
+}
+
+void ClockOffset::storeOwn(const std::string &camera, const ClockParts &parts) {
+    offset &stored = *outlets_.offsetObj.content();
+    CameraOffsets own = stored.cameraOffsets();
+    own.set(camera, parts);
+    stored.setCamera_offsets(own.text());
+}
+
+std::chrono::seconds ClockOffset::clock(const std::string &camera) const {
+    const offset *const stored = outlets_.offsetObj.content();
+    return stored ? stored->signedOffsetFor(camera) : std::chrono::seconds{};
+}
+
+void ClockOffset::setClock(const std::string &camera, std::chrono::seconds signedOffset) {
+    offset *const stored = outlets_.offsetObj.content();
+    if (!stored) {
+        return;
+    }
+    const UndoGroup group(context_, "Set Camera Clock");
+    const ClockParts parts = ClockParts::of(signedOffset);
+    if (camera.empty()) {
+        stored->setParts(parts);
+    } else {
+        storeOwn(camera, parts);
+    }
+    showSelectedTime();
+}
+
+void ClockOffset::setHasOwnClock(const std::string &camera, bool own) {
+    offset *const stored = outlets_.offsetObj.content();
+    if (!stored || own == (stored->cameraOffsets().find(camera) != nullptr)) {
+        return;
+    }
+    const UndoGroup group(context_, own ? "Give Camera Its Own Clock" : "Use Common Clock");
+    CameraOffsets offsets = stored->cameraOffsets();
+    if (own) {
+        offsets.set(camera, stored->parts());
+    } else {
+        offsets.erase(camera);
+    }
+    stored->setCamera_offsets(offsets.text());
+    showSelectedTime();
+}
+
+std::chrono::seconds ClockOffset::turnOf(const image &photo) const {
+    const std::optional<ClockTurn> &turn = turning.get();
+    return turn && turn->camera == clockOf(photo) ? turn->by : std::chrono::seconds{};
+}
+
+void ClockOffset::endTurn() {
+    const std::optional<ClockTurn> turn = turning.get();
+    if (turn && turn->by.count() != 0) {
+        const UndoGroup group(context_, "Turn Camera Clock");
+        setClock(turn->camera, clock(turn->camera) + turn->by);
+    }
+    turning.set(std::nullopt);
 }
 
 void ClockOffset::setNewOffset(bool updateFields) {
@@ -121,27 +216,46 @@ void ClockOffset::setNewOffset(bool updateFields) {
     const Date taken = *photo->date();
     const bool isEarlier = *point->time() < taken;
     const std::chrono::seconds apart(wholeSecondsApart(*point->time(), taken));
-    if (updateFields) {
-        storeFields(apart);
-    }
-    stored->setOffset_set(1);
-    stored->setPlus(isEarlier ? 0 : 1);
+    storeDerived(apart, isEarlier, updateFields);
     showCorrectedTime(isEarlier ? taken - apart : taken + apart);
 
     MapView &map = outlets_.inWizard ? outlets_.webView2 : outlets_.webView1;
     map.evaluate(pointerScript(point->lat().view(), point->lon().view(), zoom));
-    placeAt(*photo, *point);
+    placeAt(*photo, *point, correctedTime(*photo, *stored));
     if (degrees *const shown = outlets_.degreeObj.content()) {
         shown->showPosition(point->lat().view(), point->lon().view());
     }
 }
 
+/// A camera's own clock stays as it was stepped.
+void ClockOffset::storeDerived(std::chrono::seconds apart, bool isEarlier, bool updateFields) {
+    offset &stored = *outlets_.offsetObj.content();
+    if (updateFields) {
+        offerMarkerRemoval();
+    }
+    if (const std::string camera = cameraInHand(); !camera.empty()) {
+        if (updateFields) {
+            storeOwn(camera, ClockParts::of(isEarlier ? -apart : apart));
+        }
+        return;
+    }
+    if (updateFields) {
+        storeFields(apart);
+    }
+    stored.setOffset_set(1);
+    stored.setPlus(isEarlier ? 0 : 1);
+}
+
 /// The steppers follow the record.
 void ClockOffset::storeFields(std::chrono::seconds apart) {
     offset &stored = *outlets_.offsetObj.content();
-    stored.setHours(static_cast<std::int32_t>(apart.count() / 3600));
-    stored.setMinutes(static_cast<std::int32_t>(apart.count() / 60 % 60));
-    stored.setSeconds(static_cast<std::int32_t>(apart.count() % 60));
+    const ClockParts parts = ClockParts::of(apart);
+    stored.setHours(parts.hours);
+    stored.setMinutes(parts.minutes);
+    stored.setSeconds(parts.seconds);
+}
+
+void ClockOffset::offerMarkerRemoval() {
     outlets_.addRemoveMarker.title.set("Remove Marker");
     outlets_.addRemoveMarker.tag = 1;
     outlets_.offsetButton.enabled.set(true);

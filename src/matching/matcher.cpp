@@ -12,6 +12,9 @@
 #include "store/image.h"
 #include "store/offset.h"
 
+#include <chrono>
+#include <utility>
+
 namespace pinmora {
 
 namespace {
@@ -38,10 +41,16 @@ track_part *Matcher::getLatLonAlt(const image &photo) {
     return corrected ? points_.inTime(*corrected) : nullptr;
 }
 
+/// Null unless there is one whose time can be compared.
+image *Matcher::photoInHand() const {
+    image *const photo = outlets_.pictureArray.firstSelectedObject();
+    return photo && photo->date() ? photo : nullptr;
+}
+
 void Matcher::gpsMatcher(bool updateFields) {
-    const image *const photo = outlets_.pictureArray.firstSelectedObject();
+    const image *const photo = photoInHand();
     const offset *const clockOffset = outlets_.offsetObj.content();
-    if (!photo || !clockOffset || !photo->date()) {
+    if (!photo || !clockOffset) {
         return;
     }
     const UndoGroup group(context_, matchAction);
@@ -64,14 +73,30 @@ void Matcher::guessFromLatLon() {
     }
     const std::optional<double> lat = readDegrees(outlets_.knownLat, latitudeKind);
     const std::optional<double> lon = readDegrees(outlets_.knownLon, longitudeKind);
-    const image *const photo = outlets_.pictureArray.firstSelectedObject();
-    if (!lat || !lon || !photo || !photo->date()) {
-        return;
+    if (lat && lon) {
+        setFromPlace({.lat = *lat, .lon = *lon});
     }
-    const UndoGroup group(context_, matchAction);
-    if (track_part *const point = points_.inPlace({.lat = *lat, .lon = *lon})) {
-        outlets_.bestGPS.setContent(point);
+}
+
+void Matcher::setFromPlace(Position place) {
+    if (track_part *const point = photoInHand() ? points_.inPlace(place) : nullptr) {
+        setFromPoint(*point);
+    }
+}
+
+void Matcher::setFromPoint(track_part &point) {
+    if (photoInHand()) {
+        const UndoGroup group(context_, matchAction);
+        outlets_.bestGPS.setContent(&point);
         clockOffset_.setNewOffset(true);
+    }
+}
+
+void Matcher::setFromTrueTime(Date taken) {
+    if (const image *const photo = photoInHand()) {
+        using std::chrono::seconds;
+        const auto apart = std::chrono::round<seconds>(taken - *photo->date());
+        clockOffset_.setClock(clockOffset_.clockOf(*photo), apart);
     }
 }
 
@@ -93,37 +118,79 @@ void Matcher::applyToAllPictures() {
         return; // what is half typed would be taken over later, on top of the matched positions
     }
     // A copy: handlers of the progress sheet may change what is arranged.
-    const bool placedAny = applyTo(std::vector(outlets_.pictureArray.arrangedObjects()));
+    const ApplyOutcome outcome = applyTo(std::vector(outlets_.pictureArray.arrangedObjects()));
     context_.commitEditing();
     outlets_.offsetText.text.set("");
     outlets_.offsetText2.text.set("");
     postSelectedPosition();
-    if (placedAny) {
+    if (outcome.placed > 0) {
         outlets_.nextButtonAppliedAll.enabled.set(true);
         outlets_.congrats1.visible.set(true);
         outlets_.congrats2.visible.set(true);
     }
+    applied.emit(outcome);
 }
 
-/// Whether any photo got a place.
-bool Matcher::applyTo(const std::vector<image *> &photos) {
+void Matcher::applyToSelected() {
+    if (context_.commitEditing()) {
+        applyToTimed(outlets_.pictureArray.selectedObjects());
+    }
+}
+
+void Matcher::applyToPhotosWithoutPosition() {
+    if (context_.commitEditing()) {
+        std::vector photos(outlets_.pictureArray.arrangedObjects());
+        std::erase_if(photos, [](const image *photo) { return photo->lat_and_lon(); });
+        applyToTimed(std::move(photos));
+    }
+}
+
+void Matcher::applyToTimed(std::vector<image *> photos) {
+    ApplyOutcome untimed;
+    std::erase_if(photos, [&untimed](const image *photo) {
+        const bool hasNoTime = photo->no_capture_time().value_or(false) || !photo->date();
+        if (hasNoTime) {
+            untimed.untimed.push_back(photo->serial());
+        }
+        return hasNoTime;
+    });
+    ApplyOutcome outcome = applyTo(photos);
+    outcome.untimed = std::move(untimed.untimed);
+    postSelectedPosition();
+    applied.emit(outcome);
+}
+
+ApplyOutcome Matcher::applyTo(const std::vector<image *> &photos) {
     const UndoGroup group(context_, "Apply GPS Data to Photos");
     const ScopedFlag running(runningApplyToAll_);
     const std::string total = std::to_string(photos.size());
     outlets_.progress.showProgressWindow("Applying to GPS data to photos", "",
                                          static_cast<double>(photos.size()));
-    bool placedAny = false;
+    ApplyOutcome outcome;
     std::size_t number = 0;
     for (image *photo : photos) {
-        const track_part *const point = getLatLonAlt(*photo);
         outlets_.progress.advance("Processing " + std::to_string(++number) + " of " + total);
-        if (point) {
-            placeAtWithAltitude(*photo, *point);
-            placedAny = true;
-        }
+        place(*photo, outcome);
     }
     outlets_.progress.closeProgress();
-    return placedAny;
+    return outcome;
+}
+
+void Matcher::place(image &photo, ApplyOutcome &outcome) {
+    if (photo.no_capture_time().value_or(false) || !photo.date()) {
+        outcome.untimed.push_back(photo.serial());
+    }
+    const track_part *const point = getLatLonAlt(photo);
+    if (!point) {
+        return;
+    }
+    const std::optional<Date> corrected = correctedTime(photo, *outlets_.offsetObj.content());
+    const bool isUntimed = !outcome.untimed.empty() && outcome.untimed.back() == photo.serial();
+    if (!isUntimed && !points_.coverage().covers(*corrected)) {
+        outcome.far.push_back(photo.serial());
+    }
+    placeAtWithAltitude(photo, *point, corrected);
+    ++outcome.placed;
 }
 
 /// So that the map shows where the one photo that is looked at has come to.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "matching/apply_outcome.h"
 #include "matching/nearest_points.h"
 #include "outlets/signal.h"
 
@@ -40,15 +41,31 @@ public:
     /// such a number and nothing else; the field that does not tells why.
     void guessFromLatLon();
 
+    /// Sets the offset by the first selected photo and the point, or the point nearest to the
+    /// place, and places the photo there. Nothing happens without a photo with a date.
+    void setFromPoint(track_part &point);
+    void setFromPlace(Position place);
+    /// Sets the offset so that the first selected photo was taken at that time; its position stays.
+    void setFromTrueTime(Date taken);
+
     /// Gives all photos, in arranged order, latitude, longitude and altitude of their points; one
     /// without a point stays as it is. The progress sheet counts them.
     void applyToAllPictures();
+    /// The same for the selected photos, and for those that have no position yet. Photos that do
+    /// not tell when they were taken are left as they are.
+    void applyToSelected();
+    void applyToPhotosWithoutPosition();
+    /// Sent at the end of each of the three.
+    Signal<const ApplyOutcome &> applied;
     /// Whether that is at work: the photos' notices of new positions are then not worth following.
     const bool &runningApplyToAll() const { return runningApplyToAll_; }
 
 private:
+    image *photoInHand() const;
     void guessFromSelectedPhoto();
-    bool applyTo(const std::vector<image *> &photos);
+    void applyToTimed(std::vector<image *> photos);
+    ApplyOutcome applyTo(const std::vector<image *> &photos);
+    void place(image &photo, ApplyOutcome &outcome);
     void postSelectedPosition() const;
 
     Context &context_;

@@ -19,6 +19,13 @@ const Index &NearestPoints::gathered(std::optional<Index> &index) {
 template const PointIndex &NearestPoints::gathered(std::optional<PointIndex> &);
 template const PointPositions &NearestPoints::gathered(std::optional<PointPositions> &);
 
+const TrackCoverage &NearestPoints::coverage() {
+    if (!coverage_) {
+        coverage_.emplace(times());
+    }
+    return *coverage_;
+}
+
 void NearestPoints::observe() {
     if (!std::exchange(observing_, true)) {
         context_.addObserver(*this, {.entity = &track_part::description()});
@@ -28,6 +35,7 @@ void NearestPoints::observe() {
 void NearestPoints::forget() {
     byTime_.reset();
     byPlace_.reset();
+    coverage_.reset();
     if (std::exchange(observing_, false)) {
         context_.removeObserver(*this);
     }

@@ -2,10 +2,12 @@
 
 #include "matching/point_index.h"
 #include "matching/point_positions.h"
+#include "matching/track_coverage.h"
 #include "persistence/change_observer.h"
 #include "platform/date.h"
 
 #include <optional>
+#include <span>
 
 namespace pinmora {
 
@@ -28,6 +30,10 @@ public:
 
     /// By PointIndex, however far away; null when no point can be found.
     track_part *inTime(Date target) { return gathered(byTime_).nearest(target); }
+    /// PointIndex::times(); they hold until a point changes.
+    std::span<const Date> times() { return gathered(byTime_).times(); }
+    /// When logs were running.
+    const TrackCoverage &coverage();
     /// By PointPositions, however far away; null when no point can be found.
     track_part *inPlace(Position known) { return gathered(byPlace_).nearest(known); }
 
@@ -43,6 +49,7 @@ private:
     Context &context_;
     std::optional<PointIndex> byTime_;
     std::optional<PointPositions> byPlace_;
+    std::optional<TrackCoverage> coverage_;
     bool observing_ = false;
 };
 

@@ -28,6 +28,9 @@ public:
     /// earlier than the point.
     std::optional<std::chrono::seconds> gapOf(const image &photo);
 
+    /// When logs were running. It holds until a point changes.
+    const TrackCoverage &coverage() { return points_.coverage(); }
+
     /// All gaps may be others; sent once a turn of the event loop.
     Signal<> changed;
 

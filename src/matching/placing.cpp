@@ -5,14 +5,23 @@
 #include "store/offset.h"
 #include "store/track_part.h"
 
+#include <chrono>
+
 namespace pinmora {
 
 namespace {
 
-void takePosition(image &photo, const track_part &point) {
+double secondsTo(Date point, Date photo) {
+    return std::chrono::duration<double>(point - photo).count();
+}
+
+void takePosition(image &photo, const track_part &point, std::optional<Date> corrected) {
     photo.setLat(point.lat());
     photo.setLon(point.lon());
     photo.setPosition_source(PositionSource::log);
+    photo.setPosition_gap(corrected && point.time()
+                              ? std::optional(secondsTo(*point.time(), *corrected))
+                              : std::nullopt);
 }
 
 /// The map's doing, not the person's.
@@ -25,16 +34,17 @@ void takeZoom(image &photo) {
 
 std::optional<Date> correctedTime(const image &photo, const offset &clockOffset) {
     const std::optional<Date> &taken = photo.date();
-    return taken ? std::optional(*taken + clockOffset.signedOffset()) : std::nullopt;
+    return taken ? std::optional(*taken + clockOffset.signedOffsetFor(photo.camera().view()))
+                 : std::nullopt;
 }
 
-void placeAt(image &photo, const track_part &point) {
-    takePosition(photo, point);
+void placeAt(image &photo, const track_part &point, std::optional<Date> corrected) {
+    takePosition(photo, point, corrected);
     takeZoom(photo);
 }
 
-void placeAtWithAltitude(image &photo, const track_part &point) {
-    takePosition(photo, point);
+void placeAtWithAltitude(image &photo, const track_part &point, std::optional<Date> corrected) {
+    takePosition(photo, point, corrected);
     photo.setAlt(point.alt());
     takeZoom(photo);
 }

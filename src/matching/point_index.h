@@ -4,6 +4,7 @@
 #include "platform/date.h"
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 namespace pinmora {
@@ -34,6 +35,8 @@ public:
 
     /// Null when there is no point to find.
     track_part *nearest(Date target) const;
+    /// The times of the points that can be found, ascending, each once.
+    std::span<const Date> times() const { return times_; }
 
 private:
     void reserve(std::size_t count);

@@ -42,6 +42,13 @@ void image::updateLatAndLon(const PositionTexts &position) {
     setLocationDetails();
 }
 
+void image::setPosition_source(Text source) {
+    change("position_source", position_source_, std::move(source));
+    if (position_gap_) {
+        setPosition_gap(std::nullopt);
+    }
+}
+
 void image::setCity(Text name) {
     changeAndMark("city", city_, std::move(name));
     forgetPlaceDistance();

@@ -22,6 +22,8 @@ inline constexpr std::string_view log = "log";     ///< matched with a track poi
 inline constexpr std::string_view map = "map";     ///< placed on the map
 inline constexpr std::string_view typed = "typed"; ///< coordinates entered
 inline constexpr std::string_view file = "file";   ///< read from the photo
+/// Reckoned from its neighbours in time: points of a log, or photos with a position.
+inline constexpr std::string_view estimated = "estimated";
 } // namespace PositionSource
 
 /// One loaded photo.
@@ -68,6 +70,15 @@ public:
         change("no_capture_time", no_capture_time_, none);
     }
 
+    /// The time zone that the photo itself tells for its capture time, "+02:00" (Exif
+    /// OffsetTimeOriginal).
+    const Text &offset_time_original() const {
+        return read("offset_time_original", offset_time_original_);
+    }
+    void setOffset_time_original(Text zone) {
+        change("offset_time_original", offset_time_original_, std::move(zone));
+    }
+
     const Text &lat() const { return read("lat", lat_); }
     void setLat(Text lat);
     const Text &lon() const { return read("lon", lon_); }
@@ -86,8 +97,16 @@ public:
     void setMap_datum(Text datum) { changeAndMark("map_datum", map_datum_, std::move(datum)); }
     /// One of PositionSource, or no value.
     const Text &position_source() const { return read("position_source", position_source_); }
-    void setPosition_source(Text source) {
-        change("position_source", position_source_, std::move(source));
+    /// The gap to the point that it was placed at before does not outlive it.
+    void setPosition_source(Text source);
+
+    /// Seconds from the photo to the track point that it was placed at, as the clock stood then;
+    /// negative: the point was earlier. Nothing for other positions.
+    const std::optional<double> &position_gap() const {
+        return read("position_gap", position_gap_);
+    }
+    void setPosition_gap(std::optional<double> seconds) {
+        change("position_gap", position_gap_, seconds);
     }
 
     const Text &city() const { return read("city", city_); }
@@ -172,6 +191,7 @@ private:
     Text extension_;
     std::optional<double> file_size_;
     std::optional<Date> date_;
+    Text offset_time_original_;
     Text lat_;
     Text lon_;
     Text lat_ref_;
@@ -179,6 +199,7 @@ private:
     Text alt_;
     Text map_datum_ = "WGS-84";
     Text position_source_;
+    std::optional<double> position_gap_;
     Text city_;
     Text prov_;
     Text country_;

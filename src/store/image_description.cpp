@@ -18,6 +18,8 @@ const EntityDescription &image::description() {
             attribute<&I::date, &I::setDateValue, &I::date_>("date"),
             attribute<&I::no_capture_time, &I::setNo_capture_time, &I::no_capture_time_>(
                 "no_capture_time"),
+            attribute<&I::offset_time_original, &I::setOffset_time_original,
+                      &I::offset_time_original_>("offset_time_original"),
             attribute<&I::lat, &I::setLat, &I::lat_>("lat"),
             attribute<&I::lon, &I::setLon, &I::lon_>("lon"),
             attribute<&I::lat_ref, &I::setLat_ref, &I::lat_ref_>("lat_ref"),
@@ -26,6 +28,7 @@ const EntityDescription &image::description() {
             attribute<&I::map_datum, &I::setMap_datum, &I::map_datum_>("map_datum"),
             attribute<&I::position_source, &I::setPosition_source, &I::position_source_>(
                 "position_source"),
+            attribute<&I::position_gap, &I::setPosition_gap, &I::position_gap_>("position_gap"),
             attribute<&I::city, &I::setCity, &I::city_>("city"),
             attribute<&I::prov, &I::setProv, &I::prov_>("prov"),
             attribute<&I::country, &I::setCountry, &I::country_>("country"),

@@ -14,16 +14,42 @@ const EntityDescription &offset::description() {
             attribute<&offset::seconds, &offset::setSeconds, &offset::seconds_>("seconds"),
             attribute<&offset::offset_set, &offset::setOffset_set, &offset::offset_set_>(
                 "offset_set"),
+            attribute<&offset::camera_offsets, &offset::setCamera_offsets,
+                      &offset::camera_offsets_>("camera_offsets"),
             derived<&offset::not_enabled>("not_enabled"),
         });
     return entity;
 }
 
+ClockParts offset::parts() const {
+    return {.plus = plus().value_or(0) != 0,
+            .hours = hours().value_or(0),
+            .minutes = minutes().value_or(0),
+            .seconds = seconds().value_or(0)};
+}
+
+void offset::setParts(const ClockParts &parts) {
+    setPlus(parts.plus ? 1 : 0);
+    setHours(parts.hours);
+    setMinutes(parts.minutes);
+    setSeconds(parts.seconds);
+}
+
 std::chrono::seconds offset::signedOffset() const {
-    const std::chrono::seconds sum = std::chrono::hours(hours().value_or(0)) +
-                                     std::chrono::minutes(minutes().value_or(0)) +
-                                     std::chrono::seconds(seconds().value_or(0));
-    return plus().value_or(0) == 0 ? -sum : sum;
+    return parts().signedOffset();
+}
+
+std::chrono::seconds offset::signedOffsetFor(std::string_view camera) const {
+    const ClockParts *const own = cameraOffsets().find(camera);
+    return own ? own->signedOffset() : signedOffset();
+}
+
+const CameraOffsets &offset::cameraOffsets() const {
+    if (const Text &text = camera_offsets(); !(text == readFrom_)) {
+        cameraOffsets_ = CameraOffsets(text.view());
+        readFrom_ = text;
+    }
+    return cameraOffsets_;
 }
 
 } // namespace pinmora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "persistence/record.h"
+#include "store/camera_offsets.h"
 
 #include <chrono>
 #include <cstdint>
@@ -30,11 +31,24 @@ public:
     }
     void setOffset_set(std::optional<std::int32_t> set) { change("offset_set", offset_set_, set); }
 
+    /// The cameras that have an offset of their own instead (CameraOffsets); no value: none has.
+    const Text &camera_offsets() const { return read("camera_offsets", camera_offsets_); }
+    void setCamera_offsets(Text offsets) {
+        change("camera_offsets", camera_offsets_, std::move(offsets));
+    }
+
     bool not_enabled() const { return false; }
+
+    /// Sign, hours, minutes and seconds, in one.
+    ClockParts parts() const;
+    void setParts(const ClockParts &parts);
 
     /// The sum of the three fields, which are not normalised against each other (75 minutes are 75
     /// minutes), negated when it is to be subtracted.
     std::chrono::seconds signedOffset() const;
+    /// That of the camera, where it has its own, else signedOffset().
+    std::chrono::seconds signedOffsetFor(std::string_view camera) const;
+    const CameraOffsets &cameraOffsets() const;
 
 private:
     std::optional<std::int32_t> plus_;
@@ -42,6 +56,10 @@ private:
     std::optional<std::int32_t> minutes_;
     std::optional<std::int32_t> seconds_;
     std::optional<std::int32_t> offset_set_;
+    Text camera_offsets_;
+    /// What the text says, read when it has become another one: undo writes it without a setter.
+    mutable Text readFrom_;
+    mutable CameraOffsets cameraOffsets_;
 };
 
 } // namespace pinmora
