@@ -1,6 +1,7 @@
 #include "shell/log_comparison.h"
 
 #include "gps/gps.h"
+#include "matching/placing.h"
 #include "persistence/context.h"
 #include "store/image.h"
 #include "store/offset.h"
@@ -97,18 +98,19 @@ LogComparison::Tracks LogComparison::tracksByLog() const {
 }
 
 std::vector<Date> LogComparison::captureTimes() const {
+    const offset *const clock = offsetObj_.content();
     std::vector<Date> times;
     for (const image *photo : context_.records<image>()) {
         if (photo->date() && !photo->no_capture_time().value_or(false)) {
-            times.push_back(*photo->date() + clockOffset());
+            times.push_back(clock ? *correctedTime(*photo, *clock) : *photo->date());
         }
     }
     return times;
 }
 
-std::chrono::seconds LogComparison::clockOffset() const {
-    const offset *const stored = offsetObj_.content();
-    return stored ? stored->signedOffset() : std::chrono::seconds(0);
+bool LogComparison::hasClockOffset() const {
+    const offset *const clock = offsetObj_.content();
+    return clock && (clock->signedOffset().count() != 0 || !clock->cameraOffsets().all().empty());
 }
 
 void LogComparison::keep() {

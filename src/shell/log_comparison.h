@@ -5,7 +5,6 @@
 #include "shell/reading_trial.h"
 #include "shell/reading_verdict.h"
 
-#include <chrono>
 #include <functional>
 #include <map>
 #include <optional>
@@ -40,8 +39,8 @@ public:
     void keep();
     /// The logs have been read again with the other reading.
     void exchangeReadings();
-    /// What photos are corrected by.
-    std::chrono::seconds clockOffset() const;
+    /// Whether photos are corrected by anything.
+    bool hasClockOffset() const;
     /// Returns once the trial under way, if any, has been judged.
     void wait() { trial_.wait(); }
 

@@ -52,7 +52,7 @@ void ReadingOffer::tell(const std::optional<ReadingVerdict> &verdict) {
         quietBar_.withdraw(subject);
         return;
     }
-    BarMessage message = wordsOf(*verdict, comparison_.clockOffset().count() != 0);
+    BarMessage message = wordsOf(*verdict, comparison_.hasClockOffset());
     message.subject = subject;
     message.choices = {{choiceOf(*verdict), [this] { useOther(); }}, {"Keep", [this] { keep(); }}};
     message.dismissed = [this] { keep(); };

@@ -22,6 +22,7 @@
 #include "saving/renaming.h"
 #include "saving/save_pipeline.h"
 #include "saving/saving.h"
+#include "shell/apply_report.h"
 #include "shell/detail_fields.h"
 #include "shell/inspector.h"
 #include "shell/intake_notes.h"
@@ -99,6 +100,7 @@ struct Subsystems {
     IntakeNotes intakeNotes;
     ReadingOffer readingOffer;
     OldPositionNotice oldPositionNotice;
+    ApplyReport applyReport;
     RecoveryOffers recoveryOffers;
     SampleOuting sampleOuting;
     WizardDetails wizardDetails;
