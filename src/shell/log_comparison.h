@@ -35,6 +35,9 @@ public:
     /// Sent after each comparison; nothing: the reading in force is as good.
     Signal<const std::optional<ReadingVerdict> &> judged;
 
+    /// Whether a trial is under way that will be judged.
+    bool isTrying() const { return !onTrial_.empty(); }
+
     /// The person wants the logs that have been tried as they are: they are not judged any more.
     void keep();
     /// The logs have been read again with the other reading.

@@ -48,13 +48,18 @@ ReadingOffer::~ReadingOffer() {
 
 void ReadingOffer::tell(const std::optional<ReadingVerdict> &verdict) {
     isOffered_ = verdict.has_value();
-    if (!verdict) {
+    if (verdict) {
+        offer(*verdict);
+    } else {
         quietBar_.withdraw(subject);
-        return;
     }
-    BarMessage message = wordsOf(*verdict, comparison_.hasClockOffset());
+    changed.emit();
+}
+
+void ReadingOffer::offer(const ReadingVerdict &verdict) {
+    BarMessage message = wordsOf(verdict, comparison_.hasClockOffset());
     message.subject = subject;
-    message.choices = {{choiceOf(*verdict), [this] { useOther(); }}, {"Keep", [this] { keep(); }}};
+    message.choices = {{choiceOf(verdict), [this] { useOther(); }}, {"Keep", [this] { keep(); }}};
     message.dismissed = [this] { keep(); };
     quietBar_.post(std::move(message));
 }
@@ -62,6 +67,7 @@ void ReadingOffer::tell(const std::optional<ReadingVerdict> &verdict) {
 void ReadingOffer::keep() {
     isOffered_ = false;
     comparison_.keep();
+    changed.emit();
 }
 
 void ReadingOffer::useOther() {
@@ -84,6 +90,7 @@ void ReadingOffer::useOther() {
     }
     comparison_.exchangeReadings();
     readAgain.emit();
+    changed.emit();
     tellOfKept(kept);
 }
 

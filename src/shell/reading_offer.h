@@ -41,12 +41,19 @@ public:
     /// Sent after the logs have been read again.
     Signal<> readAgain;
 
+    /// Whether it is not known yet in which reading the logs are to stay: an offer is on the bar, or
+    /// may come to be.
+    bool isOpen() const { return isOffered_ || comparison_.isTrying(); }
+    /// Sent when that may have changed.
+    Signal<> changed;
+
     /// For those who cannot wait for the event loop: returns once the trial under way has ended and
     /// been told of.
     void waitForTrial() { comparison_.wait(); }
 
 private:
     void tell(const std::optional<ReadingVerdict> &verdict);
+    void offer(const ReadingVerdict &verdict);
     void keep();
     void useOther();
     void tellOfKept(const std::vector<std::string> &paths);

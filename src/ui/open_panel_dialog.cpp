@@ -52,77 +52,70 @@ QStringList foldersNamedIn(const QFileDialog &dialog) {
     return dialog.selectedFiles();
 }
 
+void offerFolders(QFileDialog &dialog) {
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+}
+
+void startAt(QFileDialog &dialog, const std::string &directory) {
+    const QFileInfo start(QFile::decodeName(QByteArray::fromStdString(directory)));
+    if (directory.empty() || !start.exists()) {
+        dialog.setDirectory(QDir::home());
+    } else {
+        dialog.setDirectory(start.isDir() ? start.absoluteFilePath() : start.absolutePath());
+    }
+}
+
 } // namespace
 
 OpenPanelDialog::OpenPanelDialog(OpenPanel &panel, WidgetOf widgetOf, QObject *parent,
                                  std::optional<FolderSetting> lastFolder)
-    : QObject(parent), panel_(panel), widgetOf_(std::move(widgetOf)), lastFolder_(lastFolder) {
-    bindings_.keep(panel.sheet().host().onChange([this](Window *host) { follow(host); }));
-    if (panel.sheet().isUp()) {
-        follow(panel.sheet().host().get());
-    }
+    : FilePanelDialog(panel.sheet(), std::move(widgetOf), parent), panel_(panel),
+      lastFolder_(lastFolder) {
+    begin();
 }
 
-QFileDialog *OpenPanelDialog::dialog() const {
-    return dialog_;
-}
-
-void OpenPanelDialog::follow(Window *host) {
-    if (dialog_) {
-        dialog_->disconnect(this);
-        dialog_->hide();
-        dialog_->deleteLater();
-        dialog_ = nullptr;
-    }
-    if (!host) {
-        return;
-    }
-    makeDialog(widgetOf_(*host));
-    connect(dialog_, &QFileDialog::rejected, this, [this] { answer({}); });
-    connect(dialog_, &QFileDialog::accepted, this, [this] {
-        answer(panel_.canChooseFiles ? dialog_->selectedFiles() : foldersNamedIn(*dialog_));
+QFileDialog *OpenPanelDialog::makeDialog(QWidget *parent) {
+    auto *const dialog = new QFileDialog(parent, QString::fromStdString(panel_.title));
+    dress(*dialog);
+    connect(dialog, &QFileDialog::rejected, this, [this] { answer({}); });
+    connect(dialog, &QFileDialog::accepted, this, [this, dialog] {
+        answer(panel_.canChooseFiles ? dialog->selectedFiles() : foldersNamedIn(*dialog));
     });
-    dialog_->setWindowModality(Qt::WindowModal);
-    dialog_->open();
+    return dialog;
 }
 
-void OpenPanelDialog::makeDialog(QWidget *parent) {
-    dialog_ = new QFileDialog(parent, QString::fromStdString(panel_.title));
+void OpenPanelDialog::dress(QFileDialog &dialog) {
     const bool hasAccessory =
         panel_.accessory.visible.get() && !panel_.accessory.title.get().empty();
     // Dialogs of the desktop choose files or folders, not both, and have no room for our own.
-    dialog_->setOption(QFileDialog::DontUseNativeDialog,
-                       hasAccessory || (panel_.canChooseDirectories && panel_.canChooseFiles));
-    dialog_->setOption(QFileDialog::ReadOnly, !panel_.canCreateDirectories);
-    panel_.canChooseFiles ? offerFiles() : offerFolders();
+    dialog.setOption(QFileDialog::DontUseNativeDialog,
+                     hasAccessory || (panel_.canChooseDirectories && panel_.canChooseFiles));
+    dialog.setOption(QFileDialog::ReadOnly, !panel_.canCreateDirectories);
+    panel_.canChooseFiles ? offerFiles(dialog) : offerFolders(dialog);
     if (!panel_.prompt.empty()) {
-        dialog_->setLabelText(QFileDialog::Accept, QString::fromStdString(panel_.prompt));
+        dialog.setLabelText(QFileDialog::Accept, QString::fromStdString(panel_.prompt));
     }
-    startAt(startFolder());
-    makeRoomy(*dialog_);
-    makeCalm(*dialog_);
-    showTypes(*dialog_, panel_.canChooseFiles);
+    startAt(dialog, startFolder());
+    makeRoomy(dialog);
+    makeCalm(dialog);
+    showTypes(dialog, panel_.canChooseFiles);
     if (panel_.canChooseDirectories && panel_.canChooseFiles) {
-        addFolderButton();
+        addFolderButton(dialog);
     }
     if (hasAccessory) {
-        addAccessory();
+        addAccessory(dialog);
     }
 }
 
-void OpenPanelDialog::offerFiles() {
-    dialog_->setOption(QFileDialog::HideNameFilterDetails); // twenty spellings of extensions
-    dialog_->setFileMode(panel_.allowsMultipleSelection ? QFileDialog::ExistingFiles
-                                                        : QFileDialog::ExistingFile);
-    dialog_->setFilter(QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot | QDir::CaseSensitive);
+void OpenPanelDialog::offerFiles(QFileDialog &dialog) const {
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // twenty spellings of extensions
+    dialog.setFileMode(panel_.allowsMultipleSelection ? QFileDialog::ExistingFiles
+                                                      : QFileDialog::ExistingFile);
+    dialog.setFilter(QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot | QDir::CaseSensitive);
     if (!panel_.allowedTypes.empty()) {
-        dialog_->setNameFilter(nameFilter(panel_));
+        dialog.setNameFilter(nameFilter(panel_));
     }
-}
-
-void OpenPanelDialog::offerFolders() {
-    dialog_->setFileMode(QFileDialog::Directory);
-    dialog_->setOption(QFileDialog::ShowDirsOnly);
 }
 
 std::string OpenPanelDialog::startFolder() const {
@@ -132,29 +125,20 @@ std::string OpenPanelDialog::startFolder() const {
     return lastFolder_->defaults.text(lastFolder_->key).value_or("");
 }
 
-void OpenPanelDialog::addAccessory() {
-    auto *const grid = qobject_cast<QGridLayout *>(dialog_->layout());
+void OpenPanelDialog::addAccessory(QFileDialog &dialog) {
+    auto *const grid = qobject_cast<QGridLayout *>(dialog.layout());
     if (!grid) {
         return;
     }
-    auto *const box = new QCheckBox(QString::fromStdString(panel_.accessory.title.get()), dialog_);
+    auto *const box = new QCheckBox(QString::fromStdString(panel_.accessory.title.get()), &dialog);
     box->setChecked(panel_.accessory.on.get());
     box->setEnabled(panel_.accessory.enabled.get());
     connect(box, &QCheckBox::toggled, this, [this](bool on) { panel_.accessory.on.set(on); });
     grid->addWidget(box, grid->rowCount(), 0, 1, -1);
 }
 
-void OpenPanelDialog::startAt(const std::string &directory) {
-    const QFileInfo start(QFile::decodeName(QByteArray::fromStdString(directory)));
-    if (directory.empty() || !start.exists()) {
-        dialog_->setDirectory(QDir::home());
-    } else {
-        dialog_->setDirectory(start.isDir() ? start.absoluteFilePath() : start.absolutePath());
-    }
-}
-
-void OpenPanelDialog::addFolderButton() {
-    auto *buttons = dialog_->findChild<QDialogButtonBox *>();
+void OpenPanelDialog::addFolderButton(QFileDialog &dialog) {
+    auto *buttons = dialog.findChild<QDialogButtonBox *>();
     if (!buttons) {
         return;
     }
@@ -163,7 +147,7 @@ void OpenPanelDialog::addFolderButton() {
     whole->setAutoDefault(false);
     whole->setToolTip(tr("Adds the photos and logs in the marked folders, or in the one that is "
                          "seen"));
-    connect(whole, &QPushButton::clicked, this, [this] { answer(foldersOf(*dialog_)); });
+    connect(whole, &QPushButton::clicked, this, [this, &dialog] { answer(foldersOf(dialog)); });
 }
 
 void OpenPanelDialog::answer(const QStringList &paths) {

@@ -1,16 +1,11 @@
 #pragma once
 
-#include "ui/bindings.h"
-#include "ui/sheet_dialog.h"
+#include "ui/file_panel_dialog.h"
 
-#include <QObject>
-#include <QPointer>
-
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-class QFileDialog;
 
 namespace pinmora {
 
@@ -26,7 +21,7 @@ struct FolderSetting {
 /// Shows an open panel as a file dialog of the toolkit. Where folders may be chosen besides files,
 /// a button of its own takes the folder that is seen, with all that is in it. A panel for folders
 /// alone starts in the one that was chosen last, unless it says itself where.
-class OpenPanelDialog : public QObject {
+class OpenPanelDialog : public FilePanelDialog {
     Q_OBJECT
 
 public:
@@ -34,25 +29,17 @@ public:
     OpenPanelDialog(OpenPanel &panel, WidgetOf widgetOf, QObject *parent,
                     std::optional<FolderSetting> lastFolder = std::nullopt);
 
-    /// The dialog while it is up.
-    QFileDialog *dialog() const;
-
 private:
-    void follow(Window *host);
-    void makeDialog(QWidget *parent);
-    void offerFiles();
-    void offerFolders();
-    void startAt(const std::string &directory);
-    void addFolderButton();
-    void addAccessory();
+    QFileDialog *makeDialog(QWidget *parent) override;
+    void dress(QFileDialog &dialog);
+    void offerFiles(QFileDialog &dialog) const;
+    void addFolderButton(QFileDialog &dialog);
+    void addAccessory(QFileDialog &dialog);
     std::string startFolder() const;
     void answer(const QStringList &paths);
 
     OpenPanel &panel_;
-    const WidgetOf widgetOf_;
     const std::optional<FolderSetting> lastFolder_;
-    QPointer<QFileDialog> dialog_;
-    Bindings bindings_;
 };
 
 } // namespace pinmora

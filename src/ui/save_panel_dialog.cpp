@@ -28,37 +28,23 @@ QString startFolder(const SavePanel &panel) {
 } // namespace
 
 SavePanelDialog::SavePanelDialog(SavePanel &panel, WidgetOf widgetOf, QObject *parent)
-    : QObject(parent), panel_(panel), widgetOf_(std::move(widgetOf)) {
-    bindings_.watch(panel.sheet().host(), [this](Window *host) { follow(host); });
+    : FilePanelDialog(panel.sheet(), std::move(widgetOf), parent), panel_(panel) {
+    begin();
 }
 
-QFileDialog *SavePanelDialog::dialog() const {
-    return dialog_;
-}
-
-void SavePanelDialog::follow(Window *host) {
-    if (dialog_) {
-        dialog_->disconnect(this);
-        dialog_->hide();
-        dialog_->deleteLater();
-        dialog_ = nullptr;
-    }
-    if (!host) {
-        return;
-    }
-    dialog_ = new QFileDialog(widgetOf_(*host), QString::fromStdString(panel_.title));
-    dialog_->setAcceptMode(QFileDialog::AcceptSave);
-    dialog_->setFileMode(QFileDialog::AnyFile);
-    dialog_->setDirectory(startFolder(panel_));
-    dialog_->selectFile(QString::fromStdString(panel_.nameFieldStringValue));
-    makeRoomy(*dialog_);
-    makeCalm(*dialog_);
-    showTypes(*dialog_, false);
-    connect(dialog_, &QFileDialog::rejected, this, [this] { panel_.answer({}); });
-    connect(dialog_, &QFileDialog::accepted, this,
-            [this] { panel_.answer(filePath(dialog_->selectedFiles().value(0))); });
-    dialog_->setWindowModality(Qt::WindowModal);
-    dialog_->open();
+QFileDialog *SavePanelDialog::makeDialog(QWidget *parent) {
+    auto *const dialog = new QFileDialog(parent, QString::fromStdString(panel_.title));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setDirectory(startFolder(panel_));
+    dialog->selectFile(QString::fromStdString(panel_.nameFieldStringValue));
+    makeRoomy(*dialog);
+    makeCalm(*dialog);
+    showTypes(*dialog, false);
+    connect(dialog, &QFileDialog::rejected, this, [this] { panel_.answer({}); });
+    connect(dialog, &QFileDialog::accepted, this,
+            [this, dialog] { panel_.answer(filePath(dialog->selectedFiles().value(0))); });
+    return dialog;
 }
 
 } // namespace pinmora

@@ -1,12 +1,6 @@
 #pragma once
 
-#include "ui/bindings.h"
-#include "ui/sheet_dialog.h"
-
-#include <QObject>
-#include <QPointer>
-
-class QFileDialog;
+#include "ui/file_panel_dialog.h"
 
 namespace pinmora {
 
@@ -14,23 +8,17 @@ class SavePanel;
 
 /// Shows a save panel as a file dialog of the toolkit, which asks by itself before a file is
 /// replaced. Without a folder of the panel's it starts where downloads go.
-class SavePanelDialog : public QObject {
+class SavePanelDialog : public FilePanelDialog {
     Q_OBJECT
 
 public:
     /// The panel must outlive it.
     SavePanelDialog(SavePanel &panel, WidgetOf widgetOf, QObject *parent);
 
-    /// The dialog while it is up.
-    QFileDialog *dialog() const;
-
 private:
-    void follow(Window *host);
+    QFileDialog *makeDialog(QWidget *parent) override;
 
     SavePanel &panel_;
-    const WidgetOf widgetOf_;
-    QPointer<QFileDialog> dialog_;
-    Bindings bindings_;
 };
 
 } // namespace pinmora
