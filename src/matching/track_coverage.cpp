@@ -9,18 +9,18 @@ namespace pinmora {
 namespace {
 
 /// Fractions of a second are dropped from a distance, so 300.9 s are no more than 300.
-constexpr std::chrono::seconds reach = sameOuting + std::chrono::seconds(1);
+constexpr std::chrono::seconds runningReach = sameOuting + std::chrono::seconds(1);
 constexpr std::chrono::microseconds instantAfter{1};
 
 } // namespace
 
 TrackCoverage::TrackCoverage(std::span<const Date> points) {
     for (const Date point : points) {
-        const Date begin = point - reach + instantAfter;
+        const Date begin = point - runningReach + instantAfter;
         if (stretches_.empty() || stretches_.back().end < begin) {
-            stretches_.push_back({begin, point + reach});
+            stretches_.push_back({begin, point + runningReach});
         } else {
-            stretches_.back().end = point + reach;
+            stretches_.back().end = point + runningReach;
         }
     }
 }
