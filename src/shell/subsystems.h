@@ -23,6 +23,9 @@
 #include "saving/save_pipeline.h"
 #include "saving/saving.h"
 #include "shell/apply_report.h"
+#include "shell/camera_memory.h"
+#include "shell/cameras.h"
+#include "shell/clock_saying.h"
 #include "shell/detail_fields.h"
 #include "shell/inspector.h"
 #include "shell/intake_notes.h"
@@ -36,6 +39,7 @@
 #include "shell/recovery_offers.h"
 #include "shell/sample_outing.h"
 #include "shell/thumbnails.h"
+#include "shell/true_time.h"
 #include "shell/undo_commands.h"
 #include "shell/unfit_text.h"
 #include "shell/version_check.h"
@@ -70,6 +74,10 @@ struct Subsystems {
     OffsetInForce offsetInForce;
     ClockOffset clockOffset;
     Matcher matcher;
+    CameraMemory cameraMemory;
+    Cameras cameras;
+    ClockSaying clockSaying;
+    TrueTime trueTime;
     CoordinateFields coordinates;
     DetailFields details;
     UnfitText unfitText;
