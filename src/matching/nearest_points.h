@@ -8,6 +8,7 @@
 
 #include <optional>
 #include <span>
+#include <vector>
 
 namespace pinmora {
 
@@ -36,6 +37,10 @@ public:
     const TrackCoverage &coverage();
     /// By PointPositions, however far away; null when no point can be found.
     track_part *inPlace(Position known) { return gathered(byPlace_).nearest(known); }
+    /// By PointPositions::passes().
+    std::vector<Date> passes(Position place, double metres) {
+        return gathered(byPlace_).passes(place, metres);
+    }
 
 private:
     void didChange(Record &, std::string_view key) override;

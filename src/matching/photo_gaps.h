@@ -31,6 +31,9 @@ public:
     /// When logs were running. It holds until a point changes.
     const TrackCoverage &coverage() { return points_.coverage(); }
 
+    /// The points, for whoever has more to ask of them.
+    NearestPoints &points() { return points_; }
+
     /// All gaps may be others; sent once a turn of the event loop.
     Signal<> changed;
 

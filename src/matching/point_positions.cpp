@@ -3,6 +3,9 @@
 #include "platform/number_text.h"
 #include "store/track_part.h"
 
+#include <cmath>
+#include <numbers>
+
 namespace pinmora {
 
 void PointPositions::reserve(std::size_t count) {
@@ -38,6 +41,33 @@ track_part *PointPositions::nearest(Position known) const {
         }
     }
     return points_[best];
+}
+
+/// On a plane that touches the earth at the place: good enough for the width of a valley.
+std::vector<Date> PointPositions::passes(Position place, double metres) const {
+    constexpr double metresOfDegree = 111'195; // of latitude, on a sphere of the mean radius
+    const double narrowing = std::cos(place.lat * std::numbers::pi / 180);
+    const auto squaredMetres = [&](const Position &position) {
+        const double east = std::remainder(position.lon - place.lon, 360.0) * narrowing;
+        const double north = position.lat - place.lat;
+        return (east * east + north * north) * metresOfDegree * metresOfDegree;
+    };
+    std::vector<Date> times;
+    double least = 0;
+    bool isPassing = false;
+    for (std::size_t i = 0; i < positions_.size(); ++i) {
+        const double distance = squaredMetres(positions_[i]);
+        const bool isNear = distance <= metres * metres;
+        if (isNear && !isPassing) {
+            times.push_back(*points_[i]->time());
+            least = distance;
+        } else if (isNear && distance < least) {
+            times.back() = *points_[i]->time();
+            least = distance;
+        }
+        isPassing = isNear;
+    }
+    return times;
 }
 
 } // namespace pinmora

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/date.h"
+
 #include <cstddef>
 #include <vector>
 
@@ -34,6 +36,9 @@ public:
 
     /// Null when there is no point to find.
     track_part *nearest(Position known) const;
+    /// When the tracks passed within so many metres of a place: of each run of points in there the
+    /// time of the nearest one.
+    std::vector<Date> passes(Position place, double metres) const;
 
 private:
     void reserve(std::size_t count);

@@ -201,6 +201,7 @@ private:
         // TIFF/EP files (some raw formats) have it in their first directory.
         setText(exif, "DateTimeOriginal",
                 {"Exif.Photo.DateTimeOriginal", "Exif.Image.DateTimeOriginal"});
+        setText(exif, "OffsetTimeOriginal", {"Exif.Photo.OffsetTimeOriginal"});
         setText(exif, "BodySerialNumber", {"Exif.Photo.BodySerialNumber"});
     }
 

@@ -40,7 +40,7 @@ private:
 /// - `gps` ("{GPS}"): "LatitudeRef", "Latitude", "LongitudeRef", "Longitude" (unsigned degrees),
 ///   "Altitude" (metres, negative below sea level)
 /// - `tiff` ("{TIFF}"): "ImageDescription", "Make", "Model"
-/// - `exif` ("{Exif}"): "DateTimeOriginal", "UserComment", "BodySerialNumber"
+/// - `exif` ("{Exif}"): "DateTimeOriginal", "OffsetTimeOriginal", "UserComment", "BodySerialNumber"
 struct ImageProperties {
     PropertyDictionary top;
     PropertyDictionary iptc;

@@ -35,6 +35,7 @@ const Tags fullTags{
     {"Exif.Image.Make", "Larch "},
     {"Exif.Image.Model", "Field 20"},
     {"Exif.Photo.BodySerialNumber", " L20-7"},
+    {"Exif.Photo.OffsetTimeOriginal", "+02:00"},
     {"Exif.Image.ImageDescription", "Harbour"},
     {"Exif.Photo.UserComment", "charset=Ascii windy"},
     {"Exif.Photo.DateTimeOriginal", "2008:06:21 14:03:59"},
@@ -100,7 +101,8 @@ void RecordTest::values_data() {
     row("full.jpg", fullTags, place, "-33.8675|+151.207|S|E|file");
     row("texts.jpg", fullTags, "comments img_description city prov country alt camera",
         "windy|Harbour|Sydney|New South Wales|Australia|-12.5|Larch, Field 20, L20-7");
-    row("time.jpg", fullTags, "time_string no_capture_time", "21 Jun 2008 14:03:59|0");
+    row("time.jpg", fullTags, "time_string no_capture_time offset_time_original",
+        "21 Jun 2008 14:03:59|0|+02:00");
     row("bare.jpg", {}, "lat lon lat_ref lon_ref alt city prov country comments img_description",
         "|||||||||");
     row("bare2.jpg", {}, "map_datum camera position_source zoom valid_file",
