@@ -25,6 +25,7 @@
 #include "shell/apply_report.h"
 #include "shell/camera_memory.h"
 #include "shell/cameras.h"
+#include "shell/clock_proposal.h"
 #include "shell/clock_saying.h"
 #include "shell/detail_fields.h"
 #include "shell/inspector.h"
@@ -107,6 +108,7 @@ struct Subsystems {
     QuitWarning quitWarning;
     IntakeNotes intakeNotes;
     ReadingOffer readingOffer;
+    ClockProposal clockProposal;
     OldPositionNotice oldPositionNotice;
     ApplyReport applyReport;
     RecoveryOffers recoveryOffers;
