@@ -1,7 +1,9 @@
 #include "ui/clock_panel.h"
 
 #include "matching/matching_outlets.h"
+#include "shell/clock_saying.h"
 #include "store/image.h"
+#include "ui/elided_label.h"
 #include "ui/known_position.h"
 #include "ui/offset_steppers.h"
 #include "ui/roles.h"
@@ -27,7 +29,7 @@ QLabel *labelOf(Role role, const QString &text = {}) {
 
 } // namespace
 
-ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing,
+ClockPanel::ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, Editing &editing,
                        const std::function<void()> &find, QWidget *parent)
     : QWidget(parent), outlets_(outlets),
       chooseFirst_(labelOf(Role::Quiet, tr("Choose a photo first."))), times_(new QWidget),
@@ -36,8 +38,7 @@ ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing,
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(smallGap);
-    column->addWidget(labelOf(Role::Heading, tr("Camera clock")));
-    column->addWidget(new OffsetSteppers(outlets, outlets.plusMinus, editing));
+    addClock(*column, saying, editing);
     addTimes(*column);
     more_ = makeMore(find);
     addActions(*column);
@@ -48,6 +49,26 @@ ClockPanel::ClockPanel(MatchingOutlets &outlets, Editing &editing,
     bindings_.keep(outlets.pictureArray.selectionChanged.connect([this] { endOfTurn_.ask(); }));
     bindings_.keep(outlets.offsetText.text.onChange([this](const std::string &) { showTimes(); }));
     showTimes();
+}
+
+/// A camera's name may be long.
+QLabel *ClockPanel::elided(TextField &field, Role role) {
+    auto *label = new ElidedLabel;
+    setRole(label, role);
+    bindings_.watch(field.text, [label](const std::string &text) {
+        label->setWholeText(QString::fromStdString(text));
+    });
+    return label;
+}
+
+void ClockPanel::addClock(QVBoxLayout &column, ClockSaying &saying, Editing &editing) {
+    column.addWidget(elided(saying.heading, Role::Heading));
+    column.addWidget(new OffsetSteppers({.sign = outlets_.plusMinus,
+                                         .hours = outlets_.stepperHour,
+                                         .minutes = outlets_.stepperMin,
+                                         .seconds = outlets_.stepperSec},
+                                        editing));
+    column.addWidget(elided(saying.words, Role::Quiet));
 }
 
 void ClockPanel::addTimes(QVBoxLayout &column) {

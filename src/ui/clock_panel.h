@@ -14,21 +14,27 @@ class QVBoxLayout;
 
 namespace pinmora {
 
+class ClockSaying;
 class Editing;
+enum class Role;
 struct MatchingOutlets;
+struct TextField;
 
-/// How far the camera's clock is off: sign, hours, minutes and seconds, what that makes of the
-/// selected photo's time, and, folded away, the ways to derive it from a point of a track.
+/// How far the camera's clock is off: sign, hours, minutes and seconds, the same in words, what
+/// that makes of the selected photo's time, and, folded away, the ways to derive it from a point of
+/// a track.
 class ClockPanel : public QWidget {
     Q_OBJECT
 
 public:
-    /// The outlets and `editing` must outlive the panel. `find` looks for the track point nearest
-    /// to the known position (Matcher::guessFromLatLon).
-    ClockPanel(MatchingOutlets &outlets, Editing &editing, const std::function<void()> &find,
-               QWidget *parent = nullptr);
+    /// Outlets, saying and `editing` must outlive the panel. `find` looks for the track point
+    /// nearest to the known position (Matcher::guessFromLatLon).
+    ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, Editing &editing,
+               const std::function<void()> &find, QWidget *parent = nullptr);
 
 private:
+    QLabel *elided(TextField &field, Role role);
+    void addClock(QVBoxLayout &column, ClockSaying &saying, Editing &editing);
     void addTimes(QVBoxLayout &column);
     void addActions(QVBoxLayout &column);
     QWidget *makeMore(const std::function<void()> &find);

@@ -155,7 +155,7 @@ QWidget *MainWindow::makePositionTab() {
     column->addWidget(new MapPane(delegate_.interface.webView1, parts_.makePage), 1);
     column->addWidget(new FittingScrollArea(
         {new CoordinatePanel(subsystems_.coordinates, delegate_.interface.addRemoveMarker),
-         new ClockPanel(subsystems_.matching, delegate_.editing,
+         new ClockPanel(subsystems_.matching, subsystems_.clockSaying, delegate_.editing,
                         [this] { subsystems_.matcher.guessFromLatLon(); })}));
     return page;
 }

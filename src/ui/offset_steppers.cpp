@@ -1,7 +1,8 @@
 #include "ui/offset_steppers.h"
 
-#include "matching/matching_outlets.h"
 #include "outlets/editing.h"
+#include "outlets/selector.h"
+#include "outlets/stepper.h"
 #include "ui/field_bindings.h"
 #include "ui/stepper_box.h"
 #include "ui/theme.h"
@@ -15,14 +16,13 @@
 
 namespace pinmora {
 
-OffsetSteppers::OffsetSteppers(MatchingOutlets &outlets, Selector &sign, Editing &editing,
-                               QWidget *parent)
+OffsetSteppers::OffsetSteppers(const OffsetControls &controls, Editing &editing, QWidget *parent)
     : QWidget(parent) {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(smallGap);
-    addSigns(*row, sign);
-    addBoxes(*row, outlets);
+    addSigns(*row, controls.sign);
+    addBoxes(*row, controls);
     row->addStretch();
     bindings_.keep(editing.addEditor([this] {
         for (StepperBox *box : boxes_) {
@@ -58,11 +58,11 @@ void OffsetSteppers::addSigns(QHBoxLayout &row, Selector &sign) {
     row.addLayout(pair);
 }
 
-void OffsetSteppers::addBoxes(QHBoxLayout &row, MatchingOutlets &outlets) {
+void OffsetSteppers::addBoxes(QHBoxLayout &row, const OffsetControls &controls) {
     for (const auto &[stepper, unit, name, digits] :
-         {std::tuple(&outlets.stepperHour, tr("h"), tr("Hours"), 3),
-          std::tuple(&outlets.stepperMin, tr("min"), tr("Minutes"), 2),
-          std::tuple(&outlets.stepperSec, tr("s"), tr("Seconds"), 2)}) {
+         {std::tuple(&controls.hours, tr("h"), tr("Hours"), 3),
+          std::tuple(&controls.minutes, tr("min"), tr("Minutes"), 2),
+          std::tuple(&controls.seconds, tr("s"), tr("Seconds"), 2)}) {
         auto *box = new StepperBox(*stepper, bindings_);
         box->setAccessibleName(tr("%1 that the camera's clock is off").arg(name));
         box->setStyleSheet(QStringLiteral("QAbstractSpinBox { padding: 3px 2px; }"));

@@ -52,24 +52,36 @@ QPixmap framed(const QImage &picture, double pixelRatio) {
     return frame;
 }
 
+QString elided(const QPainter &painter, const QString &text, int width) {
+    return painter.fontMetrics().elidedText(text, Qt::ElideRight, width);
+}
+
+/// Where the lower of two lines stands.
+QRect lowerLine(const QPainter &painter, const QRect &area) {
+    const int height = painter.fontMetrics().height();
+    return {area.left(), area.center().y(), area.width(), height};
+}
+
+QRect upperLine(const QPainter &painter, const QRect &area) {
+    const QRect lower = lowerLine(painter, area);
+    return lower.translated(0, 1 - lower.height());
+}
+
+/// In quiet ink, as the lower line.
+void paintSecond(QPainter *painter, const QRect &line, const QString &text) {
+    painter->setPen(colours().quietText);
+    painter->drawText(line, Qt::AlignVCenter | Qt::AlignLeft, elided(*painter, text, line.width()));
+}
+
 /// Two lines, or one in the middle of the row where the second is "".
 void paintLines(QPainter *painter, const QRect &area, const QString &first, const QColor &firstInk,
                 const QString &second) {
-    const QFontMetrics metrics = painter->fontMetrics();
-    const auto elided = [&metrics, &area](const QString &text) {
-        return metrics.elidedText(text, Qt::ElideRight, area.width());
-    };
     painter->setPen(firstInk);
-    if (second.isEmpty()) {
-        painter->drawText(area, Qt::AlignVCenter | Qt::AlignLeft, elided(first));
-        return;
+    painter->drawText(second.isEmpty() ? area : upperLine(*painter, area),
+                      Qt::AlignVCenter | Qt::AlignLeft, elided(*painter, first, area.width()));
+    if (!second.isEmpty()) {
+        paintSecond(painter, lowerLine(*painter, area), second);
     }
-    const int top = area.center().y() - metrics.height() + 1;
-    const QRect line(area.left(), top, area.width(), metrics.height());
-    painter->drawText(line, Qt::AlignVCenter | Qt::AlignLeft, elided(first));
-    painter->setPen(colours().quietText);
-    painter->drawText(line.translated(0, metrics.height() - 1), Qt::AlignVCenter | Qt::AlignLeft,
-                      elided(second));
 }
 
 void paintGround(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) {
@@ -97,13 +109,44 @@ void paintMark(QPainter *painter, const QRect &frame) {
     painter->restore();
 }
 
+/// How the photo came by its position, at the head of the line; returns what is left of the line.
+QRect paintOrigin(QPainter *painter, QRect line, const QModelIndex &index) {
+    constexpr int side = 12;
+    const std::string sign = index.data(PhotoTableModel::OriginSign).toString().toStdString();
+    if (sign.empty()) {
+        return line;
+    }
+    const QPixmap picture =
+        quietIcon(sign).pixmap(QSize(side, side), painter->device()->devicePixelRatioF());
+    painter->drawPixmap(line.left(), line.center().y() - side / 2 + 1, picture);
+    line.setLeft(line.left() + side + smallGap);
+    const QString gap = index.data(PhotoTableModel::OriginGap).toString();
+    if (gap.isEmpty()) {
+        return line;
+    }
+    painter->setPen(index.data(PhotoTableModel::OriginIsFar).toBool() ? colours().warning
+                                                                      : colours().quietText);
+    painter->drawText(line, Qt::AlignVCenter | Qt::AlignLeft, gap);
+    line.setLeft(line.left() + painter->fontMetrics().horizontalAdvance(gap));
+    return line;
+}
+
 void paintPosition(QPainter *painter, const QRect &area, const QModelIndex &index) {
     const QString position = index.data().toString();
+    const QString second = index.data(PhotoTableModel::SecondLine).toString();
+    const bool hasSign = !index.data(PhotoTableModel::OriginSign).toString().isEmpty();
     if (position.isEmpty()) {
         paintLines(painter, area, PhotoTableModel::tr("no position"), colours().quietText, {});
+    } else if (!hasSign) {
+        paintLines(painter, area, position, colours().text, second);
     } else {
-        paintLines(painter, area, position, colours().text,
-                   index.data(PhotoTableModel::SecondLine).toString());
+        painter->setPen(colours().text);
+        painter->drawText(upperLine(*painter, area), Qt::AlignVCenter | Qt::AlignLeft,
+                          elided(*painter, position, area.width()));
+        const bool hasGap = !index.data(PhotoTableModel::OriginGap).toString().isEmpty();
+        const QRect rest = paintOrigin(painter, lowerLine(*painter, area), index);
+        const QString dot = hasGap && !second.isEmpty() ? QStringLiteral(" · ") : QString();
+        paintSecond(painter, rest, dot + second);
     }
 }
 

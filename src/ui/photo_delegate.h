@@ -6,7 +6,8 @@ namespace pinmora {
 
 class Thumbnails;
 
-/// The two-line look of photos: the picture, name and time; position, height and place; the gap.
+/// The two-line look of photos: the picture, name and time; position, and
+/// how the photo came by it, height and place; the gap.
 class PhotoDelegate : public QStyledItemDelegate {
 public:
     /// Device-independent pixels: from the left edge to the picture and to the name.

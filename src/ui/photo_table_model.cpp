@@ -8,6 +8,7 @@
 #include "store/image.h"
 #include "store/track_part.h"
 #include "ui/photo_texts.h"
+#include "ui/position_origin.h"
 
 #include <QTimer>
 
@@ -143,6 +144,12 @@ QVariant PhotoTableModel::data(const QModelIndex &index, int role) const {
         return QByteArray::fromStdString(photo->full_file_path().string());
     case IsFar:
         return std::chrono::abs(gapOf(*photo).value_or(std::chrono::seconds{})) > farGap;
+    case OriginSign:
+        return QString::fromUtf8(position_origin::sign(*photo));
+    case OriginGap:
+        return photo_texts::gap(position_origin::gap(*photo));
+    case OriginIsFar:
+        return position_origin::isFar(*photo);
     default:
         return {};
     }
@@ -165,7 +172,10 @@ QString PhotoTableModel::tooltip(const image &photo, Column column) const {
                   "it is set");
     }
     if (column == Position) { // the line may be too long for its column
-        return photo_texts::altitudeAndPlace(photo).toHtmlEscaped();
+        QStringList lines{photo_texts::altitudeAndPlace(photo).toHtmlEscaped(),
+                          position_origin::words(photo).toHtmlEscaped()};
+        lines.removeAll(QString());
+        return lines.join(QStringLiteral("<br>"));
     }
     if (column != Name) {
         return {};

@@ -34,7 +34,10 @@ public:
         SecondLine = Qt::UserRole, ///< of Name: when it was taken; of Position: height and place
         FilePath,                  ///< the bytes
         NotSaved,                  ///< of Name: why the last save could not write the photo
-        IsFar                      ///< whether the gap is larger than a running log would leave
+        IsFar,                     ///< whether the gap is larger than a running log would leave
+        OriginSign,                ///< how it came by its position: an icon's name, "" for none
+        OriginGap,                 ///< the time to the point that it was placed at
+        OriginIsFar,               ///< whether that is larger than a running log would leave
     };
 
     /// All must outlive it. Without `marks` no photo counts as not saved.

@@ -2,6 +2,7 @@
 
 #include "platform/number_text.h"
 #include "store/image.h"
+#include "ui/position_origin.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -123,7 +124,8 @@ QString sentence(const image &photo, std::optional<std::chrono::seconds> gap) {
     const QString time = takenWithYear(photo);
     parts << (time.isEmpty() ? tr("no capture time") : tr("taken %1").arg(time));
     if (photo.lat_and_lon()) {
-        parts << position(photo) << altitude(photo) << place(photo);
+        parts << position(photo) << altitude(photo) << place(photo)
+              << position_origin::words(photo);
     } else {
         parts << tr("no position");
     }

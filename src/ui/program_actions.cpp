@@ -26,15 +26,18 @@ constexpr int messageTime = 5'000; // ms
 ProgramActions::ProgramActions(Pinmora_AppDelegate &delegate, Surroundings surroundings,
                                QObject *parent)
     : QObject(parent), delegate_(delegate), parts_(delegate.subsystems()),
-      surroundings_(std::move(surroundings)), actions_(this) {
+      surroundings_(std::move(surroundings)), actions_(this),
+      endOfTurn_([this] { enableApplying(); }) {
     connectFiles();
     connectPhotos();
+    connectClock();
     connectViews();
     connectPlaceNames();
     connectLooks(actions_, delegate.defaults, this);
     connectHelpActions(actions_, parts_.versionCheck, delegate.interface.workspace);
     followOutlets();
     followCounts();
+    followSelection();
     new UndoKeys(this);
 }
 
@@ -70,6 +73,14 @@ void ProgramActions::connectPhotos() {
     on(Rename, [this] { parts_.renaming.photoNameChange(); });
     on(OriginalNames, [this] { parts_.renaming.revertPhotoNames(); });
     on(ApplyToAll, [this] { parts_.matcher.applyToAllPictures(); });
+    on(ApplyToSelected, [this] { parts_.matcher.applyToSelected(); });
+    on(ApplyToUnplaced, [this] { parts_.matcher.applyToPhotosWithoutPosition(); });
+}
+
+void ProgramActions::connectClock() {
+    using enum ActionName;
+    bindings_.tie(parts_.trueTime.openButton, actions_[PhotoWasTakenAt]);
+    on(ShowCameras, [this] { parts_.cameras.open(); });
 }
 
 void ProgramActions::connectViews() {
@@ -131,13 +142,28 @@ void ProgramActions::followCounts() {
     using enum ActionName;
     bindings_.watch(parts_.saveOutlets.savePhotosButton.enabled, [this](bool) { enableSave(); });
     bindings_.watch(parts_.counts.counts, [this](const Counts &now) {
-        for (const ActionName name : {Rename, OriginalNames, SelectAll, RemoveAllPhotos}) {
+        for (const ActionName name :
+             {Rename, OriginalNames, SelectAll, RemoveAllPhotos, ShowCameras}) {
             actions_[name]->setEnabled(now.photos > 0);
         }
         enableSave();
-        actions_[ApplyToAll]->setEnabled(now.photos > 0 && now.points > 0);
+        enableApplying();
         actions_[RemoveGpsData]->setEnabled(now.tracks > 0);
     });
+}
+
+void ProgramActions::followSelection() {
+    bindings_.keep(
+        parts_.arrays.pictureArray.selectionChanged.connect([this] { endOfTurn_.ask(); }));
+}
+
+void ProgramActions::enableApplying() {
+    using enum ActionName;
+    const Counts &now = parts_.counts.counts.get();
+    const bool anySelected = !parts_.arrays.pictureArray.selectedObjects().empty();
+    actions_[ApplyToAll]->setEnabled(now.photos > 0 && now.points > 0);
+    actions_[ApplyToSelected]->setEnabled(anySelected && now.points > 0);
+    actions_[ApplyToUnplaced]->setEnabled(now.photos > now.withPosition && now.points > 0);
 }
 
 void ProgramActions::enableSave() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/end_of_turn.h"
 #include "ui/action_table.h"
 #include "ui/bindings.h"
 
@@ -34,19 +35,23 @@ private:
     void on(ActionName name, std::function<void()> act);
     void connectFiles();
     void connectPhotos();
+    void connectClock();
     void connectViews();
     void connectPlaceNames();
     void followOutlets();
     void tieInFront(Button &ofMain, Button &ofWizard, QAction *action);
     void followCounts();
+    void followSelection();
     void enableSave();
+    void enableApplying();
     void tellAbout();
 
     Pinmora_AppDelegate &delegate_;
     Subsystems &parts_;
     const Surroundings surroundings_;
     Actions actions_;
-    Bindings bindings_; ///< goes before what it writes to
+    EndOfTurn endOfTurn_; ///< a selection may change in the middle of a change of the library
+    Bindings bindings_;   ///< goes before what it writes to
 };
 
 } // namespace pinmora

@@ -2,6 +2,7 @@
 
 #include "shell/pinmora_app_delegate.h"
 #include "shell/subsystems.h"
+#include "ui/cameras_dialog.h"
 #include "ui/error_dialog.h"
 #include "ui/file_names.h"
 #include "ui/full_view_window.h"
@@ -13,6 +14,7 @@
 #include "ui/remove_all_dialog.h"
 #include "ui/rename_dialog.h"
 #include "ui/save_dialog.h"
+#include "ui/true_time_dialog.h"
 #include "ui/update_window.h"
 
 #include <QDesktopServices>
@@ -56,6 +58,13 @@ void ProgramSheets::addSheets() {
     whenUp(parts_.renamingOutlets.nameChange, [this] {
         return new RenameDialog(parts_.renamingOutlets, parts_.renaming, delegate_.notifications,
                                 widgetOf_, &owner_);
+    });
+    whenUp(parts_.trueTime.sheet, [this] {
+        return new TrueTimeDialog(parts_.trueTime, delegate_.interface.preview.theImageViewLarge,
+                                  parts_.preview.loading, widgetOf_, &owner_);
+    });
+    whenUp(parts_.cameras.sheet, [this] {
+        return new CamerasDialog(parts_.cameras, delegate_.editing, widgetOf_, &owner_);
     });
     new OpenPanelDialog(parts_.photoIntake.panel, widgetOf_, &owner_);
     new OpenPanelDialog(parts_.gpsIntake.panel, widgetOf_, &owner_);

@@ -1,6 +1,7 @@
 #include "ui/photo_texts.h"
 
 #include "ui/photo_desk.h"
+#include "ui/position_origin.h"
 
 #include <QTest>
 
@@ -17,6 +18,8 @@ private Q_SLOTS:
     void distance();
     void place_data();
     void place();
+    void origins_data();
+    void origins();
     void positions();
     void timesOfOtherYearsSayTheYear();
 };
@@ -95,6 +98,42 @@ void PhotoTextsTest::place() {
     photo.setPlace_distance(340);
     const bool isOfACity = !city.isEmpty();
     QCOMPARE(photo_texts::place(photo).endsWith(QStringLiteral(", 340 m")), isOfACity);
+}
+
+void PhotoTextsTest::origins_data() {
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<double>("gap"); // s
+    QTest::addColumn<bool>("isFar");
+    QTest::addColumn<QString>("words");
+    const auto row = [](const char *source, double gap, bool isFar, const char *words) {
+        QTest::addRow("%s %g", source, gap)
+            << QString::fromLatin1(source) << gap << isFar << QString::fromUtf8(words);
+    };
+    row("log", -3.9, false, "From the log, 3 s from the nearest point");
+    row("log", 300.9, false, "From the log, 5 min from the nearest point");
+    row("log", -301, true, "From the log, 5 min 1 s from the nearest point");
+    row("map", 0, false, "Placed on the map");
+    row("typed", 0, false, "Typed");
+    row("file", 0, false, "From the photo’s file");
+    row("estimated", 0, false, "Estimated between its neighbours");
+    row("", 0, false, "");
+    row("some other day's", 0, false, "");
+}
+
+void PhotoTextsTest::origins() {
+    QFETCH(const QString, source);
+    QFETCH(const double, gap);
+    PhotoDesk desk;
+    image &photo = desk.addPhoto("a", {"47", "8"});
+    photo.setPosition_source(source.toStdString());
+    photo.setPosition_gap(gap);
+    QTEST(position_origin::words(photo), "words");
+    QTEST(position_origin::isFar(photo), "isFar");
+    QCOMPARE(position_origin::sign(photo).empty(), position_origin::words(photo).isEmpty());
+    QVERIFY(photo_texts::sentence(photo, {}).endsWith(position_origin::words(photo)));
+    photo.updateLatAndLon({"", ""});
+    photo.setPosition_source(source.toStdString());
+    QCOMPARE(position_origin::words(photo), QString());
 }
 
 void PhotoTextsTest::positions() {

@@ -6,20 +6,17 @@
 
 namespace pinmora {
 
-struct MatchingOutlets;
+class ClockSaying;
 
-/// How far the camera's clock is set right now.
+/// How far the clock in hand is off, in words.
 class ClockWords : public QLabel {
     Q_OBJECT
 
 public:
-    /// The outlets must outlive it.
-    explicit ClockWords(MatchingOutlets &outlets, QWidget *parent = nullptr);
+    /// The saying must outlive it.
+    explicit ClockWords(ClockSaying &saying, QWidget *parent = nullptr);
 
 private:
-    void showOffset();
-
-    MatchingOutlets &outlets_;
     Bindings bindings_; ///< goes before what it writes to
 };
 

@@ -11,7 +11,8 @@
 
 namespace pinmora {
 
-PositionTool::PositionTool(MatchingOutlets &outlets, Matcher &matcher, QWidget *parent)
+PositionTool::PositionTool(MatchingOutlets &outlets, Matcher &matcher, ClockSaying &saying,
+                           QWidget *parent)
     : QWidget(parent) {
     auto *const known = new KnownPosition(outlets, tr("Set From This Position"),
                                           [&matcher] { matcher.guessFromLatLon(); });
@@ -19,7 +20,7 @@ PositionTool::PositionTool(MatchingOutlets &outlets, Matcher &matcher, QWidget *
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(2 * spacing);
     row->addWidget(known, 1);
-    row->addWidget(new ClockWords(outlets), 0, Qt::AlignTop);
+    row->addWidget(new ClockWords(saying), 0, Qt::AlignTop);
     const auto offer = [&outlets, known] {
         known->button()->setEnabled(outlets.pictureArray.selectedObjects().size() == 1);
     };

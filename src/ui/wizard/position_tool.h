@@ -6,6 +6,7 @@
 
 namespace pinmora {
 
+class ClockSaying;
 class Matcher;
 struct MatchingOutlets;
 
@@ -14,8 +15,9 @@ class PositionTool : public QWidget {
     Q_OBJECT
 
 public:
-    /// Both must outlive it.
-    PositionTool(MatchingOutlets &outlets, Matcher &matcher, QWidget *parent = nullptr);
+    /// All must outlive it.
+    PositionTool(MatchingOutlets &outlets, Matcher &matcher, ClockSaying &saying,
+                 QWidget *parent = nullptr);
 
 private:
     Bindings bindings_; ///< goes before what it writes to

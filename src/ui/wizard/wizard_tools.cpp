@@ -65,7 +65,7 @@ QWidget *WizardWindow::makeTracksTool() {
 QWidget *WizardWindow::makeMapTool() {
     auto *const tool = new QWidget;
     QHBoxLayout *const row = rowIn(tool);
-    auto *const clock = new ClockWords(subsystems_.matching, tool);
+    auto *const clock = new ClockWords(subsystems_.clockSaying, tool);
     auto *const placed = new QLabel(tool);
     setRole(placed, Role::Strong);
     auto *const load = new QPushButton(tr("Load a GPS log instead"), tool);
@@ -87,8 +87,14 @@ QWidget *WizardWindow::makeMapTool() {
 QWidget *WizardWindow::makeOffsetTool() {
     auto *const tool = new QWidget;
     QHBoxLayout *const row = rowIn(tool);
-    row->addWidget(new OffsetSteppers(subsystems_.matching, subsystems_.matching.plusMinus3,
+    MatchingOutlets &clock = subsystems_.matching;
+    row->addWidget(new OffsetSteppers({.sign = clock.plusMinus3,
+                                       .hours = clock.stepperHour,
+                                       .minutes = clock.stepperMin,
+                                       .seconds = clock.stepperSec},
                                       delegate_.editing));
+    row->addSpacing(2 * spacing);
+    row->addWidget(new ClockWords(subsystems_.clockSaying));
     row->addStretch();
     return tool;
 }

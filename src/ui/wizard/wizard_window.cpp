@@ -93,7 +93,7 @@ void WizardWindow::addTools(QVBoxLayout &column) {
     page(WizardPage::GpsData).tool = makeTracksTool();
     page(WizardPage::OffsetByMap).tool = makeMapTool();
     page(WizardPage::OffsetByLatLon).tool =
-        new PositionTool(subsystems_.matching, subsystems_.matcher);
+        new PositionTool(subsystems_.matching, subsystems_.matcher, subsystems_.clockSaying);
     page(WizardPage::OffsetByKnown).tool = makeOffsetTool();
     page(WizardPage::MatchAll).tool = new EndTool(delegate_);
     for (const Page &one : pages_) {
