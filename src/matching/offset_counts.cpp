@@ -56,16 +56,18 @@ OffsetCounts::OffsetCounts(std::vector<Date> photos, TrackCoverage coverage)
 
 std::size_t OffsetCounts::at(std::chrono::seconds offset) const {
     const std::vector<TrackCoverage::Stretch> &stretches = coverage_.stretches();
-    if (stretches.size() > photos_.size()) {
-        return static_cast<std::size_t>(
-            std::count_if(photos_.begin(), photos_.end(),
-                          [&](Date photo) { return coverage_.covers(photo + offset); }));
-    }
+    const bool isDense = stretches.size() > photos_.size() / 16;
+    // The first photo from `from` on that is not before a moment.
+    const auto firstAt = [&](auto from, Date moment) {
+        return isDense ? std::find_if(from, photos_.end(),
+                                      [moment](Date photo) { return photo >= moment; })
+                       : std::lower_bound(from, photos_.end(), moment);
+    };
     std::size_t count = 0;
     auto from = photos_.begin();
     for (const TrackCoverage::Stretch &stretch : stretches) {
-        from = std::lower_bound(from, photos_.end(), stretch.begin - offset);
-        const auto to = std::lower_bound(from, photos_.end(), stretch.end - offset);
+        from = firstAt(from, stretch.begin - offset);
+        const auto to = firstAt(from, stretch.end - offset);
         count += static_cast<std::size_t>(to - from);
         from = to;
     }

@@ -43,11 +43,7 @@ struct Contest {
 
 class Judge {
 public:
-    explicit Judge(OffsetEvidence evidence)
-        : counts_(std::move(evidence.photos), std::move(evidence.coverage)),
-          inForce_(evidence.inForce), tags_(std::move(evidence.impliedByTags)),
-          placed_(std::move(evidence.placed)), now_(candidate(evidence.inForce)),
-          any_(counts_.best()) {}
+    explicit Judge(OffsetEvidence evidence);
 
     std::optional<Candidate> verdict() const;
 
@@ -76,7 +72,17 @@ private:
     std::vector<PlacedPhoto> placed_;
     Candidate now_;
     OffsetCounts::Best any_;
+    std::vector<Candidate> zones_; ///< all quarter hours
 };
+
+Judge::Judge(OffsetEvidence evidence)
+    : counts_(std::move(evidence.photos), std::move(evidence.coverage)), inForce_(evidence.inForce),
+      tags_(std::move(evidence.impliedByTags)), placed_(std::move(evidence.placed)),
+      now_(candidate(evidence.inForce)), any_(counts_.best()) {
+    for (minutes offset = -farthestZone; offset <= farthestZone; offset += minutes(15)) {
+        zones_.push_back(candidate(offset));
+    }
+}
 
 /// How far the photo is from the nearest moment at which the track passed by it.
 std::optional<microseconds> missOf(const PlacedPhoto &photo, seconds offset) {
@@ -145,15 +151,17 @@ std::optional<Candidate> Judge::byPlaced() const {
     return best->onTrack * 2 > counts_.photos() ? best : std::nullopt;
 }
 
+/// Of the multiples of a step, the best one, the nearest to none among equals.
 Contest Judge::contest(minutes step) const {
     Contest result;
-    const auto steps = farthestZone / step;
-    for (auto i = -steps; i <= steps; ++i) {
-        const Candidate one = candidate(step * i);
-        const bool isNearer = std::chrono::abs(one.offset) < std::chrono::abs(result.winner.offset);
-        if (i == -steps || one.onTrack > result.winner.onTrack ||
-            (one.onTrack == result.winner.onTrack && isNearer)) {
-            result.runnerUp = i == -steps ? 0 : std::max(result.runnerUp, result.winner.onTrack);
+    for (const Candidate &one : zones_) {
+        const Candidate &best = result.winner;
+        if (one.offset % step != seconds(0)) {
+            continue;
+        }
+        const bool isNearer = std::chrono::abs(one.offset) < std::chrono::abs(best.offset);
+        if (one.onTrack > best.onTrack || (one.onTrack == best.onTrack && isNearer)) {
+            result.runnerUp = std::max(result.runnerUp, best.onTrack);
             result.winner = one;
         } else {
             result.runnerUp = std::max(result.runnerUp, one.onTrack);
