@@ -42,6 +42,9 @@ void MapBridge::called(const PageCall &call) {
 }
 
 void MapBridge::latLonJavascript(const std::string &position) {
+    if (clickTaker_ && clickTaker_(position)) {
+        return;
+    }
     const std::optional<Placement> placement = placementFrom(position);
     if (!placement || outlets_.pictureArray.selectedObjects().empty()) {
         return;

@@ -8,7 +8,9 @@
 #include "store/degrees.h"
 #include "store/image.h"
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace pinmora {
@@ -46,6 +48,11 @@ public:
     void zoomChangeJavascript(const std::string &level);
     void newMarker() {}
 
+    /// Asked first what it makes of a position that a page tells; true: nothing is placed then.
+    void setClickTaker(std::function<bool(const std::string &position)> taker) {
+        clickTaker_ = std::move(taker);
+    }
+
     /// The active view's pointer is to be sent to it again: its page is new.
     Signal<> pointerWanted;
 
@@ -55,6 +62,7 @@ private:
 
     Context &context_;
     Outlets outlets_;
+    std::function<bool(const std::string &)> clickTaker_;
     int loadCount_ = 0; ///< completed loads, of either view
     std::vector<Connection> connections_;
 };
