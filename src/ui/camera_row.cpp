@@ -35,6 +35,16 @@ QString photosOf(const CameraInUse &camera) {
                      .arg(photos, shortTime(*camera.first), shortTime(*camera.last));
 }
 
+QString wordsOf(const CameraInUse &camera) {
+    const std::chrono::seconds apart = camera.clock.signedOffset();
+    if (camera.hasOwnClock) {
+        return QString::fromStdString(offsetSentence(apart));
+    }
+    return apart.count() == 0
+               ? CameraRow::tr("Common clock")
+               : CameraRow::tr("Common clock, %1").arg(QString::fromStdString(shortOffset(apart)));
+}
+
 } // namespace
 
 CameraRow::CameraRow(Cameras &cameras, CameraInUse camera, Editing &editing, QWidget *parent)
@@ -70,6 +80,11 @@ CameraRow::CameraRow(Cameras &cameras, CameraInUse camera, Editing &editing, QWi
     showClock();
 }
 
+/// Boxes take over what is half typed when they lose the focus, while there are steppers for it.
+CameraRow::~CameraRow() {
+    delete steppers_;
+}
+
 void CameraRow::connectControls() {
     // A zero has no sign of its own: what is chosen holds for what is stepped next.
     const auto set = [this] {
@@ -92,8 +107,7 @@ void CameraRow::showCamera(const CameraInUse &camera) {
 }
 
 void CameraRow::showClock() {
-    const std::chrono::seconds apart = shown_.clock.signedOffset();
-    if (apart.count() != 0) {
+    if (shown_.clock.signedOffset().count() != 0) {
         sign_.selectedTag.set(shown_.clock.plus ? 1 : 0);
     }
     hours_.value.set(shown_.clock.hours);
@@ -102,9 +116,7 @@ void CameraRow::showClock() {
     photos_->setText(photosOf(shown_));
     own_->setChecked(shown_.hasOwnClock);
     steppers_->setVisible(shown_.hasOwnClock);
-    words_->setText(shown_.hasOwnClock
-                        ? QString::fromStdString(offsetSentence(apart))
-                        : tr("Common clock, %1").arg(QString::fromStdString(shortOffset(apart))));
+    words_->setText(wordsOf(shown_));
 }
 
 } // namespace pinmora

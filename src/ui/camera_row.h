@@ -22,6 +22,9 @@ class CameraRow : public QWidget {
 public:
     /// Cameras and `editing` must outlive it.
     CameraRow(Cameras &cameras, CameraInUse camera, Editing &editing, QWidget *parent = nullptr);
+    ~CameraRow() override;
+    CameraRow(const CameraRow &) = delete;
+    CameraRow &operator=(const CameraRow &) = delete;
 
     const std::string &camera() const { return shown_.camera; }
     void showCamera(const CameraInUse &camera);

@@ -147,12 +147,18 @@ QVariant PhotoTableModel::data(const QModelIndex &index, int role) const {
     case OriginSign:
         return QString::fromUtf8(position_origin::sign(*photo));
     case OriginGap:
-        return photo_texts::gap(position_origin::gap(*photo));
+        return shownOriginGap(*photo);
     case OriginIsFar:
         return position_origin::isFar(*photo);
     default:
         return {};
     }
+}
+
+/// As a rule the column of gaps says the same.
+QString PhotoTableModel::shownOriginGap(const image &photo) const {
+    const QString gap = photo_texts::gap(position_origin::gap(photo));
+    return gap == photo_texts::gap(gapOf(photo)) ? QString() : gap;
 }
 
 QString PhotoTableModel::whyNotSaved(const image &photo) const {
@@ -301,7 +307,7 @@ void PhotoTableModel::tellChanges() {
         Q_EMIT dataChanged(index(0, Name), index(rowCount() - 1, Name));
     }
     if (gapsChanged_) {
-        Q_EMIT dataChanged(index(0, Gap), index(rowCount() - 1, Gap));
+        Q_EMIT dataChanged(index(0, Position), index(rowCount() - 1, Gap));
     }
     constexpr std::size_t severalNotices = 16;
     int first = rowCount();

@@ -36,7 +36,7 @@ public:
         NotSaved,                  ///< of Name: why the last save could not write the photo
         IsFar,                     ///< whether the gap is larger than a running log would leave
         OriginSign,                ///< how it came by its position: an icon's name, "" for none
-        OriginGap,                 ///< the time to the point that it was placed at
+        OriginGap,                 ///< how far the point was in time, where that is not the gap
         OriginIsFar,               ///< whether that is larger than a running log would leave
     };
 
@@ -81,6 +81,7 @@ private:
     QString textAt(int row, Column column) const;
     QString accessibleText(const image &photo) const;
     QString tooltip(const image &photo, Column column) const;
+    QString shownOriginGap(const image &photo) const;
     QString whyNotSaved(const image &photo) const;
 
     Context &context_;

@@ -8,6 +8,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace pinmora {
@@ -89,7 +90,9 @@ void TrueTimeDialog::addTimes() {
 
 void TrueTimeDialog::aboutToShow() {
     taken_->setFocus();
-    taken_->setSelectedSection(QDateTimeEdit::HourSection);
+    // Coming up selects the first section, and the day is mostly right.
+    QTimer::singleShot(0, taken_,
+                       [this] { taken_->setSelectedSection(QDateTimeEdit::HourSection); });
 }
 
 } // namespace pinmora
