@@ -1,6 +1,7 @@
 #include "shell/apply_report.h"
 
 #include "matching/matcher.h"
+#include "matching/neighbour_placing.h"
 #include "outlets/quiet_bar.h"
 #include "persistence/context.h"
 #include "persistence/undo_manager.h"
@@ -38,12 +39,27 @@ std::string wordsOf(const ApplyOutcome &outcome) {
     return text.empty() ? text : text + ".";
 }
 
+std::string wordsOf(const NeighbourOutcome &outcome) {
+    return outcome.unplaced.empty()
+               ? ""
+               : counted(outcome.unplaced.size(), "has", "have") +
+                     " no neighbours in time with a position, or no capture time.";
+}
+
 ApplyReport::ApplyReport(Context &context, ArrayController<image> &pictureArray, Matcher &matcher,
-                         QuietBar &quietBar, std::function<void()> selectionChanged)
+                         NeighbourPlacing &neighbours, QuietBar &quietBar,
+                         std::function<void()> selectionChanged)
     : context_(context), pictureArray_(pictureArray), quietBar_(quietBar),
-      selectionChanged_(std::move(selectionChanged)),
-      applied_(matcher.applied.connect([this](const ApplyOutcome &outcome) { tell(outcome); })) {
+      selectionChanged_(std::move(selectionChanged)) {
     context_.undoManager()->addObserver(*this);
+    connections_.push_back(matcher.applied.connect([this](const ApplyOutcome &outcome) {
+        std::vector<std::uint32_t> toLookAt = outcome.far;
+        toLookAt.insert(toLookAt.end(), outcome.untimed.begin(), outcome.untimed.end());
+        tell(outcome.placed, wordsOf(outcome), std::move(toLookAt));
+    }));
+    connections_.push_back(neighbours.placed.connect([this](const NeighbourOutcome &outcome) {
+        tell(outcome.placed, wordsOf(outcome), outcome.unplaced);
+    }));
 }
 
 ApplyReport::~ApplyReport() {
@@ -54,16 +70,13 @@ void ApplyReport::didUndo(const UndoStep &) {
     quietBar_.withdraw(appliedSubject);
 }
 
-void ApplyReport::tell(const ApplyOutcome &outcome) {
-    BarMessage message{.subject = appliedSubject,
-                       .head = placedText(outcome.placed),
-                       .text = wordsOf(outcome),
-                       .choices = {}};
-    if (!message.text.empty()) {
-        std::vector<std::uint32_t> serials = outcome.far;
-        serials.insert(serials.end(), outcome.untimed.begin(), outcome.untimed.end());
-        std::sort(serials.begin(), serials.end());
-        message.choices.push_back({"Show", [this, serials] { show(serials); }});
+void ApplyReport::tell(std::size_t placed, const std::string &text,
+                       std::vector<std::uint32_t> toLookAt) {
+    BarMessage message{
+        .subject = appliedSubject, .head = placedText(placed), .text = text, .choices = {}};
+    if (!toLookAt.empty()) {
+        std::sort(toLookAt.begin(), toLookAt.end());
+        message.choices.push_back({"Show", [this, toLookAt] { show(toLookAt); }});
     }
     quietBar_.post(std::move(message));
 }

@@ -3,6 +3,7 @@
 #include "outlets/array_controller.h"
 #include "persistence/undo_observer.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -12,36 +13,40 @@ namespace pinmora {
 
 class Context;
 class Matcher;
+class NeighbourPlacing;
 class QuietBar;
 class image;
 struct ApplyOutcome;
+struct NeighbourOutcome;
 
 /// "198 photos have got their positions." and what a person should look at: "2 are far in time
 /// from the log; 1 does not say when it was taken."
 std::string wordsOf(const ApplyOutcome &outcome);
+std::string wordsOf(const NeighbourOutcome &outcome);
 
-/// Says on the quiet bar what applying the logs has come to, and shows the photos that need a
-/// look. Taking it back takes the message back.
+/// Says on the quiet bar what applying the logs, or placing by neighbours, has come to, and shows
+/// the photos that need a look. Taking it back takes the message back.
 class ApplyReport : private UndoObserver {
 public:
     /// The context must have an undo manager already; all must outlive it. `selectionChanged` is
     /// called when the report has selected photos.
     ApplyReport(Context &context, ArrayController<image> &pictureArray, Matcher &matcher,
-                QuietBar &quietBar, std::function<void()> selectionChanged);
+                NeighbourPlacing &neighbours, QuietBar &quietBar,
+                std::function<void()> selectionChanged);
     ~ApplyReport() override;
     ApplyReport(const ApplyReport &) = delete;
     ApplyReport &operator=(const ApplyReport &) = delete;
 
 private:
     void didUndo(const UndoStep &) override;
-    void tell(const ApplyOutcome &outcome);
+    void tell(std::size_t placed, const std::string &text, std::vector<std::uint32_t> toLookAt);
     void show(const std::vector<std::uint32_t> &serials);
 
     Context &context_;
     ArrayController<image> &pictureArray_;
     QuietBar &quietBar_;
     std::function<void()> selectionChanged_;
-    Connection applied_;
+    std::vector<Connection> connections_;
 };
 
 } // namespace pinmora

@@ -1,8 +1,10 @@
 #include "shell/subsystems.h"
 
+#include "matching/turned_photos.h"
 #include "places/place_settings.h"
 #include "platform/application_support.h"
 #include "shell/pinmora_app_delegate.h"
+#include "store/offset.h"
 #include "store/start_records.h"
 
 namespace pinmora {
@@ -40,6 +42,9 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
       unfitText(owner.editing, coordinates, details, owner.interface.mainTabs,
                 owner.interface.quietBar),
       gaps(owner.library.managedObjectContext(), matching.offsetObj),
+      neighbours(owner.library.managedObjectContext(), matching, gaps.points()),
+      timeStrip(owner.library.managedObjectContext(), arrays, gaps, clockOffset, matcher,
+                [&owner] { owner.notifications.post(tableSelectionDidChange); }),
       photoOrder(arrays.pictureArray, gaps), counts(owner.library.managedObjectContext()),
       undoCommands(owner.library.managedObjectContext()), preview(owner.interface.preview, screen),
       saving(resourceFolder), renamingOutlets{.pictureArray = arrays.pictureArray,
@@ -80,6 +85,16 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
                                                        .pictureArray = arrays.pictureArray,
                                                        .degreeObj = owner.interface.degreeObj,
                                                        .editing = owner.editing}),
+      pointPicking(
+          owner.library.managedObjectContext(), mapBridge,
+          {.webView1 = owner.interface.webView1,
+           .webView2 = owner.interface.webView2,
+           .pictureArray = arrays.pictureArray},
+          [this](double lat, double lon) { matcher.setFromPlace({.lat = lat, .lon = lon}); }),
+      turnFeed({.webView1 = owner.interface.webView1,
+                .webView2 = owner.interface.webView2,
+                .inWizard = owner.interface.inWizard},
+               [this] { return timesOfTurn(); }),
       markers(
           owner.library.managedObjectContext(),
           {.webView1 = owner.interface.webView1,
@@ -111,7 +126,7 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
                      .loadRunning = owner.interface.loadRunning}),
       oldPositionNotice(owner.library.managedObjectContext(), owner.defaults,
                         owner.interface.quietBar),
-      applyReport(owner.library.managedObjectContext(), arrays.pictureArray, matcher,
+      applyReport(owner.library.managedObjectContext(), arrays.pictureArray, matcher, neighbours,
                   owner.interface.quietBar,
                   [&owner] { owner.notifications.post(tableSelectionDidChange); }),
       recoveryOffers(unsavedWork, owner.interface.quietBar, owner.interface.errors,
@@ -145,7 +160,19 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
     connections_.push_back(readingOffer.readAgain.connect([this] { inspector.logsLoaded(); }));
     connections_.push_back(
         matching.nextButtonAppliedAll.pressed.connect([this] { savePipeline.updatePicts(); }));
+    connections_.push_back(
+        clockOffset.turning.onChange([this](const std::optional<ClockTurn> &turn) {
+            turnFeed.turned(turn ? std::optional(turn->by) : std::nullopt);
+        }));
     connections_.push_back(mapBridge.pointerWanted.connect([this] { inspector.sendPointer(); }));
+}
+
+/// Of the photos whose clock is being turned.
+std::vector<Date> Subsystems::timesOfTurn() const {
+    const std::optional<ClockTurn> &turn = clockOffset.turning.get();
+    const offset *const stored = matching.offsetObj.content();
+    return turn && stored ? timesByClock(*stored->context(), clockOffset, *stored, turn->camera)
+                          : std::vector<Date>();
 }
 
 SaveSurroundings Subsystems::saveSurroundings(Pinmora_AppDelegate &owner) {

@@ -6,9 +6,12 @@
 #include "map/map_bridge.h"
 #include "map/map_feed.h"
 #include "map/markers.h"
+#include "map/point_picking.h"
+#include "map/turn_feed.h"
 #include "matching/clock_offset.h"
 #include "matching/matcher.h"
 #include "matching/matching_outlets.h"
+#include "matching/neighbour_placing.h"
 #include "matching/photo_gaps.h"
 #include "photos/file_browser.h"
 #include "photos/photo_intake.h"
@@ -40,6 +43,7 @@
 #include "shell/recovery_offers.h"
 #include "shell/sample_outing.h"
 #include "shell/thumbnails.h"
+#include "shell/time_strip.h"
 #include "shell/true_time.h"
 #include "shell/undo_commands.h"
 #include "shell/unfit_text.h"
@@ -83,6 +87,8 @@ struct Subsystems {
     DetailFields details;
     UnfitText unfitText;
     PhotoGaps gaps;
+    NeighbourPlacing neighbours;
+    TimeStrip timeStrip;
     PhotoOrder photoOrder;
     LibraryCounts counts;
     UndoCommands undoCommands;
@@ -104,6 +110,8 @@ struct Subsystems {
     Inspector inspector;
     MapFeed mapFeed; ///< before the bridge: a new page gets the drawing before the pointer
     MapBridge mapBridge;
+    PointPicking pointPicking;
+    TurnFeed turnFeed;
     Markers markers;
     QuitWarning quitWarning;
     IntakeNotes intakeNotes;
@@ -122,6 +130,7 @@ struct Subsystems {
     Window logWindow; ///< shows the log file
 
 private:
+    std::vector<Date> timesOfTurn() const;
     SaveSurroundings saveSurroundings(Pinmora_AppDelegate &owner);
 
     std::vector<Connection> connections_;
