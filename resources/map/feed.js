@@ -2,7 +2,7 @@
 "use strict";
 
 mapPage.feed = (() => {
-    const {view, tracks, photos, pointer, placing} = mapPage;
+    const {view, tracks, photos, ghosts, pointer, placing} = mapPage;
     const fitButton = document.getElementById("fit");
 
     function updateFitButton() {
@@ -22,6 +22,7 @@ mapPage.feed = (() => {
         look: mapPage.look.set,
         tracks(message) {
             const elsewhere = tracks.set(message.tracks.filter(isTrack));
+            ghosts.forgetPoints();
             if (elsewhere && !pointer.isShown()) {
                 view.byProgram(() => view.fit(tracks.box()));
             }
@@ -40,6 +41,10 @@ mapPage.feed = (() => {
             photos.select(message.ids ?? [], message.count);
             pointer.nameAgain();
             placing.setSelection(message);
+        },
+        turn: ghosts.turn,
+        pick(message) {
+            placing.setPicking(message.on === true);
         },
         drop(message) {
             placing.dropped(message.x, message.y);

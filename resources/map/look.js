@@ -5,9 +5,9 @@ mapPage.look = (() => {
     const roles = ["window", "text", "quiet", "lines", "accent", "track"];
     const land = {
         light: {land: "#f3f0e7", water: "#bcd9e7", border: "#cbbfa8", grid: "#8a8f9426",
-                name: "#6b7178", nameGround: "#f3f0e7b0"},
+                name: "#6b7178", nameGround: "#f3f0e7b0", warning: "#b45309"},
         dark: {land: "#2d3033", water: "#21404f", border: "#555b62", grid: "#c0c8d01c",
-               name: "#a0a8b0", nameGround: "#2d3033b0"},
+               name: "#a0a8b0", nameGround: "#2d3033b0", warning: "#f0b25a"},
     };
     const listeners = [];
     const colours = {};

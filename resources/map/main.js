@@ -4,7 +4,8 @@
 (() => {
     const {view, pointer} = mapPage;
     // From the ground up; Leaflet's own panes follow: markers 600, tooltips 650, popups 700.
-    [["labels", 250], ["tracks", 400], ["photos", 450]].forEach(([name, height]) => {
+    [["labels", 250], ["tracks", 400], ["photos", 450],
+     ["ghosts", 460]].forEach(([name, height]) => {
         const pane = view.map.createPane(name);
         pane.style.zIndex = height;
         pane.style.pointerEvents = "none";
@@ -12,6 +13,7 @@
     mapPage.baseMap.layer.addTo(view.map);
     mapPage.tracks.layer.addTo(view.map);
     mapPage.photos.layer.addTo(view.map);
+    mapPage.ghosts.layer.addTo(view.map);
     mapPage.tiles.begin();
     mapPage.hover.begin();
     mapPage.search.begin();

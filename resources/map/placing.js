@@ -5,17 +5,20 @@
 mapPage.placing = (() => {
     /** Pixels between a click and a track that still mean the track. */
     const reach = 8;
+    /** The same while a point of the track is asked for. */
+    const reachOfPick = 24;
 
     const {view, positions, pointer, tracks, status} = mapPage;
     const {map} = view;
     let selection = {count: 0, clickPlaces: false};
+    let picking = false; // the next click is to choose a point of the track
 
     function report(lat, lon) {
         mapPage.reportPosition(positions.report(lat, lon, map.getZoom()));
     }
 
-    function trackAt({lat, lng}) {
-        return tracks.near(lat, lng, reach / 2 ** map.getZoom());
+    function trackAt({lat, lng}, within = reach) {
+        return tracks.near(lat, lng, within / 2 ** map.getZoom());
     }
 
     function line(text, className) {
@@ -51,11 +54,22 @@ mapPage.placing = (() => {
                        autoPanPaddingBottomRight: [8, 40]});
     }
 
+    /** The program knows more points than are drawn: it chooses the one. */
+    function pick(latlng) {
+        if (trackAt(latlng, reachOfPick)) {
+            mapPage.reportPicked(positions.report(latlng.lat, latlng.lng, map.getZoom()));
+        } else {
+            status.note("There is no track here. Click on the track, or press Escape.");
+        }
+    }
+
     function clicked({latlng, originalEvent}) {
         if (originalEvent.detail > 1) {
             return; // the second of a double click, which zooms
         }
-        if (pointer.isDraft()) {
+        if (picking) {
+            pick(latlng);
+        } else if (pointer.isDraft()) {
             pointer.placeDraft(latlng.lat, latlng.lng);
         } else if (selection.clickPlaces) {
             report(latlng.lat, latlng.lng);
@@ -69,7 +83,7 @@ mapPage.placing = (() => {
 
     /** What a click there would do. */
     function showCursor(latlng) {
-        const places = pointer.isDraft() || selection.clickPlaces;
+        const places = picking || pointer.isDraft() || selection.clickPlaces;
         map.getContainer().classList.toggle("places", places);
         map.getContainer().classList.toggle("on-track", !places && trackAt(latlng) !== null);
     }
@@ -106,7 +120,12 @@ mapPage.placing = (() => {
     map.on("click", clicked);
     document.addEventListener("paste", pasted);
     document.addEventListener("keydown", (event) => {
-        if (event.key === "Escape" && !event.defaultPrevented && !pointer.escape()) {
+        if (event.key !== "Escape" || event.defaultPrevented) {
+            return;
+        }
+        if (picking) {
+            mapPage.reportPicked("");
+        } else if (!pointer.escape()) {
             map.closePopup();
         }
     });
@@ -115,6 +134,17 @@ mapPage.placing = (() => {
         go,
         dropped,
         showCursor,
+        /** Whether the next click is to choose the point of the track where the photo was taken. */
+        setPicking(on) {
+            if (picking === on) {
+                return;
+            }
+            picking = on;
+            map.closePopup();
+            map.getContainer().classList.toggle("places", on || pointer.isDraft() ||
+                                                selection.clickPlaces);
+            status.setHint(on ? "Click the point of the track where the photo was taken." : "");
+        },
         /** {count: how many photos are selected, clickPlaces: whether a click places them} */
         setSelection({count, clickPlaces}) {
             selection = {count: Number(count) || 0, clickPlaces: clickPlaces === true};

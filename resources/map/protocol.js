@@ -55,6 +55,10 @@ const mapPage = (() => {
         reportPosition(text) {
             tell("latLonJavascript", text);
         },
+        /** The person has chosen this place of the track, as asked; "": has given it up. */
+        reportPicked(text) {
+            tell("latLonJavascript", text && `${text}:pick`);
+        },
         /** The person has chosen this level, a whole number. */
         reportLevel(level) {
             tell("zoomChangeJavascript", level);

@@ -117,6 +117,8 @@ mapPage.tracks = (() => {
     return {
         layer,
         box: () => box,
+        /** [{x: [], y: [], time: []}], x and y in units of the world's map. */
+        all: () => tracks,
         /**
          * All tracks, [{number, lat: [], lon: [], time: []}]; whether there are any now where none
          * were.

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void aTrackGoesOnOverTheDateLine_data();
     void aTrackGoesOnOverTheDateLine();
     void photosComeAndGoAndAreHighlighted();
+    void photosSlideWhileTheClockIsTurned();
+    void noMoreGhostsThanCanBeSeen();
     void photosAreNamed();
     void thereIsSomethingToGoByOnEmptyGround();
     void theWorldHasLandAndWaterEverywhere_data();
@@ -176,6 +178,76 @@ void MapPageDrawingTest::photosComeAndGoAndAreHighlighted() {
     QVERIFY(becomesPainted(desk, middle + QPoint(4, 0), land));
 }
 
+/// Along a track through the middle of the view, where a second is 100 pixels.
+void MapPageDrawingTest::photosSlideWhileTheClockIsTurned() {
+    PageDesk &desk = desks_.fresh();
+    desk.ask(QStringLiteral("movePointerWithZoom(0,25,7,''); removePointer()"));
+    const double degrees = 100 * 360.0 / 256 / 128;
+    QByteArray lat;
+    QByteArray lon;
+    QByteArray times;
+    for (const int i : {1, 0, -2, -1}) { // in no order
+        lat += lat.isEmpty() ? "0" : ",0";
+        lon += (lon.isEmpty() ? "" : ",") + QByteArray::number(25 + i * degrees);
+        times += (times.isEmpty() ? "" : ",") + QByteArray::number(1000 + i);
+    }
+    desk.feed(R"({"kind":"tracks","tracks":[{"number":1,"lat":[)" + lat + R"(],"lon":[)" + lon +
+              R"(],"time":[)" + times + "]}]}");
+    desk.ask(QStringLiteral("movePointerWithZoom(0,25,7,''); removePointer()"));
+    const auto isGhostAt = [&desk](int x) {
+        const QColor seen = desk.view().grab().toImage().pixelColor(QPoint(x, 200));
+        return seen.blue() > seen.red() + 24; // the accent through which the track is seen
+    };
+    const auto becomesGhostAt = [&](int x, bool is) {
+        return PageDesk::waitFor([&] { return isGhostAt(x) == is; });
+    };
+    QVERIFY(becomesPainted(desk, {200, 200}, trackColour));
+    desk.feed(R"({"kind":"turn","by":0,"times":[999]})");
+    QVERIFY(becomesGhostAt(200, true));
+    desk.feed(R"({"kind":"turn","by":1})");
+    QVERIFY(becomesGhostAt(300, true) && becomesGhostAt(200, false));
+    desk.feed(R"({"kind":"turn","by":-1})");
+    QVERIFY(becomesGhostAt(100, true) && becomesGhostAt(300, false));
+    // Far in time it stays at the end, and is none of the track's own.
+    desk.feed(R"({"kind":"turn","by":400})");
+    QVERIFY(PageDesk::waitFor([&desk] { // its ring, on the water beside the track
+        const QColor seen = desk.view().grab().toImage().pixelColor(QPoint(400, 205));
+        return seen.red() > seen.blue() + 40;
+    }));
+    desk.feed(R"({"kind":"turn","by":0})");
+    QVERIFY(becomesGhostAt(200, true));
+    desk.feed(R"({"kind":"turn","by":null})");
+    QVERIFY(becomesPainted(desk, {200, 200}, trackColour));
+}
+
+void MapPageDrawingTest::noMoreGhostsThanCanBeSeen() {
+    PageDesk &desk = desks_.fresh();
+    desk.ask(QStringLiteral(R"(
+        var drawn = 0, waves = {kind: "tracks", tracks: [{number: 1, lat: [], lon: [], time: []}]};
+        for (let i = 0; i < 20000; ++i) {
+            waves.tracks[0].lat.push(47 + 0.1 * Math.sin(i / 40));
+            waves.tracks[0].lon.push(8 + i / 50000);
+            waves.tracks[0].time.push(i);
+        }
+        const draw = CanvasRenderingContext2D.prototype.drawImage;
+        CanvasRenderingContext2D.prototype.drawImage = function (...given) {
+            ++drawn;
+            return draw.apply(this, given);
+        };
+        const say = (message) => document.dispatchEvent(
+            new CustomEvent("pinmora-feed", {detail: JSON.stringify(message)}));
+        say(waves);
+        drawn = 0;
+        say({kind: "turn", by: 0, times: Array.from({length: 10000}, (_, i) => 2 * i)});
+    )"));
+    QVERIFY(desk.becomes(QStringLiteral("drawn > 0")));
+    QCOMPARE(desk.ask(QStringLiteral("drawn")).toInt(), 500);
+    // A few are all drawn.
+    desk.ask(QStringLiteral("drawn = 0; say({kind: 'turn', by: 0, times: [100, 9000, 19000]})"));
+    QVERIFY(desk.becomes(QStringLiteral("drawn > 0")));
+    QCOMPARE(desk.ask(QStringLiteral("drawn")).toInt(), 3);
+}
+
 void MapPageDrawingTest::photosAreNamed() {
     PageDesk &desk = desks_.fresh();
     const auto saysAt = [&](QPoint at, const char *text) {
@@ -285,7 +357,9 @@ void MapPageDrawingTest::nonsenseIsPassedOver_data() {
           R"({"kind":"tracks","tracks":[{"lat":[47],"lon":[]}]})",
           R"({"kind":"tracks","tracks":[{"lat":[95,95],"lon":[8,9]}]})",
           R"({"kind":"photos","photos":[null]})", R"({"kind":"photos","gone":7})",
-          R"({"kind":"selection","ids":"x"})", R"({"kind":"look","window":[]})"}) {
+          R"({"kind":"selection","ids":"x"})", R"({"kind":"look","window":[]})",
+          R"({"kind":"turn","by":"1","times":[null,"x"]})",
+          R"({"kind":"turn","by":1,"times":7})"}) {
         QTest::newRow(message) << QByteArray(message);
     }
 }

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void cleanupTestCase() { desks_.clear(); }
     void aClickPlacesOnlyWhenItIsMeantTo_data();
     void aClickPlacesOnlyWhenItIsMeantTo();
+    void aPointOfTheTrackIsPicked();
     void aDraftIsPlacedOnce_data();
     void aDraftIsPlacedOnce();
     void escapeDropsADraft();
@@ -89,6 +90,31 @@ void MapPagePlacingTest::aClickPlacesOnlyWhenItIsMeantTo() {
     QVERIFY(places ? toldOnly(desk, there) : desk.reports().isEmpty());
     desk.click({450, 90}); // away from what was shown there
     QCOMPARE(desk.reports().size(), clickPlaces ? 1 : 0);
+}
+
+/// Whatever a click would do else; beside the track it does nothing.
+void MapPagePlacingTest::aPointOfTheTrackIsPicked() {
+    PageDesk &desk = desks_.fresh();
+    select(desk, 1, true);
+    desk.ask(QStringLiteral("movePointerWithZoom(47,8,12,'')"));
+    desk.feed(R"({"kind":"tracks","tracks":[{"number":1,"lat":[47,47],"lon":[7.9,8.1],)"
+              R"("time":[1,2]}]})");
+    desk.feed(R"({"kind":"pick","on":true})");
+    QVERIFY(desk.ask(QStringLiteral("document.getElementById('note').textContent"))
+                .toString()
+                .startsWith(QLatin1String("Click the point")));
+    desk.click({150, 300});
+    QCOMPARE(desk.reports(), QStringList());
+    const QString there = desk.seenAt({150, 215});
+    desk.click({150, 215});
+    QCOMPARE(desk.reports(), QStringList(QStringLiteral("position %1:pick").arg(there)));
+    desk.key(Qt::Key_Escape);
+    QCOMPARE(desk.reports(), QStringList(QStringLiteral("position ")));
+    desk.feed(R"({"kind":"pick","on":false})");
+    QVERIFY(desk.ask(QStringLiteral("document.getElementById('note').hidden")).toBool());
+    const QString elsewhere = desk.seenAt({450, 100});
+    desk.click({450, 100});
+    QVERIFY(toldOnly(desk, elsewhere));
 }
 
 void MapPagePlacingTest::aDraftIsPlacedOnce_data() {
