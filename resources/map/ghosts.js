@@ -95,26 +95,18 @@ mapPage.ghosts = (() => {
             : Array.from({length: most}, (_, i) => all[Math.floor((i * all.length) / most)]);
     }
 
-    /** The dot as a picture, which is drawn faster than a circle. */
-    function dot(ground, ring) {
-        const dense = window.devicePixelRatio || 1;
-        const canvas = document.createElement("canvas");
-        canvas.width = canvas.height = Math.ceil((2 * size + 4) * dense);
-        const context = canvas.getContext("2d");
-        context.scale(dense, dense);
-        context.arc(size + 2, size + 2, size, 0, 2 * Math.PI);
+    /** In one go: a picture for each took fifty times as long where a processor draws. */
+    function drawAll(context, some, ground, ring) {
+        context.beginPath();
+        for (const {left, top} of some) {
+            context.moveTo(left + size, top);
+            context.arc(left, top, size, 0, 2 * Math.PI);
+        }
         context.fillStyle = ground;
         context.fill();
         context.lineWidth = 2;
         context.strokeStyle = ring;
         context.stroke();
-        return {canvas, side: canvas.width / dense};
-    }
-
-    function drawAll(context, some, {canvas, side}) {
-        for (const {left, top} of some) {
-            context.drawImage(canvas, left - side / 2, top - side / 2, side, side);
-        }
     }
 
     function paint(context, view) {
@@ -127,8 +119,8 @@ mapPage.ghosts = (() => {
         }
         const {accent, land, warning} = mapPage.look.colours;
         const shown = thinned(seen(view));
-        drawAll(context, shown.filter(({isFar}) => isFar), dot(`${land}a0`, warning));
-        drawAll(context, shown.filter(({isFar}) => !isFar), dot(`${accent}99`, `${land}e0`));
+        drawAll(context, shown.filter(({isFar}) => isFar), `${land}a0`, warning);
+        drawAll(context, shown.filter(({isFar}) => !isFar), `${accent}b3`, `${land}e0`);
     }
 
     mapPage.look.changed(() => layer.redraw());
