@@ -22,6 +22,8 @@ constexpr hours farthestZone{26};
 constexpr seconds sameMoment{60};
 /// Any offset is known no better than the stretch of offsets that fit as well is long.
 constexpr minutes closestFit{20};
+/// Clocks off by a half or a quarter hour are no commoner than those off by any minutes between.
+constexpr minutes partOfHourFit{30};
 
 /// By so many photos an offset must be ahead to be clearly better: a part of them, and some.
 std::size_t share(std::size_t photos, std::size_t percent) {
@@ -56,7 +58,7 @@ private:
         return putsMostOnTrack(one) && one.onTrack >= now_.onTrack + share(counts_.photos(), 25);
     }
     std::size_t margin() const { return share(counts_.photos(), 15); }
-    std::size_t little() const { return share(counts_.photos(), 5) - 1; }
+    std::size_t little() const { return (counts_.photos() + 49) / 50; }
 
     std::size_t meetings(seconds offset) const;
     std::optional<Candidate> byPlaced() const;
@@ -197,6 +199,10 @@ std::optional<Candidate> Judge::clearZone(Candidate &best) const {
     best = whole.winner;
     if (const auto tagged = taggedZone(); tagged && tagged->onTrack + margin() > best.onTrack) {
         return tagged;
+    }
+    const bool isWholeHour = best.offset % hours(1) == seconds(0);
+    if (!isWholeHour && any_.end - any_.begin > partOfHourFit) {
+        return std::nullopt;
     }
     const double bestOfAny = any_.share * static_cast<double>(counts_.photos());
     const bool isBest = static_cast<double>(best.onTrack + little()) > bestOfAny;

@@ -41,9 +41,10 @@ struct OffsetProposal {
 /// proposed only if at least three photos, more than half of all, and clearly more than now lie on
 /// the track with it. Whole, half and quarter hours up to 26 come first: a time zone or summer
 /// time is forgotten much more often than a clock runs wrong. One of them must beat all others
-/// clearly; where a long log leaves several as good, the zone that the photos' own tags tell
-/// decides, if it is among these. Else any offset is looked at, also one of years; it must beat all
-/// hours clearly, and its photos must fit the log so closely that it is known to some minutes.
+/// clearly, and half and quarter hours must fit the log closely; where a long log leaves several as
+/// good, the zone that the photos' own tags tell decides, if it is among these. Else any offset is
+/// looked at, also one of years; it must beat all hours clearly, and its photos must fit the log so
+/// closely that it is known to some minutes.
 ///
 /// Photos that have been placed overrule that: an offset under which most of them were where the
 /// track passed at that moment is proposed, to the second, if it puts more than half of the photos

@@ -185,6 +185,16 @@ void OffsetProposalTest::proposals_data() {
         "silent");
     row(
         "a log as good for several hours", [] { return longLog(12h); }, "silent");
+    row("a short walk, where a half hour is as good as the minutes around it",
+        change(outing(5h + 40min),
+               [](OffsetEvidence &it) {
+                   it.coverage = TrackCoverage(std::vector<Date>{dawn, dawn + 8min, dawn + 16min,
+                                                                 dawn + 24min, dawn + 30min});
+                   for (std::size_t i = 0; i < it.photos.size(); ++i) {
+                       it.photos[i] = dawn + 12min + seconds(i * 6) - (5h + 40min);
+                   }
+               }),
+        "silent");
     row("the zone tag decides",
         change(longLog(20h), [](OffsetEvidence &it) { it.impliedByTags.assign(40, 20h); }),
         "72000 s, 40 of 40");
