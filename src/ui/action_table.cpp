@@ -58,10 +58,19 @@ struct Table {
                   "The same for photos that have no position yet; the others stay where they are"},
         ActionRow{MatchPhoto, MenuName::Gps, "&Match Photo", "Ctrl+M", "",
                   "Give the selected photo the position of the track point nearest in time", true},
+        ActionRow{PlaceAtNearestPoint, MenuName::Gps, "&Nearest Point of the Log", "Ctrl+Shift+M",
+                  "", "Put the selected photo at the track point nearest in time; the clock stays"},
+        ActionRow{PlaceBetweenNeighbours, MenuName::Gps, "Place &Between Neighbours", "Ctrl+B", "",
+                  "Put the selected photos between the track points, or the photos, before and "
+                  "after them"},
         ActionRow{ToggleMarker, MenuName::Gps, "Add Mar&ker", "Ctrl+P", "marker",
                   "Place the selected photos on the map, or take their position away"},
         ActionRow{SetFromPosition, MenuName::Gps, "&Set Clock From This Position", "Ctrl+K", "",
                   "Set the camera clock by the track point nearest to the photo's position", true},
+        ActionRow{PickTrackPoint, MenuName::Gps, "Set Clock by a &Track Point on the Map…",
+                  "Ctrl+Shift+T", "",
+                  "Click on the map where one selected photo was taken; the clock is set by the "
+                  "nearest track point"},
         ActionRow{PhotoWasTakenAt, MenuName::Gps, "&Photo Was Taken At…", "Ctrl+T", "",
                   "Set the camera clock by one selected photo whose true time is known: it shows a "
                   "clock, for example"},

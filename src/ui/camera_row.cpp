@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 
 #include <utility>
@@ -70,9 +71,12 @@ CameraRow::CameraRow(Cameras &cameras, CameraInUse camera, Editing &editing, QWi
     grid->setColumnStretch(0, 1);
     grid->addWidget(title, 0, 0);
     grid->addWidget(own_, 0, 1, Qt::AlignRight);
-    grid->addWidget(photos_, 1, 0);
-    grid->addWidget(words_, 1, 1, Qt::AlignRight);
-    grid->addWidget(steppers_, 2, 0, 1, 2);
+    grid->addWidget(photos_, 1, 0, 1, 2);
+    auto *clock = new QHBoxLayout;
+    clock->setSpacing(2 * spacing);
+    clock->addWidget(steppers_);
+    clock->addWidget(words_, 1);
+    grid->addLayout(clock, 2, 0, 1, 2);
     hours_.maximum = 999'999;
     minutes_.maximum = 59;
     seconds_.maximum = 59;
@@ -117,6 +121,7 @@ void CameraRow::showClock() {
     own_->setChecked(shown_.hasOwnClock);
     steppers_->setVisible(shown_.hasOwnClock);
     words_->setText(wordsOf(shown_));
+    layout()->activate(); // the dialog asks for its size at once
 }
 
 } // namespace pinmora

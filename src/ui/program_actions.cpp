@@ -75,10 +75,13 @@ void ProgramActions::connectPhotos() {
     on(ApplyToAll, [this] { parts_.matcher.applyToAllPictures(); });
     on(ApplyToSelected, [this] { parts_.matcher.applyToSelected(); });
     on(ApplyToUnplaced, [this] { parts_.matcher.applyToPhotosWithoutPosition(); });
+    on(PlaceAtNearestPoint, [this] { parts_.neighbours.placeAtNearestPoint(); });
+    on(PlaceBetweenNeighbours, [this] { parts_.neighbours.placeBetweenNeighbours(); });
 }
 
 void ProgramActions::connectClock() {
     using enum ActionName;
+    bindings_.tie(parts_.pointPicking.pickPoint, actions_[PickTrackPoint]);
     bindings_.tie(parts_.trueTime.openButton, actions_[PhotoWasTakenAt]);
     on(ShowCameras, [this] { parts_.cameras.open(); });
 }
@@ -160,9 +163,11 @@ void ProgramActions::followSelection() {
 void ProgramActions::enableApplying() {
     using enum ActionName;
     const Counts &now = parts_.counts.counts.get();
-    const bool anySelected = !parts_.arrays.pictureArray.selectedObjects().empty();
+    const std::size_t selected = parts_.arrays.pictureArray.selectedObjects().size();
     actions_[ApplyToAll]->setEnabled(now.photos > 0 && now.points > 0);
-    actions_[ApplyToSelected]->setEnabled(anySelected && now.points > 0);
+    actions_[ApplyToSelected]->setEnabled(selected > 0 && now.points > 0);
+    actions_[PlaceAtNearestPoint]->setEnabled(selected == 1 && now.points > 0);
+    actions_[PlaceBetweenNeighbours]->setEnabled(selected > 0 && now.points + now.withPosition > 0);
     actions_[ApplyToUnplaced]->setEnabled(now.photos > now.withPosition && now.points > 0);
 }
 

@@ -123,6 +123,11 @@ private Q_SLOTS:
         QVERIFY(!desk.does(ApplyToSelected));
         desk.clickRow(2);
         QVERIFY(desk.does(ApplyToSelected) && desk.does(ApplyToUnplaced));
+        QVERIFY(desk.does(PickTrackPoint));
+        desk.action(PlaceAtNearestPoint)->trigger();
+        desk.settle();
+        QVERIFY(desk.photo(2).lat_and_lon());
+        desk.action(Undo)->trigger();
         desk.action(ApplyToSelected)->trigger();
         desk.settle();
         QVERIFY(desk.photo(2).lat_and_lon() && !desk.photo(0).lat_and_lon());
