@@ -13,6 +13,7 @@
 #include "ui/quiet_bar_widget.h"
 #include "ui/stored_bytes.h"
 #include "ui/theme.h"
+#include "ui/time_strip_widget.h"
 #include "ui/track_panel.h"
 
 #include <QMenuBar>
@@ -46,6 +47,7 @@ MainWindow::MainWindow(const WorkWindowParts &parts)
     setCentralWidget(surface);
     addLists();
     addTabs();
+    column->addWidget(new TimeStripWidget(subsystems_.timeStrip, surface));
     setStatusBar(new LibraryStatus(subsystems_.counts, subsystems_.placeNames.awaited,
                                    delegate_.interface.statusLine));
     addMenus();

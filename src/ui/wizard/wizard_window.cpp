@@ -9,6 +9,7 @@
 #include "ui/quiet_bar_widget.h"
 #include "ui/roles.h"
 #include "ui/theme.h"
+#include "ui/time_strip_widget.h"
 #include "ui/wizard/clock_page.h"
 #include "ui/wizard/details_column.h"
 #include "ui/wizard/end_tool.h"
@@ -42,6 +43,8 @@ WizardWindow::WizardWindow(const WorkWindowParts &parts)
     row->addWidget(makeContent(), 1);
     column->addLayout(row, 1);
     bar_ = new WizardBar(subsystems_.wizardOutlets, subsystems_.matching, subsystems_.counts);
+    strip_ = new TimeStripWidget(subsystems_.timeStrip, surface);
+    column->addWidget(strip_);
     column->addWidget(bar_);
     setCentralWidget(surface);
     setStatusBar(new LibraryStatus(subsystems_.counts, subsystems_.placeNames.awaited,
@@ -130,6 +133,8 @@ void WizardWindow::showPage() {
         }
     }
     shown.body->show();
+    strip_->setOffered(now == WizardPage::OffsetByMap || now == WizardPage::OffsetByLatLon ||
+                       now == WizardPage::OffsetByKnown || now == WizardPage::MatchAll);
     detailTools_->setVisible(now == WizardPage::OffsetByMap);
     showTexts();
     setUpdatesEnabled(true);

@@ -10,6 +10,7 @@ class QVBoxLayout;
 
 namespace pinmora {
 
+class TimeStripWidget;
 class WizardBar;
 class WizardSurface;
 
@@ -47,6 +48,7 @@ private:
     QLabel *words_ = nullptr;
     WizardSurface *surface_ = nullptr;
     WizardBar *bar_ = nullptr;
+    TimeStripWidget *strip_ = nullptr;
     QWidget *detailTools_ = nullptr;
 };
 
