@@ -41,8 +41,8 @@ public:
     /// Sent after the logs have been read again.
     Signal<> readAgain;
 
-    /// Whether it is not known yet in which reading the logs are to stay: an offer is on the bar, or
-    /// may come to be.
+    /// Whether it is not known yet in which reading the logs are to stay: an offer is on the bar,
+    /// or may come to be.
     bool isOpen() const { return isOffered_ || comparison_.isTrying(); }
     /// Sent when that may have changed.
     Signal<> changed;
