@@ -10,7 +10,9 @@
 namespace pinmora {
 
 PointPicking::PointPicking(Context &context, MapBridge &bridge, Outlets outlets, Picked picked)
-    : context_(context), bridge_(bridge), outlets_(outlets), picked_(std::move(picked)) {
+    : context_(context), bridge_(bridge), outlets_(outlets), picked_(std::move(picked)),
+      endOfTurn_([this] { pickPoint.enabled.set(canArm()); }) {
+    pickPoint.enabled.set(false);
     bridge.setClickTaker([this](const std::string &position) { return take(position); });
     connections_.push_back(pickPoint.pressed.connect([this] {
         if (armed_.get()) {
@@ -19,7 +21,11 @@ PointPicking::PointPicking(Context &context, MapBridge &bridge, Outlets outlets,
             arm();
         }
     }));
-    connections_.push_back(outlets.pictureArray.selectionChanged.connect([this] { disarm(); }));
+    connections_.push_back(outlets.pictureArray.selectionChanged.connect([this] {
+        disarm();
+        offer();
+    }));
+    offer();
     for (MapView *view : {&outlets.webView1, &outlets.webView2}) {
         connections_.push_back(armed_.onChange([this, view](bool) { tell(*view); }));
         connections_.push_back(view->loaded.connect([this, view] {

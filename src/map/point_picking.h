@@ -5,6 +5,7 @@
 #include "outlets/controls.h"
 #include "outlets/map_view.h"
 #include "outlets/observable.h"
+#include "platform/end_of_turn.h"
 
 #include <array>
 #include <functional>
@@ -36,7 +37,7 @@ public:
     PointPicking(const PointPicking &) = delete;
     PointPicking &operator=(const PointPicking &) = delete;
 
-    /// Arms it and disarms it again.
+    /// Arms it and disarms it again; enabled while there is something to arm it for.
     Button pickPoint;
 
     /// Whether the next click is the one.
@@ -45,6 +46,8 @@ public:
     /// Nothing where it cannot be.
     void arm() { armed_.set(canArm()); }
     void disarm() { armed_.set(false); }
+    /// Photos or tracks have come or gone: offers the button anew once all is at rest.
+    void offer() { endOfTurn_.ask(); }
 
 private:
     bool take(const std::string &position);
@@ -55,6 +58,7 @@ private:
     Outlets outlets_;
     Picked picked_;
     Observable<bool> armed_;
+    EndOfTurn endOfTurn_;
     std::vector<Connection> connections_;
 };
 

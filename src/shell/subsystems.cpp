@@ -164,6 +164,8 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
         clockOffset.turning.onChange([this](const std::optional<ClockTurn> &turn) {
             turnFeed.turned(turn ? std::optional(turn->by) : std::nullopt);
         }));
+    connections_.push_back(
+        counts.counts.onChange([this](const Counts &) { pointPicking.offer(); }));
     connections_.push_back(mapBridge.pointerWanted.connect([this] { inspector.sendPointer(); }));
 }
 

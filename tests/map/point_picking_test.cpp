@@ -77,6 +77,21 @@ private Q_SLOTS:
         desk.picking.arm();
         QVERIFY(!desk.picking.armed().get());
     }
+
+    void theButtonIsOfferedWhereItWorks() {
+        PickDesk desk;
+        const auto becomes = [&desk](bool enabled) {
+            return QTest::qWaitFor([&] { return desk.picking.pickPoint.enabled.get() == enabled; });
+        };
+        QVERIFY(becomes(true));
+        desk.pictureArray.setSelectedObjects({});
+        QVERIFY(becomes(false));
+        desk.pictureArray.select(&desk.photo);
+        QVERIFY(becomes(true));
+        desk.context.deleteObject(desk.point);
+        desk.picking.offer();
+        QVERIFY(becomes(false));
+    }
 };
 
 QTEST_GUILESS_MAIN(PointPickingTest)
