@@ -14,7 +14,7 @@
 namespace pinmora {
 namespace {
 
-constexpr int pictureHeight = 34 * spacing; // a clock on a wall can be read in it
+constexpr int photoHeight = 34 * spacing; // a clock on a wall can be read in it
 
 /// A time on the wall has no zone, and no hour that summer time skips.
 QDateTime shownIn(WallClock wall) {
@@ -49,7 +49,7 @@ TrueTimeDialog::TrueTimeDialog(TrueTime &trueTime, ImageWell &picture, Observabl
 
 void TrueTimeDialog::addPicture(ImageWell &picture, Observable<bool> &loading) {
     auto *view = new PictureView(picture, loading);
-    view->setFixedHeight(pictureHeight);
+    view->setFixedHeight(photoHeight);
     view->setAccessibleName(tr("The photo"));
     column()->addWidget(view);
     QLabel *const name = addText(Role::Quiet);
