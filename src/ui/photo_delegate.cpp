@@ -19,7 +19,7 @@ namespace {
 using Column = PhotoTableModel::Column;
 
 constexpr QSize pictureSize(52, 36); // 3:2 and 4:3 both lose little in it
-constexpr int cornerRadius = 3;
+constexpr int pictureCorner = 3;
 constexpr int linePadding = 6;
 
 /// Pictures of usual proportions fill the frame, others stand in it whole.
@@ -208,7 +208,7 @@ void PhotoDelegate::paintPicture(QPainter *painter, const QRect &cell,
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     QPainterPath path;
-    path.addRoundedRect(frame, cornerRadius, cornerRadius);
+    path.addRoundedRect(frame, pictureCorner, pictureCorner);
     painter->fillPath(path, colours().line);
     painter->setClipPath(path);
     if (picture && !picture->isNull()) {
