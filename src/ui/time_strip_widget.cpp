@@ -267,11 +267,11 @@ void TimeStripWidget::mouseReleaseEvent(QMouseEvent *event) {
 }
 
 void TimeStripWidget::endBand() {
-    const QRectF band = bandRect();
+    const auto [left, right] = std::minmax(pressed_.x(), pointer_.x());
     std::vector<image *> photos;
     for (const TimeStrip::Tick &tick : strip_.ticks()) {
         const double x = axis_.xOf(tick.at);
-        if (x >= band.left() && x <= band.right()) {
+        if (x >= left && x <= right) {
             photos.push_back(tick.photo);
         }
     }
