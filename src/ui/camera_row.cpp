@@ -26,7 +26,7 @@ QLabel *plainLabel(Role role) {
 
 /// "12 photos, 8 May 09:54:28 to 8 May 12:06:41"
 QString photosOf(const CameraInUse &camera) {
-    const QString photos = QString::fromStdString(counted(camera.photos, "photo", "photos"));
+    QString photos = QString::fromStdString(counted(camera.photos, "photo", "photos"));
     if (!camera.first) {
         return photos;
     }
