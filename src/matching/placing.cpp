@@ -19,7 +19,8 @@ void takePosition(image &photo, const track_part &point, std::optional<Date> cor
     photo.setLat(point.lat());
     photo.setLon(point.lon());
     photo.setPosition_source(PositionSource::log);
-    photo.setPosition_gap(corrected && point.time()
+    const bool tellsWhen = corrected && !photo.no_capture_time().value_or(false);
+    photo.setPosition_gap(tellsWhen && point.time()
                               ? std::optional(secondsTo(*point.time(), *corrected))
                               : std::nullopt);
 }

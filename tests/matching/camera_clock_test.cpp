@@ -139,6 +139,7 @@ private Q_SLOTS:
         }
         QCOMPARE(found, sources);
         QCOMPARE(far.position_gap(), std::optional(-3597.0));
+        QVERIFY(!untimed.position_gap());
         far.setPosition_source(PositionSource::typed);
         QVERIFY(!far.position_gap());
     }
