@@ -21,6 +21,10 @@ namespace {
 
 constexpr std::string_view matchAction = "Match Photo";
 
+bool tellsWhenTaken(const image &photo) {
+    return photo.date() && !photo.no_capture_time().value_or(false);
+}
+
 } // namespace
 
 Matcher::Matcher(Context &context, NotificationCentre &notifications, ClockOffset &clockOffset,
@@ -148,11 +152,11 @@ void Matcher::applyToPhotosWithoutPosition() {
 void Matcher::applyToTimed(std::vector<image *> photos) {
     ApplyOutcome untimed;
     std::erase_if(photos, [&untimed](const image *photo) {
-        const bool hasNoTime = photo->no_capture_time().value_or(false) || !photo->date();
-        if (hasNoTime) {
+        const bool isTimed = tellsWhenTaken(*photo);
+        if (!isTimed) {
             untimed.untimed.push_back(photo->serial());
         }
-        return hasNoTime;
+        return !isTimed;
     });
     ApplyOutcome outcome = applyTo(photos);
     outcome.untimed = std::move(untimed.untimed);
@@ -177,7 +181,8 @@ ApplyOutcome Matcher::applyTo(const std::vector<image *> &photos) {
 }
 
 void Matcher::place(image &photo, ApplyOutcome &outcome) {
-    if (photo.no_capture_time().value_or(false) || !photo.date()) {
+    const bool isTimed = tellsWhenTaken(photo);
+    if (!isTimed) {
         outcome.untimed.push_back(photo.serial());
     }
     const track_part *const point = getLatLonAlt(photo);
@@ -185,8 +190,7 @@ void Matcher::place(image &photo, ApplyOutcome &outcome) {
         return;
     }
     const std::optional<Date> corrected = correctedTime(photo, *outlets_.offsetObj.content());
-    const bool isUntimed = !outcome.untimed.empty() && outcome.untimed.back() == photo.serial();
-    if (!isUntimed && !points_.coverage().covers(*corrected)) {
+    if (isTimed && !points_.coverage().covers(*corrected)) {
         outcome.far.push_back(photo.serial());
     }
     placeAtWithAltitude(photo, *point, corrected);

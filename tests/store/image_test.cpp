@@ -181,8 +181,8 @@ private Q_SLOTS:
     /// Which keys are a person's work on the photo, and which only how it is shown or found.
     void changeFlag() {
         const QByteArrayList quiet =
-            QByteArray("zoom zoom_reset valid_file no_capture_time camera position_source "
-                       "full_file_path place_distance file_size")
+            QByteArray("zoom zoom_reset valid_file no_capture_time offset_time_original camera "
+                       "position_source position_gap full_file_path place_distance file_size")
                 .split(' ');
         int marking = 0;
         for (const Property &property : image::description().properties()) {
