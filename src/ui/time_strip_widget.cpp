@@ -267,7 +267,8 @@ void TimeStripWidget::mouseReleaseEvent(QMouseEvent *event) {
 }
 
 void TimeStripWidget::endBand() {
-    const auto [left, right] = std::minmax(pressed_.x(), pointer_.x());
+    const double left = std::min(pressed_.x(), pointer_.x());
+    const double right = std::max(pressed_.x(), pointer_.x());
     std::vector<image *> photos;
     for (const TimeStrip::Tick &tick : strip_.ticks()) {
         const double x = axis_.xOf(tick.at);

@@ -2,6 +2,7 @@
 #include "matching/desk.h"
 #include "outlets/editing.h"
 #include "outlets/image_well.h"
+#include "shell/clock_saying.h"
 #include "shell/detail_fields.h"
 #include "ui/clock_panel.h"
 #include "ui/coordinate_panel.h"
@@ -31,7 +32,8 @@ struct Panels : Desk {
         undoManager.removeAllActions();
         auto *column = new QVBoxLayout(&widget);
         column->addWidget(new CoordinatePanel(coordinates, addRemoveMarker));
-        column->addWidget(new ClockPanel(outlets, editing, [this] { matcher.guessFromLatLon(); }));
+        column->addWidget(
+            new ClockPanel(outlets, saying, editing, [this] { matcher.guessFromLatLon(); }));
         column->addWidget(new DetailsTab({.details = details,
                                           .picture = well,
                                           .pictureLoading = loading,
@@ -59,6 +61,7 @@ struct Panels : Desk {
     }
 
     Editing editing;
+    ClockSaying saying{context, outlets, clockOffset};
     CoordinateFields coordinates{context, degreeObj, pictureArray, editing};
     DetailFields details{context, pictureArray, editing};
     ImageWell well;
