@@ -1,13 +1,12 @@
 #include "services/map_grid.h"
 
+#include "services/sphere.h"
+
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace pinmora {
 namespace {
-
-constexpr double radian = std::numbers::pi / 180;
 
 /// Where Mercator maps of the world end, which makes them square.
 constexpr double mercatorEnd = 85.051128;
@@ -15,11 +14,11 @@ constexpr double mercatorEnd = 85.051128;
 /// 0 to 360.
 double mercatorHeight(double lat) {
     const double bounded = std::clamp(lat, -mercatorEnd, mercatorEnd);
-    return std::clamp(180 + std::asinh(std::tan(bounded * radian)) / radian, 0.0, 360.0);
+    return std::clamp(180 + std::asinh(std::tan(bounded * degree)) / degree, 0.0, 360.0);
 }
 
 double latitudeAt(double height) {
-    return std::atan(std::sinh((height - 180) * radian)) / radian;
+    return std::atan(std::sinh((height - 180) * degree)) / degree;
 }
 
 /// A longitude's distance to the east of the date line, 0 to below 360.

@@ -20,11 +20,13 @@ struct UnitVector {
     double z;
 };
 
+/// One degree in radians.
+inline constexpr double degree = std::numbers::pi / 180;
+
 inline UnitVector unitVector(Position position) {
-    constexpr double radian = std::numbers::pi / 180;
-    const double aroundEquator = std::cos(position.lat * radian);
-    return {aroundEquator * std::cos(position.lon * radian),
-            aroundEquator * std::sin(position.lon * radian), std::sin(position.lat * radian)};
+    const double aroundEquator = std::cos(position.lat * degree);
+    return {aroundEquator * std::cos(position.lon * degree),
+            aroundEquator * std::sin(position.lon * degree), std::sin(position.lat * degree)};
 }
 
 /// The square of the straight distance, 0 to 4; it grows with the distance along the surface.
