@@ -17,6 +17,11 @@ if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(pinmora_options INTERFACE
         -Wno-unknown-warning-option -Wno-subobject-linkage)
 endif()
+# Every test is a program that holds most of the libraries: linking them is a large part of a build.
+find_program(PINMORA_LLD ld.lld)
+if(PINMORA_LLD)
+    target_link_options(pinmora_options INTERFACE -fuse-ld=lld)
+endif()
 target_compile_definitions(pinmora_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CONTEXTLESS_CONNECT QT_NO_KEYWORDS)
 target_include_directories(pinmora_options INTERFACE "${CMAKE_SOURCE_DIR}/src")

@@ -47,8 +47,8 @@ bool loadPhotos(MemoryLibrary &library, LogList &logs, const Options &options,
 std::vector<Date> captureTimes(const std::vector<image *> &photos, const offset &clockOffset) {
     std::vector<Date> times;
     for (const image *photo : photos) {
-        if (photo->date() && !photo->no_capture_time().value_or(false)) {
-            times.push_back(*photo->date() + clockOffset.signedOffset());
+        if (const std::optional<Date> taken = photo->captureTime()) {
+            times.push_back(*taken + clockOffset.signedOffset());
         }
     }
     return times;

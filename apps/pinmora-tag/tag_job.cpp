@@ -51,7 +51,7 @@ PhotoLine placePhoto(image &photo, const offset &clockOffset, NearestPoints *poi
                      LocalZone &zone) {
     PhotoLine line{.file = photo.full_file_path().string()};
     const std::optional<Date> corrected = correctedTime(photo, clockOffset);
-    const bool hasTime = corrected && !photo.no_capture_time().value_or(false);
+    const bool hasTime = corrected && photo.captureTime();
     if (hasTime) {
         line.taken = zone.wallClockAt(*photo.date());
         line.corrected = zone.wallClockAt(*corrected);

@@ -42,8 +42,8 @@ PointPicking::~PointPicking() {
 
 bool PointPicking::canArm() const {
     const std::vector<image *> &selected = outlets_.pictureArray.selectedObjects();
-    return selected.size() == 1 && selected.front()->date() &&
-           !selected.front()->no_capture_time().value_or(false) && context_.count<track_part>() > 0;
+    return selected.size() == 1 && selected.front()->captureTime() &&
+           context_.count<track_part>() > 0;
 }
 
 /// Whatever else a page tells, a placement or that the person has given it up, ends it. A second

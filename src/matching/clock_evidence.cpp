@@ -70,10 +70,11 @@ OffsetEvidence gatherEvidence(const Context &context, NearestPoints &points,
     OffsetEvidence evidence{.photos = {}, .coverage = points.coverage(), .inForce = inForce};
     LocalZone zone;
     for (const image *photo : context.records<image>()) {
-        if (!photo->date() || photo->no_capture_time().value_or(false) || !goesByClock(*photo)) {
+        const std::optional<Date> taken = photo->captureTime();
+        if (!taken || !goesByClock(*photo)) {
             continue;
         }
-        evidence.photos.push_back(*photo->date());
+        evidence.photos.push_back(*taken);
         if (const auto implied = impliedOffset(*photo, zone)) {
             evidence.impliedByTags.push_back(*implied);
         }

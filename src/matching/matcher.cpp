@@ -21,10 +21,6 @@ namespace {
 
 constexpr std::string_view matchAction = "Match Photo";
 
-bool tellsWhenTaken(const image &photo) {
-    return photo.date() && !photo.no_capture_time().value_or(false);
-}
-
 } // namespace
 
 Matcher::Matcher(Context &context, NotificationCentre &notifications, ClockOffset &clockOffset,
@@ -152,7 +148,7 @@ void Matcher::applyToPhotosWithoutPosition() {
 void Matcher::applyToTimed(std::vector<image *> photos) {
     ApplyOutcome untimed;
     std::erase_if(photos, [&untimed](const image *photo) {
-        const bool isTimed = tellsWhenTaken(*photo);
+        const bool isTimed = photo->captureTime().has_value();
         if (!isTimed) {
             untimed.untimed.push_back(photo->serial());
         }
@@ -181,7 +177,7 @@ ApplyOutcome Matcher::applyTo(const std::vector<image *> &photos) {
 }
 
 void Matcher::place(image &photo, ApplyOutcome &outcome) {
-    const bool isTimed = tellsWhenTaken(photo);
+    const bool isTimed = photo.captureTime().has_value();
     if (!isTimed) {
         outcome.untimed.push_back(photo.serial());
     }

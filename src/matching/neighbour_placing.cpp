@@ -23,8 +23,8 @@ namespace {
 
 using Places = std::vector<TimedPlace>;
 
-std::optional<Date> captureTime(const image &photo, const offset &clock) {
-    return photo.no_capture_time().value_or(false) ? std::nullopt : correctedTime(photo, clock);
+std::optional<Date> correctedCaptureTime(const image &photo, const offset &clock) {
+    return photo.captureTime() ? correctedTime(photo, clock) : std::nullopt;
 }
 
 void sortByTime(Places &places) {
@@ -59,7 +59,7 @@ Places placesOfPhotos(const Context &context, const offset &clock,
     const std::unordered_set<const image *> left(without.begin(), without.end());
     Places places;
     for (const image *photo : context.records<image>()) {
-        const std::optional<Date> time = captureTime(*photo, clock);
+        const std::optional<Date> time = correctedCaptureTime(*photo, clock);
         const bool isWitness = time && !left.contains(photo) &&
                                photo->position_source().view() != PositionSource::estimated;
         if (const std::optional<TimedPlace> place =
@@ -114,7 +114,7 @@ void NeighbourPlacing::placeBetweenNeighbours() {
     {
         const UndoGroup group(context_, "Place Between Neighbours");
         for (image *photo : photos) {
-            const std::optional<Date> time = captureTime(*photo, *clock);
+            const std::optional<Date> time = correctedCaptureTime(*photo, *clock);
             std::optional<TimeNeighbours> around = time ? closestOf(*time, tracks) : std::nullopt;
             if (time && !around) {
                 around = neighboursOf(*time, others);
@@ -140,7 +140,7 @@ void NeighbourPlacing::placeAtNearestPoint() {
         return;
     }
     image &photo = *selected.front();
-    const std::optional<Date> time = captureTime(photo, *clock);
+    const std::optional<Date> time = correctedCaptureTime(photo, *clock);
     NeighbourOutcome outcome;
     if (const track_part *const point = time ? points_.inTime(*time) : nullptr) {
         const UndoGroup group(context_, "Place at Nearest Point");

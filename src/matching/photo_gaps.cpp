@@ -22,7 +22,7 @@ PhotoGaps::~PhotoGaps() {
 
 std::optional<std::chrono::seconds> PhotoGaps::gapOf(const image &photo) {
     const offset *const clock = offsetObj_.content();
-    if (!clock || photo.no_capture_time().value_or(false)) {
+    if (!clock || !photo.captureTime()) {
         return std::nullopt;
     }
     const std::optional<Date> corrected = correctedTime(photo, *clock);

@@ -19,7 +19,7 @@ void takePosition(image &photo, const track_part &point, std::optional<Date> cor
     photo.setLat(point.lat());
     photo.setLon(point.lon());
     photo.setPosition_source(PositionSource::log);
-    const bool tellsWhen = corrected && !photo.no_capture_time().value_or(false);
+    const bool tellsWhen = corrected && photo.captureTime();
     photo.setPosition_gap(tellsWhen && point.time()
                               ? std::optional(secondsTo(*point.time(), *corrected))
                               : std::nullopt);

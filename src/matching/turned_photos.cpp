@@ -15,7 +15,7 @@ std::vector<Date> timesByClock(const Context &context, const ClockOffset &clocks
     std::vector<Date> times;
     for (const image *photo : context.records<image>()) {
         const std::optional<Date> time = correctedTime(*photo, stored);
-        if (time && !photo->no_capture_time().value_or(false) && clocks.clockOf(*photo) == camera) {
+        if (time && photo->captureTime() && clocks.clockOf(*photo) == camera) {
             times.push_back(*time);
         }
     }

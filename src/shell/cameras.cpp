@@ -16,11 +16,10 @@ namespace {
 
 void count(CameraInUse &camera, const image &photo) {
     ++camera.photos;
-    if (!photo.date() || photo.no_capture_time().value_or(false)) {
-        return;
+    if (const std::optional<Date> taken = photo.captureTime()) {
+        camera.first = std::min(camera.first.value_or(*taken), *taken);
+        camera.last = std::max(camera.last.value_or(*taken), *taken);
     }
-    camera.first = std::min(camera.first.value_or(*photo.date()), *photo.date());
-    camera.last = std::max(camera.last.value_or(*photo.date()), *photo.date());
 }
 
 /// What two have in common does not tell which is which.

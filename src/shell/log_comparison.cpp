@@ -101,8 +101,8 @@ std::vector<Date> LogComparison::captureTimes() const {
     const offset *const clock = offsetObj_.content();
     std::vector<Date> times;
     for (const image *photo : context_.records<image>()) {
-        if (photo->date() && !photo->no_capture_time().value_or(false)) {
-            times.push_back(clock ? *correctedTime(*photo, *clock) : *photo->date());
+        if (const std::optional<Date> taken = photo->captureTime()) {
+            times.push_back(clock ? *correctedTime(*photo, *clock) : *taken);
         }
     }
     return times;

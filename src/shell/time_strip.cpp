@@ -15,14 +15,6 @@
 
 namespace pinmora {
 
-namespace {
-
-bool tellsWhen(const image &photo) {
-    return photo.date() && !photo.no_capture_time().value_or(false);
-}
-
-} // namespace
-
 TimeStrip::TimeStrip(Context &context, LibraryArrays &arrays, PhotoGaps &gaps,
                      ClockOffset &clockOffset, Matcher &matcher,
                      std::function<void()> selectionChanged)
@@ -113,7 +105,7 @@ void TimeStrip::gatherTicks() {
     turned_.reset();
     std::map<std::string, std::chrono::seconds, std::less<>> clocks;
     for (image *photo : arrays_.pictureArray.arrangedObjects()) {
-        if (tellsWhen(*photo)) {
+        if (photo->captureTime()) {
             const std::string camera = clockOffset_.clockOf(*photo);
             auto clock = clocks.find(camera);
             if (clock == clocks.end()) {
@@ -232,7 +224,7 @@ void TimeStrip::step(std::chrono::seconds by) {
 
 bool TimeStrip::canSetFromMoment() {
     const auto &selected = arrays_.pictureArray.selectedObjects();
-    return selected.size() == 1 && tellsWhen(*selected.front()) &&
+    return selected.size() == 1 && selected.front()->captureTime() &&
            !gaps_.coverage().stretches().empty();
 }
 

@@ -30,9 +30,7 @@ TrueTime::TrueTime(MatchingOutlets &matching, Matcher &matcher, WorkingWindow wo
 image *TrueTime::photoInHand() const {
     const std::vector<image *> &photos = matching_.pictureArray.selectedObjects();
     const bool isOne = photos.size() == 1 && matching_.offsetObj.content();
-    return isOne && photos.front()->date() && !photos.front()->no_capture_time().value_or(false)
-               ? photos.front()
-               : nullptr;
+    return isOne && photos.front()->captureTime() ? photos.front() : nullptr;
 }
 
 void TrueTime::open() {

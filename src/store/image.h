@@ -69,6 +69,10 @@ public:
     void setNo_capture_time(std::optional<bool> none) {
         change("no_capture_time", no_capture_time_, none);
     }
+    /// `date` where it is what the photo tells; nothing where it is only the moment of loading.
+    std::optional<Date> captureTime() const {
+        return no_capture_time().value_or(false) ? std::nullopt : date();
+    }
 
     /// The time zone that the photo itself tells for its capture time, "+02:00" (Exif
     /// OffsetTimeOriginal).

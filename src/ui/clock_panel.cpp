@@ -142,7 +142,7 @@ void ClockPanel::showTimes() {
     }
     const image &photo = *photos.front();
     const std::string &corrected = outlets_.offsetText.text.get();
-    const bool isTold = photo.date() && !photo.no_capture_time().value_or(false);
+    const bool isTold = photo.captureTime().has_value();
     const bool isOne = photos.size() == 1;
     taken_->setText(
         !isOne    ? tr("%1 photos").arg(QLocale().toString(static_cast<qulonglong>(photos.size())))

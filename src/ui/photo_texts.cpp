@@ -35,13 +35,8 @@ QString rounded(const Text &text, int decimals) {
     return number ? QString::number(*number, 'f', decimals) : textOf(text.view());
 }
 
-bool hasCaptureTime(const image &photo) {
-    return photo.date() && !photo.no_capture_time().value_or(false);
-}
-
 QString takenWithYear(const image &photo) {
-    return hasCaptureTime(photo) ? QString::fromStdString(photo.time_string()).trimmed()
-                                 : QString();
+    return photo.captureTime() ? QString::fromStdString(photo.time_string()).trimmed() : QString();
 }
 
 } // namespace
@@ -53,7 +48,7 @@ QString name(const image &photo) {
 }
 
 QString taken(const image &photo) {
-    return hasCaptureTime(photo) ? shortTime(*photo.date()) : QString();
+    return photo.captureTime() ? shortTime(*photo.date()) : QString();
 }
 
 QString position(const image &photo) {
