@@ -25,17 +25,11 @@ endif()
 target_compile_definitions(pinmora_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CONTEXTLESS_CONNECT QT_NO_KEYWORDS)
 target_include_directories(pinmora_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
-if(PINMORA_SANITIZE OR PINMORA_FUZZ)
+if(PINMORA_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    target_compile_options(pinmora_options INTERFACE ${sanitizers})
+    target_compile_options(pinmora_options INTERFACE ${sanitizers} -fsanitize=fuzzer-no-link)
     target_link_options(pinmora_options INTERFACE ${sanitizers})
     target_compile_definitions(pinmora_options INTERFACE _GLIBCXX_ASSERTIONS)
-    # GCC sees uninitialized values in the sanitized code of its own <regex>.
-    target_compile_options(pinmora_options INTERFACE
-        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
-endif()
-if(PINMORA_FUZZ)
-    target_compile_options(pinmora_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 set(CMAKE_CXX_EXTENSIONS OFF)

@@ -15,10 +15,11 @@ mapPage.ghosts = (() => {
     let points = null; // all tracks' points in the order of their times: {time, x, y}
     const layer = new mapPage.CanvasLayer(paint, {pane: "ghosts"});
 
-    /** Points of one log come in order already, and those of several mostly log after log. */
+    /** Points of one log come in order already, and those of several log after log as a rule. */
     function pointsByTime(tracks) {
         const all = tracks.map((track) => ({
-            track, count: Math.min(track.x.length, track.time?.length ?? 0)}));
+            track, count: Math.min(track.x.length, track.time?.length ?? 0)}))
+            .sort((a, b) => (a.track.time?.[0] ?? 0) - (b.track.time?.[0] ?? 0));
         const count = all.reduce((sum, one) => sum + one.count, 0);
         const found = {time: new Float64Array(count), x: new Float64Array(count),
                        y: new Float64Array(count)};

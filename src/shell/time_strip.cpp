@@ -214,7 +214,9 @@ std::string TimeStrip::turnWords() const {
     if (!turn) {
         return {};
     }
-    return shortOffset(turn->by) + " → " + shortOffset(clockOffset_.clock(turn->camera) + turn->by);
+    const std::chrono::seconds before = clockOffset_.clock(turn->camera);
+    const std::string by = shortOffset(turn->by);
+    return before.count() == 0 ? by : by + " → " + shortOffset(before + turn->by);
 }
 
 void TimeStrip::step(std::chrono::seconds by) {

@@ -75,8 +75,8 @@ public:
     void letGo();
     void cancel();
     bool isTurning() const;
-    /// "+1 h 02 min 10 s → +2 h 00 min 10 s": the turn, and the offset that comes of it; "" when
-    /// nothing is being turned.
+    /// "+1 h 02 min 10 s → +2 h 00 min 10 s": the turn, and the offset that comes of it where it is
+    /// another; "" when nothing is being turned.
     std::string turnWords() const;
     /// Turns the clock that the controls show, as one step of undo.
     void step(std::chrono::seconds by);

@@ -70,7 +70,8 @@ struct Table {
         ActionRow{PickTrackPoint, MenuName::Gps, "Set Clock by a &Track Point on the Map…",
                   "Ctrl+Shift+T", "",
                   "Click on the map where one selected photo was taken; the clock is set by the "
-                  "nearest track point"},
+                  "nearest track point",
+                  false, true},
         ActionRow{PhotoWasTakenAt, MenuName::Gps, "&Photo Was Taken At…", "Ctrl+T", "",
                   "Set the camera clock by one selected photo whose true time is known: it shows a "
                   "clock, for example"},

@@ -7,6 +7,7 @@
 #include "ui/help_actions.h"
 #include "ui/look_setting.h"
 #include "ui/photo_panel.h"
+#include "ui/picking_escape.h"
 #include "ui/undo_keys.h"
 #include "ui/work_window.h"
 
@@ -81,7 +82,13 @@ void ProgramActions::connectPhotos() {
 
 void ProgramActions::connectClock() {
     using enum ActionName;
-    bindings_.tie(parts_.pointPicking.pickPoint, actions_[PickTrackPoint]);
+    QAction *const pick = actions_[PickTrackPoint];
+    bindings_.tie(parts_.pointPicking.pickPoint, pick);
+    // After a press, too, which ticks it even where it cannot be armed.
+    const auto tick = [this, pick](bool) { pick->setChecked(parts_.pointPicking.armed().get()); };
+    bindings_.watch(parts_.pointPicking.armed(), tick);
+    connect(pick, &QAction::triggered, this, tick);
+    new PickingEscape(parts_.pointPicking, this);
     bindings_.tie(parts_.trueTime.openButton, actions_[PhotoWasTakenAt]);
     on(ShowCameras, [this] { parts_.cameras.open(); });
 }

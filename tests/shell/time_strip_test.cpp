@@ -112,7 +112,7 @@ private Q_SLOTS:
         desk.strip().grasp(*desk.far);
         desk.strip().turnTo(9min);
         desk.strip().turnTo(15min);
-        QCOMPARE(desk.strip().turnWords(), std::string("+15 min → +15 min"));
+        QCOMPARE(desk.strip().turnWords(), std::string("+15 min"));
         QVERIFY(desk.moved(desk.far) == 15min && desk.moved(desk.on) == 15min);
         QVERIFY(!desk.tick(desk.far).far);
         QVERIFY(desk.parts().clockOffset.clock("") == 0s); // nothing is stored yet
@@ -124,6 +124,10 @@ private Q_SLOTS:
         desk.strip().letGo();
         undo.closeStep();
         QVERIFY(desk.parts().clockOffset.clock("") == 15min);
+        desk.strip().grasp(*desk.far);
+        desk.strip().turnTo(-20min);
+        QCOMPARE(desk.strip().turnWords(), std::string("−20 min → −5 min"));
+        desk.strip().cancel();
         desk.strip().step(-1h);
         undo.closeStep();
         QVERIFY(desk.moved(desk.far) == -45min);

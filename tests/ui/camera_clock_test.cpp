@@ -124,6 +124,12 @@ private Q_SLOTS:
         desk.clickRow(2);
         QVERIFY(desk.does(ApplyToSelected) && desk.does(ApplyToUnplaced));
         QVERIFY(desk.does(PickTrackPoint));
+        desk.action(PickTrackPoint)->trigger();
+        QVERIFY(desk.parts().pointPicking.armed().get());
+        QVERIFY(desk.action(PickTrackPoint)->isChecked());
+        QTest::keyClick(desk.photoTable(), Qt::Key_Escape);
+        QVERIFY(!desk.parts().pointPicking.armed().get());
+        QVERIFY(!desk.action(PickTrackPoint)->isChecked());
         desk.action(PlaceAtNearestPoint)->trigger();
         desk.settle();
         QVERIFY(desk.photo(2).lat_and_lon());
