@@ -2,6 +2,7 @@
 
 #include "matching/reading_comparison.h"
 #include "photos/photos.h"
+#include "platform/translation.h"
 #include "store/image.h"
 #include "store/track.h"
 
@@ -17,29 +18,35 @@ bool loadPhotos(MemoryLibrary &library, LogList &logs, const Options &options,
                 const Surroundings &surroundings) {
     const PhotoTypes types;
     Photos photos(library.context, logs, types);
-    const Connection counting = photos.photoLoaded.connect(
-        [&](std::size_t count) { surroundings.progress("Reading photo", count, 0); });
+    const Connection counting = photos.photoLoaded.connect([&](std::size_t count) {
+        surroundings.progress(
+            filled(translated("tag", "Reading photo %1"), {std::to_string(count)}));
+    });
     bool allUsed = true;
     for (const std::filesystem::path &path : options.paths) {
         std::error_code error;
         if (std::filesystem::exists(path, error)) {
             photos.processThisPath(path.native());
         } else {
-            surroundings.tell(path.native() + ": " +
-                              (error ? error.message() : "there is no such file or folder"));
+            surroundings.tell(
+                error ? filled(translated("tag", "%1: %2"), {path.native(), error.message()})
+                      : filled(translated("tag", "%1: there is no such file or folder"),
+                               {path.native()}));
             allUsed = false;
         }
     }
 
     const IntakeReport &report = photos.report();
     for (const LeftOutFile &file : report.leftOut) {
-        surroundings.tell(file.path + ": left out: " + std::string(reasonText(file.why)));
+        surroundings.tell(
+            filled(translated("tag", "%1: left out: %2"), {file.path, reasonText(file.why)}));
     }
     for (const UnreadFolder &folder : report.unreadFolders) {
-        surroundings.tell(folder.path + ": this folder cannot be read: " + folder.error.message());
+        surroundings.tell(filled(translated("tag", "%1: this folder cannot be read: %2"),
+                                 {folder.path, folder.error.message()}));
     }
     for (const std::string &path : report.logsPassedOver) {
-        surroundings.tell(path + ": passed over, it is no GPS log");
+        surroundings.tell(filled(translated("tag", "%1: passed over, it is no GPS log"), {path}));
     }
     return allUsed && report.leftOut.empty() && report.unreadFolders.empty();
 }
@@ -85,8 +92,8 @@ LogList::Outcome loadLogs(MemoryLibrary &library, const LogList &logs,
         tolerantFitsBetter(library, logs, photoTimes, surroundings)) {
         removeTracks(library.context);
         outcome = logs.load(library.gps, LogReading::Tolerant, surroundings);
-        surroundings.tell("the logs are read as tolerant: as exact, they place no photo within 5 "
-                          "minutes of a point");
+        surroundings.tell(translated("tag", "the logs are read as tolerant: as exact, they place "
+                                            "no photo within 5 minutes of a point"));
     }
     return outcome;
 }
@@ -97,15 +104,17 @@ bool tellOfLogs(const LogList::Outcome &outcome, const Surroundings &surrounding
     for (const LogReport &report : outcome.reports) {
         const std::string unusable = report.unusableText();
         if (report.failed()) {
-            surroundings.tell(report.path.native() + ": Error! " + report.message);
+            surroundings.tell(
+                filled(translated("tag", "%1: Error! %2"), {report.path.native(), report.message}));
             allRead = false;
         }
         if (!unusable.empty()) {
-            surroundings.tell(report.path.native() + ": " + unusable);
+            surroundings.tell(
+                filled(translated("tag", "%1: %2"), {report.path.native(), unusable}));
         }
     }
     for (const std::string &path : outcome.passedOver) {
-        surroundings.tell(path + ": passed over, it is no GPS log");
+        surroundings.tell(filled(translated("tag", "%1: passed over, it is no GPS log"), {path}));
     }
     return allRead;
 }

@@ -3,6 +3,7 @@
 #include "gps/gps.h"
 #include "gps/log_file_types.h"
 #include "gps/log_head.h"
+#include "platform/translation.h"
 
 #include <filesystem>
 #include <system_error>
@@ -40,7 +41,8 @@ LogList::Outcome LogList::load(Gps &gps, LogReading reading,
     gps.beginLoad();
     for (std::size_t i = 0; i < logs_.size(); ++i) {
         const Log &log = logs_[i];
-        surroundings.progress("Reading log", i + 1, logs_.size());
+        surroundings.progress(filled(translated("tag", "Reading log %1 of %2"),
+                                     {std::to_string(i + 1), std::to_string(logs_.size())}));
         if (log.foundByScan && !looksLikeLog(log.path, reading)) {
             outcome.passedOver.push_back(log.path);
         } else {

@@ -5,6 +5,7 @@
 
 #include "places/place_settings.h"
 #include "platform/defaults.h"
+#include "platform/translation.h"
 #include "services/local_server.h"
 
 #include <QCoreApplication>
@@ -33,14 +34,10 @@ public:
         std::cerr << "pinmora-tag: " << terminalText(line) << '\n';
     }
 
-    void progress(std::string_view what, std::size_t done, std::size_t of) {
+    void progress(const std::string &text) {
         if (isTerminal_) {
             clear();
-            std::cerr << what << ' ' << done;
-            if (of > 0) {
-                std::cerr << " of " << of;
-            }
-            std::cerr << std::flush;
+            std::cerr << text << std::flush;
             lineIsUsed_ = true;
         }
     }
@@ -80,13 +77,12 @@ int tagPhotos(const Options &options, const std::filesystem::path &resources) {
                             .logReading = defaults.text("logReading"),
                             .tool = toolSettingsFrom(defaults),
                             .tell = [&](const std::string &line) { console.tell(line); },
-                            .progress = [&](std::string_view what, std::size_t done,
-                                            std::size_t of) { console.progress(what, done, of); },
+                            .progress = [&](const std::string &text) { console.progress(text); },
                             .stopped = [] { return stopRequests != 0; }});
     console.clear();
     std::cout << (options.json ? jsonText(report) : tableText(report)) << std::flush;
     if (!std::cout) {
-        console.tell("the report could not be written");
+        console.tell(translated("tag", "the report could not be written"));
         return 1;
     }
     return exitStatus(report);

@@ -1,5 +1,9 @@
 #include "options.h"
 
+#include "help.h"
+
+#include "platform/translation.h"
+
 #include <getopt.h>
 
 #include <array>
@@ -9,39 +13,6 @@
 namespace pinmora::tag {
 
 namespace {
-
-constexpr std::string_view help =
-    R"(Usage: pinmora-tag [OPTION]... --out DIR PATH...
-
-Gives every photo the position of the GPS track point nearest in time and the
-names of the place there, and saves tagged copies. The photos themselves are never changed.
-
-PATHs are photos, folders of photos (one level deep) and GPS logs; logs found in
-a folder are read too.
-
-  --gps FILE              a GPS log: GPX or NMEA; may be given several times
-  --offset [+|-]H:M:S     what the camera's clock lacks; added to the photos' times
-                          (or with - taken off) before they are compared
-  --name BASE             save the copies as BASE_1, BASE_2, ... in order of time
-  --logs auto|exact|tolerant
-                          how logs are read. exact: whole-second times, read as
-                          clock time; tolerant: any time form, universal time,
-                          modern receivers, gaps in the log. auto (the default)
-                          takes your setting, and tolerant where only that fits
-  --lane process|shared   how ExifTool is run. process: anew for each photo; shared:
-                          a few that are kept open, which is much faster. Without
-                          it your setting holds, which is process at first
-  --no-places             do not look up city, province and country of the new
-                          positions; your setting may say so too
-  --out DIR               the folder for the copies; made if it is missing.
-                          Nothing in it is ever replaced
-  --dry-run               say what would be done, and save nothing
-  --json                  print one JSON document instead of the table
-  --help, --version
-
-Exit status: 0 all done; 1 a photo failed or found no track point, or something
-that was named could not be read; 2 wrong usage.
-)";
 
 enum Option { Gps = 1000, Offset, Name, Logs, Lane, NoPlaces, Out, DryRun, Json, Help, Version };
 
@@ -88,7 +59,8 @@ std::optional<std::chrono::seconds> parseOffset(std::string_view text) {
 }
 
 Usage wrongUsage(const std::string &what) {
-    return {"pinmora-tag: " + what + "\nTry 'pinmora-tag --help'.\n", true};
+    return {"pinmora-tag: " + what + "\n" + translated("tag", "Try 'pinmora-tag --help'.") + "\n",
+            true};
 }
 
 /// Takes one option over; says what is wrong with it, if anything.
@@ -102,12 +74,13 @@ std::optional<Usage> take(int which, const char *argument, Options &into) {
         if (const auto offset = parseOffset(text)) {
             into.offset = *offset;
         } else {
-            return wrongUsage("--offset wants [+|-]H:M:S, not \"" + std::string(text) + "\"");
+            return wrongUsage(
+                filled(translated("tag", "--offset wants [+|-]H:M:S, not \"%1\""), {text}));
         }
         break;
     case Name:
         if (text.empty() || text.find('/') != std::string_view::npos) {
-            return wrongUsage("--name wants a file name, without \"/\"");
+            return wrongUsage(translated("tag", "--name wants a file name, without \"/\""));
         }
         into.name = text;
         break;
@@ -117,14 +90,15 @@ std::optional<Usage> take(int which, const char *argument, Options &into) {
                            : text == "exact" ? LogsChoice::Exact
                                              : LogsChoice::Tolerant;
         } else {
-            return wrongUsage("--logs wants auto, exact or tolerant, not \"" + std::string(text) +
-                              "\"");
+            return wrongUsage(filled(
+                translated("tag", "--logs wants auto, exact or tolerant, not \"%1\""), {text}));
         }
         break;
     case Lane:
         into.lane = laneNamed(text);
         if (!into.lane) {
-            return wrongUsage("--lane wants process or shared, not \"" + std::string(text) + "\"");
+            return wrongUsage(
+                filled(translated("tag", "--lane wants process or shared, not \"%1\""), {text}));
         }
         break;
     case NoPlaces:
@@ -140,11 +114,11 @@ std::optional<Usage> take(int which, const char *argument, Options &into) {
         into.json = true;
         break;
     case Help:
-        return Usage{std::string(help)};
+        return Usage{helpText()};
     case Version:
         return Usage{"pinmora-tag " PINMORA_VERSION "\n"};
     default:
-        return wrongUsage("there is no such option, or its value is missing");
+        return wrongUsage(translated("tag", "there is no such option, or its value is missing"));
     }
     return std::nullopt;
 }
@@ -173,8 +147,9 @@ std::variant<Options, Usage> parseCommandLine(std::vector<std::string> arguments
             const bool isLetter = which == '?' && optopt > 0 && optopt < 0x80;
             const std::string culprit = isLetter ? std::string{'-', static_cast<char>(optopt)}
                                                  : pointers[static_cast<std::size_t>(optind - 1)];
-            return wrongUsage(which == ':' ? culprit + " wants a value"
-                                           : "no such option: " + culprit);
+            return wrongUsage(which == ':'
+                                  ? filled(translated("tag", "%1 wants a value"), {culprit})
+                                  : filled(translated("tag", "no such option: %1"), {culprit}));
         }
         if (auto usage = take(which, optarg, result)) {
             return *usage;
@@ -184,10 +159,10 @@ std::variant<Options, Usage> parseCommandLine(std::vector<std::string> arguments
         result.paths.emplace_back(pointers[static_cast<std::size_t>(i)]);
     }
     if (result.paths.empty()) {
-        return wrongUsage("which photos? Give their files or a folder");
+        return wrongUsage(translated("tag", "which photos? Give their files or a folder"));
     }
     if (result.out.empty()) {
-        return wrongUsage("where to? Give a folder with --out");
+        return wrongUsage(translated("tag", "where to? Give a folder with --out"));
     }
     return result;
 }

@@ -1,5 +1,7 @@
 #include "place_lookup.h"
 
+#include "platform/translation.h"
+
 #include <QEventLoop>
 #include <QTimer>
 
@@ -26,7 +28,8 @@ void PlaceLookup::wait() {
     }
     QEventLoop loop;
     const Connection arriving = names_->awaited.onChange([&](std::size_t left) {
-        surroundings_.progress("Looking up places", all - left, all);
+        surroundings_.progress(filled(translated("tag", "Looking up places %1 of %2"),
+                                      {std::to_string(all - left), std::to_string(all)}));
         if (left == 0) {
             loop.quit();
         }

@@ -3,12 +3,10 @@
 #include "places/place_service.h"
 #include "saving/tool_settings.h"
 
-#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace pinmora::tag {
 
@@ -20,8 +18,7 @@ struct Surroundings {
     std::optional<std::string> logReading;         ///< the person's setting: "exact" or "tolerant"
     ToolSettings tool;                             ///< the person's settings
     std::function<void(const std::string &)> tell; ///< one line for the person, without line end
-    /// How far the work has come; `of` is 0 where the end is not known.
-    std::function<void(std::string_view what, std::size_t done, std::size_t of)> progress;
+    std::function<void(const std::string &)> progress; ///< how far the work has come
     std::function<bool()> stopped; ///< whether the person wants no further photo to be begun
 };
 

@@ -3,6 +3,7 @@
 #include "shown_text.h"
 
 #include "matching/reading_comparison.h"
+#include "platform/translation.h"
 
 #include <QString>
 #include <QStringList>
@@ -26,9 +27,29 @@ QString fileName(const std::string &path) {
     return toQString(terminalText(std::filesystem::path(path).filename().native()));
 }
 
-QString shownTime(const std::optional<WallClock> &time, const char *without) {
-    return time ? toQString(textFromWallClock(*time, "%Y-%m-%d %H:%M:%S"))
-                : QString::fromUtf8(without);
+QString shownTime(WallClock time) {
+    return toQString(textFromWallClock(time, "%Y-%m-%d %H:%M:%S"));
+}
+
+Row headings() {
+    const std::array<std::string, columns> words{
+        translated("tag", "Name"),
+        //: heading: when a photo was taken
+        translated("tag", "Taken"),
+        //: heading: when a photo was taken by a clock that is right
+        translated("tag", "Corrected"),
+        translated("tag", "Position"),
+        translated("tag", "Altitude"),
+        //: heading: the names of the place where a photo was taken
+        translated("tag", "Place"),
+        //: heading: how far a photo and its track point are apart in time
+        translated("tag", "Apart"),
+        //: heading: the copy's file name
+        translated("tag", "Saved as"),
+    };
+    Row row;
+    std::ranges::transform(words, row.begin(), toQString);
+    return row;
 }
 
 /// "Zürich, Zurich, Switzerland", without what is not known.
@@ -43,8 +64,8 @@ Row rowOf(const PhotoLine &photo) {
     const bool hasPosition = !photo.lat.empty() && !photo.lon.empty();
     return {
         fileName(photo.file),
-        shownTime(photo.taken, "no capture time"),
-        shownTime(photo.corrected, ""),
+        photo.taken ? shownTime(*photo.taken) : toQString(translated("tag", "no capture time")),
+        photo.corrected ? shownTime(*photo.corrected) : QString(),
         hasPosition ? toQString(terminalText(photo.lat + ", " + photo.lon)) : QStringLiteral("-"),
         photo.alt.empty() ? QString()
                           : toQString(terminalText(photo.alt)).trimmed() + QStringLiteral(" m"),
@@ -67,41 +88,77 @@ QString lineOf(const Row &row, const std::array<qsizetype, columns> &widths) {
     return line + u'\n';
 }
 
-/// "8 photos: 6 saved, 1 unmatched, 1 failed. 2 tracks, 900 points."
-QString summaryOf(const Report &report) {
-    QStringList parts;
+std::string countOf(Status status, std::size_t count) {
+    switch (status) {
+    case Status::Saved:
+        return translated("tag", "%n saved", "%n saved", count);
+    case Status::Matched:
+        return translated("tag", "%n matched", "%n matched", count);
+    case Status::Unmatched:
+        return translated("tag", "%n unmatched", "%n unmatched", count);
+    case Status::Failed:
+        break;
+    }
+    return translated("tag", "%n failed", "%n failed", count);
+}
+
+/// "8 photos: 6 saved, 1 unmatched, 1 failed"
+std::string photosText(const std::vector<PhotoLine> &photos) {
+    std::string parts;
     for (const Status status :
          {Status::Saved, Status::Matched, Status::Unmatched, Status::Failed}) {
-        const auto count =
-            std::count_if(report.photos.begin(), report.photos.end(),
-                          [status](const PhotoLine &photo) { return photo.status == status; });
+        const auto count = std::ranges::count(photos, status, &PhotoLine::status);
         if (count > 0) {
-            parts << QStringLiteral("%1 %2").arg(count).arg(toQString(statusName(status)));
+            parts.append(parts.empty() ? "" : ", ")
+                .append(countOf(status, static_cast<std::size_t>(count)));
         }
     }
+    const std::string all = translated("tag", "%n photos", "%n photo", photos.size());
+    return parts.empty() ? all : filled(translated("tag", "%1: %2"), {all, parts});
+}
+
+/// "8 photos: 6 saved, 1 unmatched, 1 failed. 2 tracks, 900 points."
+std::string summaryOf(const Report &report) {
     const auto far =
         std::count_if(report.photos.begin(), report.photos.end(), [](const PhotoLine &photo) {
             return photo.secondsApart && std::chrono::seconds(*photo.secondsApart) > sameOuting;
         });
-    return QStringLiteral("%1 photos%2. %3 tracks, %4 points.\n")
-               .arg(report.photos.size())
-               .arg(parts.isEmpty() ? QString()
-                                    : QStringLiteral(": ") + parts.join(QStringLiteral(", ")))
-               .arg(report.tracks)
-               .arg(report.points) +
-           (far == 0 ? QString()
-                     : QStringLiteral("%1 of them more than %2 minutes from the nearest point.\n")
-                           .arg(far)
-                           .arg(std::chrono::floor<std::chrono::minutes>(sameOuting).count()));
+    //: %1 counts the photos, %2 the tracks, %3 the points, each with its word
+    std::string text = filled(translated("tag", "%1. %2, %3."),
+                              {photosText(report.photos),
+                               translated("tag", "%n tracks", "%n track", report.tracks),
+                               translated("tag", "%n points", "%n point", report.points)}) +
+                       '\n';
+    if (far > 0) {
+        const auto minutes = std::chrono::floor<std::chrono::minutes>(sameOuting).count();
+        text += filled(translated("tag", "%n of them more than %1 minutes from the nearest point.",
+                                  "%n of them more than %1 minutes from the nearest point.",
+                                  static_cast<std::size_t>(far)),
+                       {std::to_string(minutes)}) +
+                '\n';
+    }
+    return text;
+}
+
+/// What there is to say of a photo, and first how it went where that is not as it should be.
+std::string remarkOn(const PhotoLine &photo) {
+    const std::string message = terminalText(photo.message);
+    switch (photo.status) {
+    case Status::Unmatched:
+        return filled(translated("tag", "unmatched: %1"), {message});
+    case Status::Failed:
+        return filled(translated("tag", "failed: %1"), {message});
+    case Status::Saved:
+    case Status::Matched:
+        break;
+    }
+    return message;
 }
 
 } // namespace
 
 std::string tableText(const Report &report) {
-    std::vector<Row> rows{{QStringLiteral("Name"), QStringLiteral("Taken"),
-                           QStringLiteral("Corrected"), QStringLiteral("Position"),
-                           QStringLiteral("Altitude"), QStringLiteral("Place"),
-                           QStringLiteral("Apart"), QStringLiteral("Saved as")}};
+    std::vector<Row> rows{headings()};
     for (const PhotoLine &photo : report.photos) {
         rows.push_back(rowOf(photo));
     }
@@ -115,14 +172,11 @@ std::string tableText(const Report &report) {
     for (std::size_t i = 0; i < report.photos.size(); ++i) {
         const PhotoLine &photo = report.photos[i];
         text += lineOf(rows[i + 1], widths);
-        const bool plain = photo.status == Status::Saved || photo.status == Status::Matched;
-        if (!plain || !photo.message.empty()) {
-            text += QStringLiteral("    ");
-            text += plain ? QString() : toQString(statusName(photo.status)) + QStringLiteral(": ");
-            text += toQString(terminalText(photo.message)) + u'\n';
+        if (const std::string remark = remarkOn(photo); !remark.empty()) {
+            text += QStringLiteral("    ") + toQString(remark) + u'\n';
         }
     }
-    return (text + summaryOf(report)).toStdString();
+    return text.toStdString() + summaryOf(report);
 }
 
 } // namespace pinmora::tag

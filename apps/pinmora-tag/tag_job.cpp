@@ -7,6 +7,7 @@
 #include "matching/nearest_points.h"
 #include "matching/placing.h"
 #include "matching/time_distance.h"
+#include "platform/translation.h"
 #include "saving/saving.h"
 #include "store/image.h"
 #include "store/offset.h"
@@ -65,14 +66,16 @@ PhotoLine placePhoto(image &photo, const offset &clockOffset, NearestPoints *poi
         line.secondsApart =
             static_cast<std::int64_t>(wholeSecondsApart(*point->time(), *corrected));
     } else if (point) {
-        remark(line, "no capture time: placed by the time of loading");
+        remark(line, translated("tag", "no capture time: placed by the time of loading"));
     } else if (points) {
         line.status = Status::Unmatched;
-        remark(line, corrected ? "there is no track point with a time and a position"
-                               : "its capture time cannot be read");
+        remark(line, corrected
+                         ? translated("tag", "there is no track point with a time and a position")
+                         : translated("tag", "its capture time cannot be read"));
     }
     if (point && hadAltitude && photo.alt().view().empty()) {
-        remark(line, "the point has no altitude: the copy keeps the photo's own");
+        remark(line,
+               translated("tag", "the point has no altitude: the copy keeps the photo's own"));
     }
     line.lat = photo.lat().string();
     line.lon = photo.lon().string();
@@ -102,7 +105,8 @@ bool prepareSaving(const Saving &saving, const std::filesystem::path &folder,
         error = std::make_error_code(std::errc::not_a_directory);
     }
     if (error) {
-        surroundings.tell(folder.native() + ": the copies cannot go there: " + error.message());
+        surroundings.tell(filled(translated("tag", "%1: the copies cannot go there: %2"),
+                                 {folder.native(), error.message()}));
     }
     return !error;
 }
@@ -116,15 +120,16 @@ void savePhotos(const std::vector<image *> &photos, Report &report, const Saving
     }
     std::size_t done = 0;
     const auto ended = [&](const SavedPhoto &) {
-        surroundings.progress("Saving", ++done, snapshots.size());
+        surroundings.progress(filled(translated("tag", "Saving %1 of %2"),
+                                     {std::to_string(++done), std::to_string(snapshots.size())}));
     };
     ToolSettings tool = surroundings.tool;
     tool.lane = options.lane.value_or(tool.lane);
     const SaveOutcome outcome = saving.save(snapshots, std::filesystem::absolute(options.out), tool,
                                             {.ended = ended, .stopped = surroundings.stopped});
     if (!outcome.notOnDisk.empty()) {
-        surroundings.tell(options.out.native() +
-                          ": the copies may not be on the disk: " + outcome.notOnDisk);
+        surroundings.tell(filled(translated("tag", "%1: the copies may not be on the disk: %2"),
+                                 {options.out.native(), outcome.notOnDisk}));
         report.trouble = true;
     }
     for (const SavedPhoto &saved : outcome.photos) {
@@ -132,7 +137,7 @@ void savePhotos(const std::vector<image *> &photos, Report &report, const Saving
         line.savedAs = saved.savedAs ? saved.savedAs->native() : std::string();
         if (saved.status != SavedPhoto::Status::Saved) {
             line.status = Status::Failed;
-            surroundings.tell(line.file + ": " + saved.message);
+            surroundings.tell(filled(translated("tag", "%1: %2"), {line.file, saved.message}));
         }
         remark(line, saved.message);
     }
@@ -167,12 +172,12 @@ Report runTagJob(const Options &options, const Surroundings &surroundings) {
             line.status = line.status == Status::Saved ? Status::Matched : line.status;
         }
     } else if (report.photos.empty()) {
-        surroundings.tell("there is no photo to save");
+        surroundings.tell(translated("tag", "there is no photo to save"));
         report.trouble = true;
     } else if (!prepareSaving(saving, options.out, surroundings)) {
         for (PhotoLine &line : report.photos) {
             line.status = Status::Failed;
-            remark(line, "not copied");
+            remark(line, translated("tag", "not copied"));
         }
     } else {
         savePhotos(loaded.photos, report, saving, options, surroundings);

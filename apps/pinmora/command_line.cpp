@@ -1,20 +1,21 @@
 #include "command_line.h"
 
+#include "platform/translation.h"
+
 #include <filesystem>
 #include <system_error>
 
 namespace pinmora::app {
 namespace {
 
-constexpr const char *usage = "Usage: pinmora [FILE|FOLDER]...\n"
-                              "\n"
-                              "Opens Pinmora and loads photos, folders of photos and GPS logs.\n"
-                              "A Pinmora that runs already gets them.\n"
-                              "\n"
-                              "  --help     this text\n"
-                              "  --version  the version\n"
-                              "\n"
-                              "pinmora-tag does the same job without windows.\n";
+std::string usage() {
+    return filled(translated("app", "Usage: %1"), {"pinmora [FILE|FOLDER]..."}) + "\n\n" +
+           translated("app", "Opens Pinmora and loads photos, folders of photos and GPS logs.") +
+           "\n" + translated("app", "A Pinmora that runs already gets them.") +
+           "\n\n  --help     " + translated("app", "this text") + "\n  --version  " +
+           translated("app", "the version") + "\n\n" +
+           translated("app", "pinmora-tag does the same job without windows.") + "\n";
+}
 
 } // namespace
 
@@ -33,12 +34,14 @@ CommandLine parseCommandLine(const std::vector<std::string> &arguments) {
         } else if (argument == "--") {
             onlyFiles = true;
         } else if (argument == "--help" || argument == "-h") {
-            return {.paths = {}, .message = usage};
+            return {.paths = {}, .message = usage()};
         } else if (argument == "--version") {
             return {.paths = {}, .message = "pinmora " PINMORA_VERSION "\n"};
         } else {
             return {.paths = {},
-                    .message = "pinmora: there is no option " + argument + "\n" + usage,
+                    .message = "pinmora: " +
+                               filled(translated("app", "there is no option %1"), {argument}) +
+                               "\n" + usage(),
                     .wrong = true};
         }
     }

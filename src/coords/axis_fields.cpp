@@ -1,6 +1,7 @@
 #include "coords/axis_fields.h"
 
 #include "platform/number_text.h"
+#include "platform/translation.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,23 +31,21 @@ bool AxisFields::hasProblem() {
 }
 
 std::vector<AxisFields::Part> AxisFields::partsOf(Notation notation) {
-    const std::string name(kind_.name);
     const int limit = kind_.limit;
     const auto degreesIn = [&](CoordinateField &field, std::string_view key) {
         return Part{field, recordKey(key), true, limit + 1,
-                    "Degrees of " + name + " are a whole number from 0 to " +
-                        std::to_string(limit) + "."};
+                    translated("coords", kind_.noWholeDegrees)};
     };
     if (notation == Notation::DegreesMinutes) {
         return {degreesIn(dmDegree, "degree_min_degree_"),
                 {dmMinute, recordKey("degree_min_min_"), false, 60,
-                 "Minutes are a number from 0 to below 60, such as 22.95."}};
+                 translated("coords", "Minutes are a number from 0 to below 60, such as 22.95.")}};
     }
     return {degreesIn(dmsDegree, "degree_min_sec_degree_"),
             {dmsMinute, recordKey("degree_min_sec_min_"), true, 60,
-             "Minutes are a whole number from 0 to 59."},
+             translated("coords", "Minutes are a whole number from 0 to 59.")},
             {dmsSecond, recordKey("degree_min_sec_sec_"), false, 60,
-             "Seconds are a number from 0 to below 60, such as 57.5."}};
+             translated("coords", "Seconds are a number from 0 to below 60, such as 57.5.")}};
 }
 
 std::string AxisFields::recordKey(std::string_view component) const {
@@ -120,8 +119,7 @@ std::optional<TypedAngle> AxisFields::readParts(Notation notation, const degrees
     if (magnitude > kind_.limit) {
         for (const Part &part : parts) {
             if (part.field.isEdited()) {
-                part.field.problem.set("The " + std::string(kind_.name) + " ends at " +
-                                       std::to_string(kind_.limit) + " degrees.");
+                part.field.problem.set(translated("coords", kind_.tooFar));
             }
         }
         return std::nullopt;

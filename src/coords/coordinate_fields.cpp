@@ -3,6 +3,7 @@
 #include "persistence/undo_group.h"
 #include "platform/number_text.h"
 #include "platform/scoped_flag.h"
+#include "platform/translation.h"
 
 #include <utility>
 
@@ -10,7 +11,9 @@ namespace pinmora {
 
 namespace {
 
-constexpr std::string_view stepName = "Type Position";
+std::string stepName() {
+    return translated("coords", "Type Position");
+}
 
 void setCoordinate(image &photo, const AxisFields &axis, const std::string &text) {
     photo.setValue(text, axis.kind().key);
@@ -129,7 +132,7 @@ void CoordinateFields::apply(AxisFields &axis, const TypedAngle &typed) {
     if (degrees *record = shownRecord()) {
         axis.write(typed, *record);
     }
-    const UndoGroup group(context_, stepName);
+    const UndoGroup group(context_, stepName());
     const std::vector<image *> photos = pictureArray_.selectedObjects();
     for (image *photo : photos) {
         setCoordinate(*photo, axis, typed.text);
@@ -151,7 +154,7 @@ void CoordinateFields::chooseHemisphere(AxisFields &axis) {
     std::string_view text = trimmed(held.view());
     if (leadingDouble(text) != 0) {
         text.remove_prefix(text.starts_with('-') || text.starts_with('+') ? 1 : 0);
-        const UndoGroup group(context_, stepName);
+        const UndoGroup group(context_, stepName());
         setCoordinate(*photo_, axis, std::string(negative ? "-" : "").append(text));
     }
     show(axis);

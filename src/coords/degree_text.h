@@ -10,10 +10,13 @@ namespace pinmora {
 
 /// What latitude and longitude differ in.
 struct AxisKind {
-    std::string_view key;  ///< the photo's; the keys of `degrees` end in it
-    std::string_view name; ///< in sentences
-    int limit;             ///< degrees
-    std::string_view example;
+    std::string_view key; ///< the photo's; the keys of `degrees` end in it
+    int limit;            ///< degrees
+    /// What is wrong with a field's text, to be translated: no decimal degrees within the limit; no
+    /// whole degrees within it; minutes and seconds that lead beyond it.
+    const char *noDegrees;
+    const char *noWholeDegrees;
+    const char *tooFar;
     bool (degrees::*negative)() const;
     void (degrees::*setNegative)(bool);
 };

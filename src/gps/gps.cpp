@@ -5,6 +5,7 @@
 #include "persistence/undo_group.h"
 #include "platform/external_entity.h"
 #include "platform/text_encoding.h"
+#include "platform/translation.h"
 #include "platform/zone_scope.h"
 
 #include <string>
@@ -20,7 +21,9 @@ std::chrono::year currentYear() {
     return std::chrono::year_month_day(day).year();
 }
 
-constexpr std::string_view stepName = "Load GPS Data";
+std::string stepName() {
+    return translated("gps", "Load GPS Data");
+}
 
 } // namespace
 
@@ -35,7 +38,7 @@ void Gps::beginLoad() {
 }
 
 LogReport Gps::loadLog(const std::filesystem::path &path) {
-    const UndoGroup group(context_, stepName);
+    const UndoGroup group(context_, stepName());
     InputFile file;
     if (const std::error_code reason = file.open(path)) {
         return reportUnreadable(path, reason);
@@ -58,7 +61,7 @@ LogReport Gps::loadLog(const std::filesystem::path &path) {
 }
 
 LogReport Gps::parseXMLFile(const std::filesystem::path &path) {
-    const UndoGroup group(context_, stepName);
+    const UndoGroup group(context_, stepName());
     InputFile file;
     if (const std::error_code reason = file.open(path)) {
         return reportUnreadable(path, reason);
@@ -67,7 +70,7 @@ LogReport Gps::parseXMLFile(const std::filesystem::path &path) {
 }
 
 LogReport Gps::processNMEAData(std::string_view text) {
-    const UndoGroup group(context_, stepName);
+    const UndoGroup group(context_, stepName());
     const ImportFacts facts = factsOf(ImportFacts::Format::Nmea, {});
     const ImportTelling telling(journal_, facts);
     LogReport report = nmea_.read(text, {}, reading_, std::chrono::year(facts.currentYear));
@@ -124,8 +127,9 @@ LogReport Gps::reportUnreadable(const std::filesystem::path &path, std::error_co
     report.path = path;
     report.reading = reading_;
     report.error = LogError::Unreadable;
-    report.message = path.string() + " could not be read: " + reason.message() + ".";
-    errors_.present("Error!", report.message);
+    report.message =
+        filled(translated("gps", "%1 could not be read: %2."), {path.string(), reason.message()});
+    errors_.present(translated("gps", "Error!"), report.message);
     return report;
 }
 

@@ -5,6 +5,7 @@
 #include "persistence/undo_group.h"
 #include "platform/defaults.h"
 #include "platform/scoped_flag.h"
+#include "platform/translation.h"
 
 namespace pinmora {
 
@@ -24,8 +25,8 @@ void GpsIntake::getGPSFile() {
         return;
     }
     gps_.beginLoad();
-    panel.title = "Load GPS Data";
-    panel.typesName = "GPS logs";
+    panel.title = translated("gps", "Load GPS Data");
+    panel.typesName = translated("gps", "GPS logs");
     panel.canChooseDirectories = false;
     panel.allowsMultipleSelection = true;
     panel.directory = defaults_.text(folderKey).value_or("");
@@ -50,12 +51,14 @@ void GpsIntake::processGPS(OpenPanel &chosen, int returnCode) {
 std::vector<LogReport> GpsIntake::load(const std::vector<std::string> &names) {
     const ScopedFlag running(loadRunning_);
     context_.commitEditing(); // what is half typed is no part of this step
-    const UndoGroup group(context_, "Load GPS Data");
+    const UndoGroup group(context_, translated("gps", "Load GPS Data"));
     const std::string count = std::to_string(names.size());
     std::vector<LogReport> reports;
-    progress_.showProgressWindow("Loading GPS data", "", static_cast<double>(names.size()));
+    progress_.showProgressWindow(translated("gps", "Loading GPS data"), "",
+                                 static_cast<double>(names.size()));
     for (const std::string &name : names) {
-        progress_.setSubText("Loading " + std::to_string(reports.size() + 1) + " of " + count);
+        progress_.setSubText(filled(translated("gps", "Loading %1 of %2"),
+                                    {std::to_string(reports.size() + 1), count}));
         progress_.progressWindowIncrement();
         reports.push_back(gps_.loadLog(name));
         progress_.progressWindowIncrement();

@@ -1,6 +1,7 @@
 #include "gps/gpx_elements.h"
 
 #include "gps/iso_time.h"
+#include "platform/translation.h"
 #include "store/calendar_formats.h"
 #include "store/track.h"
 
@@ -126,11 +127,8 @@ void GpxElements::keepTime() {
 /// Without a time there is no point to make: it could never be chosen for a photo.
 void GpxElements::finishPoint() {
     TrackPos &found = currentTrackPos_;
-    if (!found.time.hasValue()) {
-        report_->addUnusable("point without time", report_->sample ? 0 : parser_->line());
-    } else if (!found.date) {
-        const std::string_view text = found.time.view();
-        report_->addUnusable(text.empty() ? "point with an empty time" : text, found.timeLine);
+    if (!found.time.hasValue() || !found.date) {
+        tellUnusable();
     }
     if (found.time.hasValue()) {
         writer_.makePoint(currentTrack_,
@@ -139,6 +137,20 @@ void GpxElements::finishPoint() {
                           *report_);
     }
     found = {};
+}
+
+/// The report shows the first only: words are sought for no other.
+void GpxElements::tellUnusable() {
+    const Text &time = currentTrackPos_.time;
+    if (report_->sample) {
+        report_->addUnusable({}, 0);
+    } else if (!time.hasValue()) {
+        report_->addUnusable(translated("gps", "point without time"), parser_->line());
+    } else {
+        report_->addUnusable(time.view().empty() ? translated("gps", "point with an empty time")
+                                                 : std::string(time.view()),
+                             currentTrackPos_.timeLine);
+    }
 }
 
 std::optional<Date> GpxElements::toTime(std::string_view text) {

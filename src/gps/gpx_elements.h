@@ -63,6 +63,7 @@ private:
     void keepPosition(const char *const *attributes);
     void keepTime();
     void finishPoint();
+    void tellUnusable();
     std::optional<Date> toTime(std::string_view text);
     bool hasCurrentTrack() const {
         return writer_.stillHolds(currentTrack_, trackCount_, currentTrackLog_);

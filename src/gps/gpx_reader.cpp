@@ -1,6 +1,7 @@
 #include "gps/gpx_reader.h"
 
 #include "gps/log_head.h"
+#include "platform/translation.h"
 
 namespace pinmora {
 
@@ -59,9 +60,9 @@ bool GpxReader::parse(std::string_view bytes, bool isLast) {
         return true;
     }
     report_.error = LogError::MalformedGpx;
-    report_.message = "There was an error parsing the GPX file.";
+    report_.message = translated("gps", "There was an error parsing the GPX file.");
     progress_.closeProgress();
-    errors_.present("Error!", report_.message);
+    errors_.present(translated("gps", "Error!"), report_.message);
     return false;
 }
 

@@ -1,5 +1,7 @@
 #include "gps/log_report.h"
 
+#include "platform/translation.h"
+
 namespace pinmora {
 
 namespace {
@@ -39,11 +41,11 @@ std::string LogReport::unusableText() const {
     if (!sample) {
         return {};
     }
-    const std::string what = unusable == 1 ? "1 point or sentence could not be used, in line "
-                                           : std::to_string(unusable) +
-                                                 " points or sentences could not be used, the "
-                                                 "first in line ";
-    return what + std::to_string(sample->line) + ": " + sample->text;
+    //: %1 is the number of the line, %2 the line's text
+    const std::string words =
+        translated("gps", "%n points or sentences could not be used, the first in line %1: %2",
+                   "%n point or sentence could not be used, in line %1: %2", unusable);
+    return filled(words, {std::to_string(sample->line), sample->text});
 }
 
 } // namespace pinmora

@@ -2,6 +2,7 @@
 
 #include "gps/nmea_lines.h"
 #include "gps/nmea_points.h"
+#include "platform/translation.h"
 
 #include <optional>
 
@@ -57,8 +58,9 @@ LogReport NmeaReader::read(std::string_view text, const std::filesystem::path &p
 
     progress_.closeProgress();
     if (report.failed()) {
-        report.message = "There was an error parsing the GPS data file. File is not GPX or NMEA";
-        errors_.present("Error!", report.message);
+        report.message = translated(
+            "gps", "There was an error parsing the GPS data file. File is not GPX or NMEA");
+        errors_.present(translated("gps", "Error!"), report.message);
     }
     return report;
 }

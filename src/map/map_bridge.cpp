@@ -3,6 +3,7 @@
 #include "map/placement.h"
 #include "persistence/undo_group.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 
 #include <cstdint>
 
@@ -51,7 +52,7 @@ void MapBridge::latLonJavascript(const std::string &position) {
     }
     outlets_.editing.takeOver();
     const std::vector<image *> photos = outlets_.pictureArray.selectedObjects();
-    const UndoGroup group(context_, "Place on Map");
+    const UndoGroup group(context_, translated("map", "Place on Map"));
     for (image *photo : photos) {
         photo->updateLatAndLon(placement->position);
         photo->setZoom(placement->zoom);

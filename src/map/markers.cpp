@@ -2,6 +2,7 @@
 
 #include "outlets/pointer_script.h"
 #include "persistence/undo_group.h"
+#include "platform/translation.h"
 
 #include <string>
 #include <utility>
@@ -11,9 +12,18 @@ namespace {
 
 constexpr std::int32_t worldZoom = 2; ///< where no zoom level is known
 
-void name(Button &button, const char *title, int tag) {
-    button.title.set(title);
-    button.tag = tag;
+void offerAdding(Button &button) {
+    button.title.set(translated("map", "Add Marker"));
+    button.tag = 0;
+}
+
+std::string removalOf(std::size_t photos) {
+    return photos <= 1 ? translated("map", "Remove Marker") : translated("map", "Remove Markers");
+}
+
+void offerRemoval(Button &button, std::size_t photos) {
+    button.title.set(removalOf(photos));
+    button.tag = 1;
 }
 
 void takePositionAway(image &photo) {
@@ -50,7 +60,7 @@ void Markers::addMarkerToMapCentre() {
         outlets_.webView1.evaluate("removePointer()");
         return;
     }
-    name(button, photos.size() <= 1 ? "Remove Marker" : "Remove Markers", 1);
+    offerRemoval(button, photos.size());
     outlets_.webView1.evaluate(newMarkerFor(photos));
 }
 
@@ -64,7 +74,7 @@ void Markers::addMarkerToMapCentre2() {
         outlets_.webView2.evaluate("removePointer()");
         return;
     }
-    name(button, photos.size() <= 1 ? "Remove Marker" : "Remove Markers", 1);
+    offerRemoval(button, photos.size());
     const std::string script = newMarkerFor(photos);
     outlets_.editing.takeOver();
     outlets_.webView2.evaluate(script);
@@ -72,11 +82,11 @@ void Markers::addMarkerToMapCentre2() {
 }
 
 void Markers::removeFrom(const Photos &photos, Button &button) {
-    const UndoGroup group(context_, photos.size() <= 1 ? "Remove Marker" : "Remove Markers");
+    const UndoGroup group(context_, removalOf(photos.size()));
     for (image *photo : photos) {
         takePositionAway(*photo);
     }
-    name(button, "Add Marker", 0);
+    offerAdding(button);
 }
 
 std::string Markers::newMarkerFor(const Photos &photos) {
@@ -100,7 +110,11 @@ bool Markers::add_remove_marker() {
     }
     const bool placed = photos.front()->lat_and_lon();
     for (Button *button : {&outlets_.addRemoveMarker, &outlets_.addRemoveMarker2}) {
-        name(*button, placed ? "Remove Marker" : "Add Marker", placed ? 1 : 0);
+        if (placed) {
+            offerRemoval(*button, 1);
+        } else {
+            offerAdding(*button);
+        }
     }
     return true;
 }

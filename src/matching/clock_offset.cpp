@@ -6,6 +6,7 @@
 #include "outlets/pointer_script.h"
 #include "persistence/context.h"
 #include "persistence/undo_group.h"
+#include "platform/translation.h"
 #include "store/calendar_formats.h"
 #include "store/degrees.h"
 #include "store/image.h"
@@ -121,7 +122,7 @@ void ClockOffset::step(Field field, std::int32_t ClockParts::*part, const Steppe
     if (!stored) {
         return;
     }
-    const UndoGroup group(context_, "Step Clock Offset");
+    const UndoGroup group(context_, translated("matching", "Step Clock Offset"));
     if (const std::string camera = cameraInHand(); !camera.empty()) {
         ClockParts parts = shownParts();
         parts.*part = sender.value.get();
@@ -137,7 +138,7 @@ void ClockOffset::changePlusMinu(const Selector &sender) {
     if (!stored) {
         return;
     }
-    const UndoGroup group(context_, "Change Sign of Clock Offset");
+    const UndoGroup group(context_, translated("matching", "Change Sign of Clock Offset"));
     if (const std::string camera = cameraInHand(); !camera.empty()) {
         ClockParts parts = shownParts();
         parts.plus = sender.selectedTag.get() != 0;
@@ -165,7 +166,7 @@ void ClockOffset::setClock(const std::string &camera, std::chrono::seconds signe
     if (!stored) {
         return;
     }
-    const UndoGroup group(context_, "Set Camera Clock");
+    const UndoGroup group(context_, translated("matching", "Set Camera Clock"));
     const ClockParts parts = ClockParts::of(signedOffset);
     if (camera.empty()) {
         stored->setParts(parts);
@@ -180,7 +181,8 @@ void ClockOffset::setHasOwnClock(const std::string &camera, bool own) {
     if (!stored || own == (stored->cameraOffsets().find(camera) != nullptr)) {
         return;
     }
-    const UndoGroup group(context_, own ? "Give Camera Its Own Clock" : "Use Common Clock");
+    const UndoGroup group(context_, own ? translated("matching", "Give Camera Its Own Clock")
+                                        : translated("matching", "Use Common Clock"));
     CameraOffsets offsets = stored->cameraOffsets();
     if (own) {
         offsets.set(camera, stored->parts());
@@ -199,7 +201,7 @@ std::chrono::seconds ClockOffset::turnOf(const image &photo) const {
 void ClockOffset::endTurn() {
     const std::optional<ClockTurn> turn = turning.get();
     if (turn && turn->by.count() != 0) {
-        const UndoGroup group(context_, "Turn Camera Clock");
+        const UndoGroup group(context_, translated("matching", "Turn Camera Clock"));
         setClock(turn->camera, clock(turn->camera) + turn->by);
     }
     turning.set(std::nullopt);
@@ -256,7 +258,7 @@ void ClockOffset::storeFields(std::chrono::seconds apart) {
 }
 
 void ClockOffset::offerMarkerRemoval() {
-    outlets_.addRemoveMarker.title.set("Remove Marker");
+    outlets_.addRemoveMarker.title.set(translated("matching", "Remove Marker"));
     outlets_.addRemoveMarker.tag = 1;
     outlets_.offsetButton.enabled.set(true);
 }

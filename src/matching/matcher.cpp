@@ -9,6 +9,7 @@
 #include "persistence/undo_group.h"
 #include "platform/notification_centre.h"
 #include "platform/scoped_flag.h"
+#include "platform/translation.h"
 #include "store/image.h"
 #include "store/offset.h"
 
@@ -19,7 +20,9 @@ namespace pinmora {
 
 namespace {
 
-constexpr std::string_view matchAction = "Match Photo";
+std::string matchAction() {
+    return translated("matching", "Match Photo");
+}
 
 } // namespace
 
@@ -53,7 +56,7 @@ void Matcher::gpsMatcher(bool updateFields) {
     if (!photo || !clockOffset) {
         return;
     }
-    const UndoGroup group(context_, matchAction);
+    const UndoGroup group(context_, matchAction());
     clockOffset_.showCorrectedTime(*correctedTime(*photo, *clockOffset));
     if (track_part *const point = getLatLonAlt(*photo)) {
         outlets_.bestGPS.setContent(point);
@@ -86,7 +89,7 @@ void Matcher::setFromPlace(Position place) {
 
 void Matcher::setFromPoint(track_part &point) {
     if (photoInHand()) {
-        const UndoGroup group(context_, matchAction);
+        const UndoGroup group(context_, matchAction());
         outlets_.bestGPS.setContent(&point);
         clockOffset_.setNewOffset(true);
     }
@@ -161,15 +164,16 @@ void Matcher::applyToTimed(std::vector<image *> photos) {
 }
 
 ApplyOutcome Matcher::applyTo(const std::vector<image *> &photos) {
-    const UndoGroup group(context_, "Apply GPS Data to Photos");
+    const UndoGroup group(context_, translated("matching", "Apply GPS Data to Photos"));
     const ScopedFlag running(runningApplyToAll_);
     const std::string total = std::to_string(photos.size());
-    outlets_.progress.showProgressWindow("Applying to GPS data to photos", "",
-                                         static_cast<double>(photos.size()));
+    outlets_.progress.showProgressWindow(translated("matching", "Applying to GPS data to photos"),
+                                         "", static_cast<double>(photos.size()));
+    const std::string words = translated("matching", "Processing %1 of %2");
     ApplyOutcome outcome;
     std::size_t number = 0;
     for (image *photo : photos) {
-        outlets_.progress.advance("Processing " + std::to_string(++number) + " of " + total);
+        outlets_.progress.advance(filled(words, {std::to_string(++number), total}));
         place(*photo, outcome);
     }
     outlets_.progress.closeProgress();

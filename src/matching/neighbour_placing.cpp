@@ -7,6 +7,7 @@
 #include "persistence/context.h"
 #include "persistence/undo_group.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 #include "store/image.h"
 #include "store/offset.h"
 #include "store/track.h"
@@ -112,7 +113,7 @@ void NeighbourPlacing::placeBetweenNeighbours() {
     const Places others = placesOfPhotos(context_, *clock, photos);
     NeighbourOutcome outcome;
     {
-        const UndoGroup group(context_, "Place Between Neighbours");
+        const UndoGroup group(context_, translated("matching", "Place Between Neighbours"));
         for (image *photo : photos) {
             const std::optional<Date> time = correctedCaptureTime(*photo, *clock);
             std::optional<TimeNeighbours> around = time ? closestOf(*time, tracks) : std::nullopt;
@@ -143,7 +144,7 @@ void NeighbourPlacing::placeAtNearestPoint() {
     const std::optional<Date> time = correctedCaptureTime(photo, *clock);
     NeighbourOutcome outcome;
     if (const track_part *const point = time ? points_.inTime(*time) : nullptr) {
-        const UndoGroup group(context_, "Place at Nearest Point");
+        const UndoGroup group(context_, translated("matching", "Place at Nearest Point"));
         placeAtWithAltitude(photo, *point, time);
         outcome.placed = 1;
     } else {

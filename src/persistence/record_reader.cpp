@@ -3,6 +3,7 @@
 #include "persistence/record.h"
 #include "persistence/value_text.h"
 #include "persistence/xml_text.h"
+#include "platform/translation.h"
 
 #include <algorithm>
 
@@ -48,7 +49,8 @@ RecordReader::Table *RecordReader::tableOf(std::string_view element) {
 bool RecordReader::read(std::string_view element, const char *const *attributes, Extent extent) {
     table_ = tableOf(element);
     if (!table_) {
-        return fail("there is no kind of record called " + quoted(element));
+        return fail(filled(translated("persistence", "there is no kind of record called %1"),
+                           {quoted(element)}));
     }
     ++elements_;
     extent_ = extent;
@@ -62,7 +64,7 @@ bool RecordReader::read(std::string_view element, const char *const *attributes,
         }
     }
     if (serial_ == 0) {
-        return fail(std::string(element) + " has no id");
+        return fail(filled(translated("persistence", "%1 has no id"), {element}));
     }
     if (extent == Extent::Whole) {
         lastSerial_ = serial_;
@@ -85,7 +87,8 @@ bool RecordReader::readAttribute(std::string_view name, std::string_view text) {
     }
     if (name == "id") {
         serial_ = serialFromText(text).value_or(0);
-        return serial_ != 0 || fail(quoted(text) + " is no id");
+        return serial_ != 0 ||
+               fail(filled(translated("persistence", "%1 is no id"), {quoted(text)}));
     }
     return name == "none" ? readNone(text) : failUnknown(name);
 }
@@ -105,7 +108,8 @@ bool RecordReader::readValue(Column &column, std::string_view text, bool isBase6
         value = Value(*bytes);
     }
     if (!value) {
-        return fail(quoted(text) + " is no value of " + nameOf(property));
+        return fail(filled(translated("persistence", "%1 is no value of %2"),
+                           {quoted(text), nameOf(property)}));
     }
     values_.push_back({&property, std::move(*value)});
     return true;
@@ -114,7 +118,8 @@ bool RecordReader::readValue(Column &column, std::string_view text, bool isBase6
 bool RecordReader::readLink(Column &column, std::string_view text) {
     const std::uint32_t target = serialFromText(text).value_or(0);
     if (target == 0) {
-        return fail(quoted(text) + " is no id for " + nameOf(*column.property));
+        return fail(filled(translated("persistence", "%1 is no id for %2"),
+                           {quoted(text), nameOf(*column.property)}));
     }
     addTarget(column, target);
     return true;
@@ -158,7 +163,8 @@ void RecordReader::addImplied() {
 /// Whether the element has the key only once, counting all the ways in which it can.
 bool RecordReader::claim(Column &column) {
     if (column.readIn == elements_) {
-        return fail(nameOf(*column.property) + " is there twice");
+        return fail(
+            filled(translated("persistence", "%1 is there twice"), {nameOf(*column.property)}));
     }
     column.readIn = elements_;
     return true;
@@ -169,7 +175,8 @@ std::string RecordReader::nameOf(const Property &property) const {
 }
 
 bool RecordReader::failUnknown(std::string_view key) {
-    return fail(std::string(table_->entity->name()) + " has no key " + quoted(key));
+    return fail(filled(translated("persistence", "%1 has no key %2"),
+                       {table_->entity->name(), quoted(key)}));
 }
 
 bool RecordReader::fail(std::string error) {

@@ -3,6 +3,7 @@
 #include "persistence/record.h"
 #include "persistence/value_text.h"
 #include "persistence/xml_text.h"
+#include "platform/translation.h"
 
 #include <algorithm>
 #include <map>
@@ -44,7 +45,7 @@ void StoreDocument::didStartElement(std::string_view name, const char *const *at
         readRecord(name, attributes);
         break;
     default:
-        fail("there is a record within a record", parser_.line());
+        fail(translated("persistence", "there is a record within a record"), parser_.line());
     }
 }
 
@@ -54,28 +55,32 @@ void StoreDocument::didEndElement(std::string_view) {
 
 void StoreDocument::foundCharacters(std::string_view text) {
     if (text.find_first_not_of(" \t\r\n") != std::string_view::npos && error_.empty()) {
-        fail("there is text between the records", parser_.line());
+        fail(translated("persistence", "there is text between the records"), parser_.line());
     }
 }
 
 void StoreDocument::readRoot(std::string_view name, const char *const *attributes) {
     if (name != rootName) {
-        return fail("this is no library but " + quoted(name), parser_.line());
+        return fail(filled(translated("persistence", "this is no library but %1"), {quoted(name)}),
+                    parser_.line());
     }
     std::map<std::string_view, std::string_view> texts;
     for (; *attributes; attributes += 2) {
         texts[attributes[0]] = attributes[1];
     }
     if (serialFromText(texts["version"]) != version) {
-        return fail("the library has the format version " + quoted(texts["version"]) +
-                        ", this program reads " + std::to_string(version),
-                    parser_.line());
+        return fail(
+            filled(translated("persistence",
+                              "the library has the format version %1, this program reads %2"),
+                   {quoted(texts["version"]), std::to_string(version)}),
+            parser_.line());
     }
     state_ = texts["state"];
     const auto next = serialFromText(texts["next"]);
     const auto records = serialFromText(texts["records"]);
     if (state_.empty() || !next || !records || texts.size() != 4) {
-        return fail("a library says its version, state, next id and number of records",
+        return fail(translated("persistence",
+                               "a library says its version, state, next id and number of records"),
                     parser_.line());
     }
     next_ = *next;
@@ -88,9 +93,10 @@ void StoreDocument::readRecord(std::string_view name, const char *const *attribu
     }
     const std::uint32_t serial = reader_.serial();
     if (serial <= lastSerial_ || serial >= next_) {
-        return fail("the id " + std::to_string(serial) + " comes after " +
-                        std::to_string(lastSerial_) + " and before " + std::to_string(next_),
-                    parser_.line());
+        return fail(
+            filled(translated("persistence", "the id %1 comes after %2 and before %3"),
+                   {std::to_string(serial), std::to_string(lastSerial_), std::to_string(next_)}),
+            parser_.line());
     }
     lastSerial_ = serial;
     ++records_;
@@ -119,15 +125,16 @@ Record *StoreDocument::find(std::uint32_t serial) {
 void StoreDocument::finish() {
     for (const auto &[link, line] : waiting_) {
         if (!makeLink(*link.record, *link.property, find(link.target))) {
-            return fail(std::string(link.record->entity().name()) + "." +
-                            std::string(link.property->name) + " leads to " +
-                            std::to_string(link.target) + ", which is no such record",
-                        line);
+            return fail(
+                filled(translated("persistence", "%1.%2 leads to %3, which is no such record"),
+                       {link.record->entity().name(), link.property->name,
+                        std::to_string(link.target)}),
+                line);
         }
     }
     if (records_ != expected_) {
-        return fail("there are " + std::to_string(records_) + " records, there should be " +
-                        std::to_string(expected_),
+        return fail(filled(translated("persistence", "there are %1 records, there should be %2"),
+                           {std::to_string(records_), std::to_string(expected_)}),
                     parser_.line());
     }
     context_.setNextSerial(next_);

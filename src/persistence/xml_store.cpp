@@ -5,6 +5,7 @@
 #include "persistence/store_document.h"
 #include "platform/atomic_file.h"
 #include "platform/input_file.h"
+#include "platform/translation.h"
 
 #include <algorithm>
 #include <limits>
@@ -79,8 +80,9 @@ void writeRecords(std::vector<Queue> &queues, AtomicFile &file) {
 } // namespace
 
 std::string StoreError::message() const {
-    return path.string() + (line == 0 ? "" : ", line " + std::to_string(line)) + ": " + reason +
-           ".";
+    return line == 0 ? filled(translated("persistence", "%1: %2."), {path.string(), reason})
+                     : filled(translated("persistence", "%1, line %2: %3."),
+                              {path.string(), std::to_string(line), reason});
 }
 
 std::string makeStoreState() {

@@ -5,6 +5,7 @@
 #include "photos/file_names.h"
 #include "photos/fs_node_info.h"
 #include "platform/text_encoding.h"
+#include "platform/translation.h"
 
 #include <algorithm>
 #include <string_view>
@@ -65,7 +66,8 @@ void FileBrowser::browserSingleClick() {
     const std::string path = selectedPath();
     if (path.empty()) {
         const bool isNone = outlets_.fsBrowser.selection.get().empty();
-        outlets_.nodeInspector.text.set({{isNone ? "No Selection" : "Multiple Selection"}});
+        outlets_.nodeInspector.text.set({{isNone ? translated("photos", "No Selection")
+                                                 : translated("photos", "Multiple Selection")}});
         showPicture({});
         return;
     }
@@ -94,9 +96,9 @@ std::string FileBrowser::selectedPath() const {
 AttributedText FileBrowser::attributedInspectorStringForFSNode(const FSNodeInfo &node) {
     const std::string path = node.absolutePath();
     showPicture(isJpg(path) ? path : std::string());
-    return {{.text = "Name: ", .bold = true},
+    return {{.text = translated("photos", "Name: "), .bold = true},
             {.text = utf8OrLatin1(node.lastPathComponent()) + "\n"},
-            {.text = "Type: ", .bold = true},
+            {.text = translated("photos", "Type: "), .bold = true},
             {.text = node.fsType() + "\n"}};
 }
 

@@ -1,6 +1,7 @@
 #include "photos/fs_node_info.h"
 
 #include "photos/folder_entries.h"
+#include "platform/translation.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -30,7 +31,9 @@ std::string FSNodeInfo::lastPathComponent() const {
 }
 
 std::string FSNodeInfo::fsType() const {
-    return isDirectory() ? "Directory" : "Non-Directory";
+    //: what an entry of the file system is
+    return isDirectory() ? translated("photos", "Directory")
+                         : translated("photos", "Non-Directory");
 }
 
 bool FSNodeInfo::isVisible() const {

@@ -1,24 +1,25 @@
 #include "photos/intake_report.h"
 
 #include "platform/file_descriptor.h"
+#include "platform/translation.h"
 
 #include <fcntl.h>
 #include <filesystem>
 
 namespace pinmora {
 
-std::string_view reasonText(WhyLeftOut why) {
+std::string reasonText(WhyLeftOut why) {
     switch (why) {
     case WhyLeftOut::NotAnImage:
-        return "not readable as an image";
+        return translated("photos", "not readable as an image");
     case WhyLeftOut::Missing:
-        return "there is no such file";
+        return translated("photos", "there is no such file");
     case WhyLeftOut::NoPermission:
-        return "no permission to read it";
+        return translated("photos", "no permission to read it");
     case WhyLeftOut::NotAFile:
-        return "not a regular file";
+        return translated("photos", "not a regular file");
     case WhyLeftOut::NoKnownType:
-        return "neither a photo nor a GPS log by its name";
+        return translated("photos", "neither a photo nor a GPS log by its name");
     }
     return {};
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -17,7 +16,7 @@ enum class WhyLeftOut {
 };
 
 /// The reason as words that follow the file's name and a colon.
-std::string_view reasonText(WhyLeftOut why);
+std::string reasonText(WhyLeftOut why);
 
 struct LeftOutFile {
     std::string path;

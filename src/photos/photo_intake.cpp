@@ -8,6 +8,7 @@
 #include "photos/photos.h"
 #include "platform/defaults.h"
 #include "platform/scoped_flag.h"
+#include "platform/translation.h"
 #include "store/image.h"
 #include "store/track.h"
 
@@ -44,8 +45,8 @@ void PhotoIntake::getFiles() {
     if (loadRunning_) {
         return;
     }
-    panel.title = "Add Photos";
-    panel.typesName = "Photos";
+    panel.title = translated("photos", "Add Photos");
+    panel.typesName = translated("photos", "Photos");
     panel.canChooseDirectories = true;
     panel.allowsMultipleSelection = true;
     panel.directory = defaults_.text(folderKey).value_or("");
@@ -102,7 +103,7 @@ bool PhotoIntake::performDragOperation(const std::vector<std::string> &paths) {
     if (paths.empty() || loadRunning_) {
         return false;
     }
-    progress_.showProgressWindow("Loading files", "", 1);
+    progress_.showProgressWindow(translated("photos", "Loading files"), "", 1);
     load({paths.rbegin(), paths.rend()}, [this](const std::string &path) {
         progress_.progressWindowIncrement();
         photos_.processThisPath(path);
@@ -123,7 +124,7 @@ void PhotoIntake::load(const std::vector<std::string> &paths, const Take &take) 
 void PhotoIntake::takeAll(const std::vector<std::string> &paths, const Take &take) {
     const ScopedFlag running(loadRunning_);
     context_.commitEditing(); // what is half typed is no part of this step
-    const UndoGroup group(context_, "Add Photos");
+    const UndoGroup group(context_, translated("photos", "Add Photos"));
     const std::size_t tracksBefore = context_.count<track>();
     photos_.clearReport();
     beginning.emit();
@@ -136,7 +137,7 @@ void PhotoIntake::takeAll(const std::vector<std::string> &paths, const Take &tak
     statusLine_.show("");
     UndoManager *const undo = context_.undoManager();
     if (undo && photos_.report().loaded.empty() && context_.count<track>() > tracksBefore) {
-        undo->setActionName("Load GPS Data");
+        undo->setActionName(translated("photos", "Load GPS Data"));
     }
 }
 
@@ -157,8 +158,8 @@ std::size_t PhotoIntake::photosIn(const std::vector<std::string> &paths) const {
 
 void PhotoIntake::showProgress(std::size_t count) {
     if (total_ > 0) {
-        statusLine_.show("Loading photo " + std::to_string(count) + " of " +
-                         std::to_string(total_));
+        statusLine_.show(filled(translated("photos", "Loading photo %1 of %2"),
+                                {std::to_string(count), std::to_string(total_)}));
     }
 }
 

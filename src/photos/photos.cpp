@@ -5,6 +5,7 @@
 #include "photos/folder_listing.h"
 #include "photos/log_intake.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 #include "store/image.h"
 
 #include <filesystem>
@@ -72,7 +73,7 @@ void Photos::scanFolder(const std::string &folder, TakeEntry takeEntry) {
 }
 
 void Photos::processThisPath(std::string_view given) {
-    const UndoGroup group(context_, "Add Photos");
+    const UndoGroup group(context_, translated("photos", "Add Photos"));
     const std::string path = absolutePath(given);
     if (isFolder(path)) {
         scanFolder(path, [this, &path](const std::string &name) {
@@ -94,7 +95,7 @@ void Photos::processThisPath(std::string_view given) {
 }
 
 void Photos::loadPict(std::string_view given) {
-    const UndoGroup group(context_, "Add Photos");
+    const UndoGroup group(context_, translated("photos", "Add Photos"));
     const std::string path = absolutePath(given);
     if (isFolder(path)) {
         scanFolder(path, [this, &path](const std::string &name) {

@@ -54,7 +54,7 @@ void UrlConnection::hear() {
     QObject::connect(reply, &QNetworkReply::readyRead, &patience_, [this] { receive(); });
     QObject::connect(reply, &QNetworkReply::finished, &patience_, [this] { finish(); });
     QObject::connect(&patience_, &QTimer::timeout, &patience_, [this] {
-        fail(QCoreApplication::translate("UrlConnection", "The request timed out."));
+        fail(QCoreApplication::translate("platform", "The request timed out."));
     });
 }
 

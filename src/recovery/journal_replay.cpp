@@ -1,6 +1,7 @@
 #include "recovery/journal_replay.h"
 
 #include "persistence/record.h"
+#include "platform/translation.h"
 #include "recovery/journal_source.h"
 #include "recovery/record_elements.h"
 
@@ -25,7 +26,8 @@ JournalReplay::~JournalReplay() {
 bool JournalReplay::keep(std::uint32_t serial, Record &record) {
     constexpr std::size_t largestGap = std::size_t{1} << 24U; // records that are not stored
     if (serial >= bySerial_.size() + largestGap) {
-        return fail("the journal has a record numbered " + std::to_string(serial));
+        return fail(filled(translated("recovery", "the journal has a record numbered %1"),
+                           {std::to_string(serial)}));
     }
     if (serial >= bySerial_.size()) {
         bySerial_.resize(std::max<std::size_t>(serial + std::size_t{1}, bySerial_.size() * 2));
@@ -74,7 +76,7 @@ bool JournalReplay::run(const std::filesystem::path &journal, const JournalSurve
         }
         const Frame *frame = file.next();
         if (!frame) {
-            return fail("the journal has changed while it was read");
+            return fail(translated("recovery", "the journal has changed while it was read"));
         }
         if (file.goodBytes() > from.position && !apply(*frame, file)) {
             return false;
@@ -99,7 +101,8 @@ bool JournalReplay::apply(const Frame &frame, JournalFile &file) {
     case FrameKind::ImportBegin:
         return applyImport(frame.payload, file);
     default:
-        return fail("the journal has a part that does not belong where it is");
+        return fail(
+            translated("recovery", "the journal has a part that does not belong where it is"));
     }
 }
 
@@ -110,7 +113,8 @@ bool JournalReplay::applyRecords(std::string_view payload, RecordReader::Extent 
             return reader.read(element, attributes, extent) ? applyRecord(reader, extent)
                                                             : fail(reader.error());
         });
-    return done || fail("the journal has a part that is no list of records");
+    return done ||
+           fail(translated("recovery", "the journal has a part that is no list of records"));
 }
 
 bool JournalReplay::applyRecord(RecordReader &reader, RecordReader::Extent extent) {
@@ -118,15 +122,17 @@ bool JournalReplay::applyRecord(RecordReader &reader, RecordReader::Extent exten
     Record *record = find(serial);
     if (extent == RecordReader::Extent::Whole) {
         if (record) {
-            return fail("the journal has record " + std::to_string(serial) + " twice");
+            return fail(filled(translated("recovery", "the journal has record %1 twice"),
+                               {std::to_string(serial)}));
         }
         record = &library_.insertStored(reader.entity(), library_.nextSerial());
         if (!keep(serial, *record)) {
             return false;
         }
     } else if (!record || &record->entity() != &reader.entity()) {
-        return fail("the journal changes record " + std::to_string(serial) +
-                    ", which is not there");
+        return fail(
+            filled(translated("recovery", "the journal changes record %1, which is not there"),
+                   {std::to_string(serial)}));
     } else if (isPastLiveMark_) {
         for (const RecordReader::KeyValue &value : reader.values()) {
             changes_.emplace_back(serial, value.property);
@@ -140,7 +146,7 @@ bool JournalReplay::applyRecord(RecordReader &reader, RecordReader::Extent exten
 bool JournalReplay::applyRanges(std::string_view payload, bool areGone) {
     const std::optional<SerialRanges> ranges = SerialRanges::fromText(payload);
     if (!ranges) {
-        return fail("the journal has a part that is no list of serials");
+        return fail(translated("recovery", "the journal has a part that is no list of serials"));
     }
     if (areGone) {
         gone_.add(*ranges);
@@ -153,14 +159,17 @@ bool JournalReplay::applyRanges(std::string_view payload, bool areGone) {
 bool JournalReplay::applyImport(std::string_view payload, JournalFile &file) {
     const std::optional<ImportFacts> facts = factsFrom(payload);
     if (!facts) {
-        return fail("the journal has a log of which it does not say how to read it");
+        return fail(translated("recovery",
+                               "the journal has a log of which it does not say how to read it"));
     }
     imported_.clear();
     JournalSource source(file);
     importer_.importAgain(library_, *facts, find(facts->currentTrack), source);
     const std::optional<ImportResult> result = source.result();
     if (!result || result->records != imported_.size()) {
-        return fail("the log " + facts->path + " cannot be read as it was read before");
+        return fail(
+            filled(translated("recovery", "the log %1 cannot be read as it was read before"),
+                   {facts->path}));
     }
     bool isKept = true;
     for (std::uint32_t i = 0; i < result->records && isKept; ++i) {
@@ -177,8 +186,9 @@ void JournalReplay::didInsert(Record &record) {
 bool JournalReplay::closeLinks() {
     for (const OpenLink &link : open_) {
         if (!makeLink(*link.record, *link.property, find(link.target))) {
-            return fail("the journal leads to record " + std::to_string(link.target) +
-                        ", which is not there");
+            return fail(
+                filled(translated("recovery", "the journal leads to record %1, which is not there"),
+                       {std::to_string(link.target)}));
         }
     }
     open_.clear();

@@ -1,6 +1,7 @@
 #include "recovery/journal_survey.h"
 
 #include "persistence/value_text.h"
+#include "platform/translation.h"
 #include "recovery/journal_file.h"
 #include "recovery/record_elements.h"
 #include "store/image.h"
@@ -80,7 +81,7 @@ JournalSurvey surveyJournal(const std::filesystem::path &journal, std::string_vi
     JournalFile file;
     if (const std::error_code error = file.open(journal)) {
         survey.fault = error == std::errc::illegal_byte_sequence
-                           ? "it is no journal that this version can read"
+                           ? translated("recovery", "it is no journal that this version can read")
                            : error.message();
         return survey;
     }
@@ -88,7 +89,7 @@ JournalSurvey surveyJournal(const std::filesystem::path &journal, std::string_vi
     const auto start =
         frame && frame->kind == FrameKind::Start ? startFrom(frame->payload) : std::nullopt;
     if (!start) {
-        survey.fault = "the journal is damaged from its start on";
+        survey.fault = translated("recovery", "the journal is damaged from its start on");
         return survey;
     }
     survey.start = *start;

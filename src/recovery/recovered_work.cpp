@@ -4,6 +4,7 @@
 #include "persistence/xml_store.h"
 #include "platform/atomic_file.h"
 #include "platform/input_file.h"
+#include "platform/translation.h"
 #include "recovery/journal_replay.h"
 #include "recovery/recovery_recorder.h"
 #include "recovery/work_merge.h"
@@ -58,13 +59,13 @@ void copyFile(const fs::path &from, const fs::path &to, FileSystem &files) {
 
 /// Why the work cannot be brought back, a sentence without its full stop; "" if it can.
 std::string faultOf(const JournalSurvey &survey, bool hasStart) {
-    return !survey.fault.empty() || hasStart ? survey.fault
-                                             : "the library that it goes on from is not there any "
-                                               "more";
+    return !survey.fault.empty() || hasStart
+               ? survey.fault
+               : translated("recovery", "the library that it goes on from is not there any more");
 }
 
 std::string sentence(const fs::path &path, const std::string &fault) {
-    return path.string() + ": " + fault + ".";
+    return filled(translated("recovery", "%1: %2."), {path.string(), fault});
 }
 
 Date timeOf(const fs::path &file) {
@@ -137,7 +138,7 @@ std::optional<std::string> RecoveredWork::bringBack(const RecoveryOffer &offer) 
     replay.run(work.journal(), survey, *start);
     {
         const RecoveryRecorder::Pause pause(recorder_);
-        const UndoGroup group(library_, "Bring Back Unsaved Work");
+        const UndoGroup group(library_, translated("recovery", "Bring Back Unsaved Work"));
         WorkMerge(library_, replay, loadedEnd_).run();
     }
     if (std::optional<std::string> error = recorder_.writeBase()) {

@@ -4,6 +4,7 @@
 #include "persistence/record.h"
 #include "persistence/undo_manager.h"
 #include "persistence/xml_store.h"
+#include "platform/translation.h"
 #include "store/image.h"
 #include "store/offset.h"
 #include "store/track_part.h"
@@ -188,7 +189,8 @@ void RecoveryRecorder::fail(const std::string &reason) {
     needsBase_ = true;
     nextAttempt_ = Clock::now() + retryInterval_;
     if (!std::exchange(hasFailed_, true)) {
-        failed.emit("Unsaved work cannot be kept on the disk: " + reason);
+        failed.emit(filled(translated("recovery", "Unsaved work cannot be kept on the disk: %1"),
+                           {reason}));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "saving/metadata_tool.h"
 
+#include "platform/translation.h"
 #include "saving/argument_lines.h"
 #include "saving/copy_names.h"
 #include "saving/long_values.h"
@@ -145,7 +146,8 @@ ToolResult MetadataTool::write(std::vector<std::string> arguments, const FileTim
     if (const std::error_code error =
             longValues.moveOut(arguments, pool_ ? fitsEverywhere : LongValues::fitsOnCommandLine)) {
         return {ToolResult::End::NotWritten,
-                "A long text could not be handed to ExifTool: " + error.message()};
+                filled(translated("saving", "A long text could not be handed to ExifTool: %1"),
+                       {error.message()})};
     }
     ToolResult result;
     {
@@ -166,8 +168,10 @@ ToolResult MetadataTool::write(std::vector<std::string> arguments, const FileTim
 }
 
 std::string toolMissingMessage() {
-    return "ExifTool, which writes the data into the copies, is not installed. On Debian and "
-           "Ubuntu, install it with: sudo apt install libimage-exiftool-perl";
+    return translated("saving",
+                      "ExifTool, which writes the data into the copies, is not installed. On "
+                      "Debian and Ubuntu, install it with: sudo apt install "
+                      "libimage-exiftool-perl");
 }
 
 } // namespace pinmora

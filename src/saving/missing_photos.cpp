@@ -1,6 +1,7 @@
 #include "saving/missing_photos.h"
 
 #include "persistence/undo_group.h"
+#include "platform/translation.h"
 #include "saving/folder_search.h"
 #include "saving/missing_words.h"
 
@@ -52,8 +53,9 @@ MissingPhotos::MissingPhotos(Context &context, ArrayController<image> &pictureAr
     missingImages.setFilter(isMissing);
     context_.addObserver(*this, {.entity = &image::description()});
     OpenPanel &panel = outlets.findInFolderPanel;
-    panel.title = "Choose the Folder to Search";
-    panel.prompt = "Search";
+    panel.title = translated("saving", "Choose the Folder to Search");
+    //: the button that takes the chosen folder
+    panel.prompt = translated("saving", "Search");
     panel.canChooseFiles = false;
     panel.canChooseDirectories = true;
     connectButtons();
@@ -170,7 +172,7 @@ void MissingPhotos::updatePict() {
     }
     const std::size_t position = selectedPosition();
     {
-        const UndoGroup group(context_, "Relink Photo");
+        const UndoGroup group(context_, translated("saving", "Relink Photo"));
         relink(*photo, path);
     }
     outlets_.findOutcome.text.set("");
@@ -192,7 +194,9 @@ void MissingPhotos::removePhotos(const std::vector<image *> &photos) {
     }
     const std::size_t position = selectedPosition();
     {
-        const UndoGroup group(context_, photos.size() == 1 ? "Remove Picture" : "Remove Pictures");
+        const UndoGroup group(context_, photos.size() == 1
+                                            ? translated("saving", "Remove Picture")
+                                            : translated("saving", "Remove Pictures"));
         missingImages.removeObjects(std::vector<image *>(photos));
     }
     outlets_.findOutcome.text.set("");
@@ -281,7 +285,9 @@ void MissingPhotos::relinkFound(const std::vector<std::uint32_t> &serials,
     }
     const std::size_t position = selectedPosition();
     if (!placeOf.empty()) {
-        const UndoGroup group(context_, placeOf.size() == 1 ? "Relink Photo" : "Relink Photos");
+        const UndoGroup group(context_, placeOf.size() == 1
+                                            ? translated("saving", "Relink Photo")
+                                            : translated("saving", "Relink Photos"));
         for (image *photo : std::vector<image *>(missingImages.arrangedObjects())) {
             if (const auto place = placeOf.find(photo->serial()); place != placeOf.end()) {
                 relink(*photo, place->second);

@@ -1,5 +1,7 @@
 #include "saving/missing_words.h"
 
+#include "platform/translation.h"
+
 #include <filesystem>
 
 namespace pinmora {
@@ -10,19 +12,19 @@ std::string searchingText(const std::string &searched, const std::string &folder
     if (name.empty() || name == ".") {
         name = root.has_filename() ? root.filename().string() : searched;
     }
-    return "Searching " + name + "…";
+    return filled(translated("saving", "Searching %1…"), {name});
 }
 
 std::string foundText(std::size_t found, std::size_t wanted) {
-    const std::string all = std::to_string(wanted);
     if (found == 0) {
-        return wanted == 1 ? "The photo was not found there."
-                           : "None of the " + all + " was found there.";
+        return translated("saving", "None of the %n was found there.",
+                          "The photo was not found there.", wanted);
     }
     if (found < wanted) {
-        return std::to_string(found) + " of " + all + " found.";
+        return filled(translated("saving", "%n of %1 found.", "%n of %1 found.", found),
+                      {std::to_string(wanted)});
     }
-    return wanted == 1 ? "The photo was found." : "All " + all + " found.";
+    return translated("saving", "All %n found.", "The photo was found.", wanted);
 }
 
 } // namespace pinmora

@@ -1,10 +1,12 @@
 #include "saving/photo_copy.h"
 
+#include "platform/translation.h"
 #include "saving/copy_names.h"
 #include "saving/hidden_copy.h"
 #include "saving/same_bytes.h"
 
 #include <sys/stat.h>
+#include <utility>
 
 namespace pinmora {
 
@@ -16,7 +18,8 @@ std::string copyFailure(const std::error_code &error, const fs::path &source) {
     std::error_code ignored;
     const bool missing =
         error == std::errc::no_such_file_or_directory && !fs::exists(source, ignored);
-    return "Not copied: " + (missing ? "the original is missing" : error.message());
+    return missing ? translated("saving", "Not copied: the original is missing")
+                   : filled(translated("saving", "Not copied: %1"), {error.message()});
 }
 
 FileIdentity identityOf(const fs::path &file) {
@@ -29,8 +32,8 @@ bool isLackOfRoom(const std::error_code &error) {
     return error == std::errc::no_space_on_device || error.value() == EDQUOT;
 }
 
-PhotoCopy stillDoubtful(PhotoCopy copy, const std::string &why) {
-    copy.failure = "the copy may be damaged, and " + why;
+PhotoCopy stillDoubtful(PhotoCopy copy, std::string why) {
+    copy.failure = std::move(why);
     return copy;
 }
 
@@ -67,7 +70,8 @@ PhotoCopy madeWhole(const PhotoCopy &copy, const PhotoSnapshot &photo) {
     }
     std::error_code error;
     if (!fs::exists(photo.source, error)) {
-        return stillDoubtful(copy, "the original is missing");
+        return stillDoubtful(
+            copy, translated("saving", "the copy may be damaged, and the original is missing"));
     }
     if (haveSameBytes(photo.source, copy.path)) {
         return copy;
@@ -86,7 +90,10 @@ PhotoCopy madeWhole(const PhotoCopy &copy, const PhotoSnapshot &photo) {
         }
     }
     if (!isLackOfRoom(error)) {
-        return stillDoubtful(copy, "cannot be made again: " + error.message());
+        return stillDoubtful(
+            copy,
+            filled(translated("saving", "the copy may be damaged, and cannot be made again: %1"),
+                   {error.message()}));
     }
     fs::remove(copy.path, error);
     return copyPhoto(photo, folder);

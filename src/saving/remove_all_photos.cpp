@@ -1,8 +1,8 @@
 #include "saving/remove_all_photos.h"
 
+#include "platform/translation.h"
 #include "store/library.h"
 
-#include <string>
 #include <utility>
 
 namespace pinmora {
@@ -18,9 +18,8 @@ RemoveAllPhotos::RemoveAllPhotos(Library &library, WorkingWindow workingWindow,
 void RemoveAllPhotos::openRemoveAll() {
     const std::size_t photos = library_.managedObjectContext().count<image>();
     if (photos > 0) {
-        question.text.set(photos == 1 ? "Remove the photo from the library?"
-                                      : "Remove all " + std::to_string(photos) +
-                                            " photos from the library?");
+        question.text.set(translated("saving", "Remove all %n photos from the library?",
+                                     "Remove the photo from the library?", photos));
         removeAllWindow.begin(workingWindow_());
     }
 }

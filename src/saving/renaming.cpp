@@ -2,6 +2,7 @@
 
 #include "persistence/context.h"
 #include "persistence/undo_group.h"
+#include "platform/translation.h"
 #include "saving/saving.h"
 #include "store/image.h"
 
@@ -40,7 +41,7 @@ void Renaming::changeAllNames() {
 
 void Renaming::revertPhotoNames() {
     outlets_.nameChange.end();
-    const UndoGroup group(context_, "Use Original Names");
+    const UndoGroup group(context_, translated("saving", "Use Original Names"));
     for (image *photo : std::vector(outlets_.pictureArray.arrangedObjects())) {
         photo->setImage_name(photo->original_name());
     }
@@ -49,7 +50,7 @@ void Renaming::revertPhotoNames() {
 /// Text that is unfit elsewhere is no reason not to rename.
 void Renaming::updateThesePict(const std::vector<image *> &photos) {
     context_.commitEditing();
-    const UndoGroup group(context_, "Rename Photos");
+    const UndoGroup group(context_, translated("saving", "Rename Photos"));
     saving_.updateThesePict(photos, std::vector(outlets_.pictureArray.arrangedObjects()),
                             baseName());
 }

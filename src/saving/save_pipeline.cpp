@@ -5,6 +5,7 @@
 #include "outlets/workspace.h"
 #include "persistence/context.h"
 #include "platform/defaults.h"
+#include "platform/translation.h"
 #include "saving/missing_photos.h"
 #include "saving/save_pipeline_run.h"
 #include "saving/save_words.h"
@@ -36,15 +37,16 @@ SavePipeline::SavePipeline(SaveOutlets &outlets, SaveSurroundings surroundings)
                      [this] { finish(); });
     connections_.push_back(outlets.cancelSaveButton.pressed.connect([this] { cancelSave(); }));
     OpenPanel &chooser = outlets.folderChooser;
-    chooser.title = "Choose a Folder for the Copies of Your Photos";
-    chooser.prompt = "Save Here";
+    chooser.title = translated("saving", "Choose a Folder for the Copies of Your Photos");
+    //: the button that takes the chosen folder
+    chooser.prompt = translated("saving", "Save Here");
     chooser.allowedTypes = {"jpg", "JPG"};
     chooser.canChooseFiles = false;
     chooser.canChooseDirectories = true;
     chooser.canCreateDirectories = true;
     chooser.accessory.visible.set(true);
-    chooser.accessory.title.set(
-        "Remove the position that a photo's file has when the photo has none here");
+    chooser.accessory.title.set(translated(
+        "saving", "Remove the position that a photo's file has when the photo has none here"));
 }
 
 SavePipeline::~SavePipeline() = default;
@@ -55,7 +57,8 @@ void SavePipeline::updatePicts() {
         return;
     }
     if (!parts_.saving.hasTool()) {
-        parts_.errors.present("Photos cannot be saved yet.", toolMissingMessage());
+        parts_.errors.present(translated("saving", "Photos cannot be saved yet."),
+                              toolMissingMessage());
         return;
     }
     if (!parts_.missing.validateSavedDataZem() && !passesOverCheck) {

@@ -1,3 +1,4 @@
+#include "platform/translation.h"
 #include "saving/save_pipeline_run.h"
 
 #include "outlets/quiet_bar.h"
@@ -33,7 +34,7 @@ void SavePipeline::finish() {
     progress_.end();
     outlets_.savePhotosButton.enabled.set(true);
     if (!hasBegun) {
-        sumUp(run->quits, "Cancelled: nothing was saved.", {});
+        sumUp(run->quits, translated("saving", "Cancelled: nothing was saved."), {});
     } else if (!run->outcome.refusal.empty()) {
         parts_.flags.firstQuit = true;
         parts_.log.append(run->outcome.refusal);
@@ -52,18 +53,19 @@ void SavePipeline::settle(const Run &run) {
     if (sum.isWhole()) {
         parts_.exported(run.moment);
     } else {
-        parts_.log.append(run.folder.native() + ": " + text);
+        parts_.log.append(filled(translated("saving", "%1: %2"), {run.folder.native(), text}));
     }
     parts_.library.deleteTempStore();
     markFailures(run);
     std::vector<BarMessage::Choice> choices;
     if (sum.failed > 0 || !sum.notOnDisk.empty()) {
-        choices.push_back({"Show", parts_.showLog});
+        //: a button: shows the log of what went wrong
+        choices.push_back({translated("saving", "Show"), parts_.showLog});
     } else if (sum.saved > 0) {
-        choices.push_back(
-            {"Open Folder", [&workspace = parts_.workspace, folder = run.folder.native()] {
-                 workspace.openFile(folder);
-             }});
+        choices.push_back({translated("saving", "Open Folder"),
+                           [&workspace = parts_.workspace, folder = run.folder.native()] {
+                               workspace.openFile(folder);
+                           }});
     }
     sumUp(run.quits && !sum.isWhole(), text, std::move(choices));
     if (run.quits && sum.isWhole()) {
@@ -89,10 +91,11 @@ void SavePipeline::markFailures(const Run &run) {
 
 void SavePipeline::sumUp(bool hasNotQuit, const std::string &text,
                          std::vector<BarMessage::Choice> choices) {
-    parts_.quietBar.post({.subject = saveSubject,
-                          .head = {},
-                          .text = text + (hasNotQuit ? " Pinmora has not quit." : ""),
-                          .choices = std::move(choices)});
+    parts_.quietBar.post(
+        {.subject = saveSubject,
+         .head = {},
+         .text = hasNotQuit ? text + " " + translated("saving", "Pinmora has not quit.") : text,
+         .choices = std::move(choices)});
 }
 
 } // namespace pinmora

@@ -1,6 +1,7 @@
 #include "saving/save_progress.h"
 
 #include "outlets/status_line.h"
+#include "platform/translation.h"
 #include "saving/save_words.h"
 
 #include <utility>
@@ -29,7 +30,7 @@ void SaveProgress::waitsForNames(std::size_t names) {
 
 void SaveProgress::begins(std::size_t count) {
     count_ = count;
-    outlets_.saveWhatDoing.text.set("Copying files and adding data");
+    outlets_.saveWhatDoing.text.set(translated("saving", "Copying files and adding data"));
     ProgressBar &bar = outlets_.saveIndicator;
     bar.minimum.set(0);
     bar.maximum.set(static_cast<double>(count));
@@ -48,11 +49,11 @@ void SaveProgress::beginsPhoto(std::size_t index) {
 
 void SaveProgress::cancels() {
     outlets_.cancelSaveButton.enabled.set(false);
-    outlets_.saveWhatDoing.text.set("Cancelling");
+    outlets_.saveWhatDoing.text.set(translated("saving", "Cancelling"));
 }
 
 void SaveProgress::copied() {
-    outlets_.saveWhatDoing.text.set("Updating icons");
+    outlets_.saveWhatDoing.text.set(translated("saving", "Updating icons"));
     outlets_.saveWindow.display();
     endSheet();
     showStatus();

@@ -2,6 +2,7 @@
 
 #include "photos/file_names.h"
 #include "platform/file_descriptor.h"
+#include "platform/translation.h"
 #include "saving/metadata_arguments.h"
 #include "saving/photo_copy.h"
 
@@ -58,7 +59,7 @@ SavedPhoto tag(const MetadataTool &tool, std::size_t index, const PhotoSnapshot 
     using End = ToolResult::End;
     if (result.end == End::NotWritten || result.end == End::Doubtful) {
         saved.status = Status::Failed;
-        saved.message = "Copied, but not tagged: " + result.words;
+        saved.message = filled(translated("saving", "Copied, but not tagged: %1"), {result.words});
     }
     if (result.end == End::Doubtful) {
         const PhotoCopy whole = madeWhole(copy, photo);
@@ -104,7 +105,8 @@ SaveOutcome SaveRun::run(const std::vector<PhotoSnapshot> &photos) {
     pool.setMaxThreadCount(QThread::idealThreadCount());
     for (std::size_t index = 0; index < photos.size(); ++index) {
         if (observer_.stopped && observer_.stopped()) {
-            ended.put({index, std::nullopt, Status::Stopped, "Not copied: the run was stopped"});
+            ended.put({index, std::nullopt, Status::Stopped,
+                       translated("saving", "Not copied: the run was stopped")});
         } else {
             begin(index, photos, ended, pool);
         }

@@ -1,5 +1,7 @@
 #include "saving/save_words.h"
 
+#include "platform/translation.h"
+
 #include <utility>
 
 namespace pinmora {
@@ -8,10 +10,6 @@ namespace {
 
 using Status = SavedPhoto::Status;
 
-std::string photosText(std::size_t count) {
-    return std::to_string(count) + (count == 1 ? " photo" : " photos");
-}
-
 std::string nameOf(const std::filesystem::path &folder) {
     const std::filesystem::path name = folder.filename();
     return name.empty() ? folder.native() : name.native();
@@ -19,17 +17,18 @@ std::string nameOf(const std::filesystem::path &folder) {
 
 std::string savedText(const SaveSum &sum, const std::filesystem::path &folder) {
     if (sum.photos == 0) {
-        return "No photos were saved: there are none.";
+        return translated("saving", "No photos were saved: there are none.");
     }
     if (sum.isWhole() && sum.saved == sum.photos) {
-        return photosText(sum.photos) + " saved in " + nameOf(folder) + ".";
+        return filled(
+            translated("saving", "%n photos saved in %1.", "%n photo saved in %1.", sum.photos),
+            {nameOf(folder)});
     }
-    return (sum.stopped > 0 ? "Cancelled: " : "") + ofText(sum.saved, sum.photos) + " saved.";
-}
-
-std::string skippedText(std::size_t count) {
-    return count == 1 ? " 1 was left out: its file is missing."
-                      : " " + std::to_string(count) + " were left out: their files are missing.";
+    const std::string words =
+        sum.stopped > 0 ? translated("saving", "Cancelled: %n of %1 saved.",
+                                     "Cancelled: %n of %1 saved.", sum.saved)
+                        : translated("saving", "%n of %1 saved.", "%n of %1 saved.", sum.saved);
+    return filled(words, {std::to_string(sum.photos)});
 }
 
 } // namespace
@@ -57,32 +56,39 @@ SaveSum sumOf(const SaveOutcome &outcome) {
 
 std::string sumText(const SaveSum &sum, const std::filesystem::path &folder) {
     std::string text = savedText(sum, folder);
+    const auto add = [&text](const std::string &sentence) { text.append(" ").append(sentence); };
     if (sum.failed > 0) {
-        text += " " + std::to_string(sum.failed) + " could not be written.";
+        add(translated("saving", "%n could not be written.", "%n could not be written.",
+                       sum.failed));
     }
     if (sum.skipped > 0) {
-        text += skippedText(sum.skipped);
+        add(translated("saving", "%n were left out: their files are missing.",
+                       "%n was left out: its file is missing.", sum.skipped));
     }
     if (!sum.notOnDisk.empty()) {
-        text += " The copies may not all be on the disk: " + sum.notOnDisk + ".";
+        add(filled(translated("saving", "The copies may not all be on the disk: %1."),
+                   {sum.notOnDisk}));
     }
     return text;
 }
 
 std::string ofText(std::size_t part, std::size_t whole) {
-    return std::to_string(part) + " of " + std::to_string(whole);
+    return filled(translated("saving", "%1 of %2"), {std::to_string(part), std::to_string(whole)});
 }
 
 std::string waitingText(std::size_t names) {
-    return "Waiting for place names: " + std::to_string(names) + " to go";
+    return translated("saving", "Waiting for place names: %n to go",
+                      "Waiting for place names: %n to go", names);
 }
 
 std::string writingText(std::size_t done, std::size_t photos) {
-    return "Writing positions: " + ofText(done, photos);
+    return filled(translated("saving", "Writing positions: %1 of %2"),
+                  {std::to_string(done), std::to_string(photos)});
 }
 
 std::string quittingText(std::size_t done, std::size_t photos) {
-    return "Pinmora quits when the copies are written: " + ofText(done, photos);
+    return filled(translated("saving", "Pinmora quits when the copies are written: %1 of %2"),
+                  {std::to_string(done), std::to_string(photos)});
 }
 
 std::string logLine(const PhotoSnapshot &photo, const SavedPhoto &saved) {
@@ -91,11 +97,11 @@ std::string logLine(const PhotoSnapshot &photo, const SavedPhoto &saved) {
     if (!isTold) {
         return {};
     }
-    std::string line = photo.source.native();
     if (saved.savedAs) {
-        line += ", saved as " + saved.savedAs->native();
+        return filled(translated("saving", "%1, saved as %2: %3"),
+                      {photo.source.native(), saved.savedAs->native(), saved.message});
     }
-    return line + ": " + saved.message;
+    return filled(translated("saving", "%1: %2"), {photo.source.native(), saved.message});
 }
 
 } // namespace pinmora

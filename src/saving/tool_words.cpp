@@ -1,5 +1,7 @@
 #include "saving/tool_words.h"
 
+#include "platform/translation.h"
+
 #include <algorithm>
 #include <string_view>
 #include <system_error>
@@ -69,19 +71,22 @@ std::string toolWords(const ProcessOutcome &outcome, const std::filesystem::path
     switch (outcome.end) {
     case End::Exited:
         if (outcome.code != 0 && words.empty()) {
-            words = "ExifTool ended with status " + std::to_string(outcome.code);
+            words = filled(translated("saving", "ExifTool ended with status %1"),
+                           {std::to_string(outcome.code)});
         }
         break;
     case End::Crashed:
         append(words, outcome.code == 0
-                          ? "ExifTool ended before it was done"
-                          : "ExifTool was ended by signal " + std::to_string(outcome.code));
+                          ? translated("saving", "ExifTool ended before it was done")
+                          : filled(translated("saving", "ExifTool was ended by signal %1"),
+                                   {std::to_string(outcome.code)}));
         break;
     case End::TimedOut:
-        append(words, "ExifTool took too long and was ended");
+        append(words, translated("saving", "ExifTool took too long and was ended"));
         break;
     case End::NotStarted:
-        words = "ExifTool could not be started: " + std::generic_category().message(outcome.code);
+        words = filled(translated("saving", "ExifTool could not be started: %1"),
+                       {std::generic_category().message(outcome.code)});
         break;
     }
     return words;

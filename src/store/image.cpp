@@ -2,6 +2,7 @@
 
 #include "platform/date.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 #include "store/calendar_formats.h"
 #include "store/library_model.h"
 
@@ -92,7 +93,7 @@ void image::setLocationDetails() {
 }
 
 std::string image::zoomtext() const {
-    return "Map zoom level " + std::to_string(zoom().value_or(0));
+    return filled(translated("store", "Map zoom level %1"), {std::to_string(zoom().value_or(0))});
 }
 
 std::string image::theDateString() const {

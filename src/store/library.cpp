@@ -2,6 +2,7 @@
 
 #include "persistence/undo_group.h"
 #include "platform/application_support.h"
+#include "platform/translation.h"
 
 #include <QLoggingCategory>
 
@@ -37,7 +38,7 @@ StoreCoordinator &Library::persistentStoreCoordinator() {
         context_ = std::make_unique<Context>(managedObjectModel());
         coordinator_ = std::make_unique<StoreCoordinator>(files_);
         if (const auto error = coordinator_->addPersistentStore(storeFile(), *context_)) {
-            presentError("Your library could not be opened.", *error);
+            presentError(translated("store", "Your library could not be opened."), *error);
         }
     }
     return *coordinator_;
@@ -63,7 +64,7 @@ LibraryArrays &Library::arrays() {
 }
 
 void Library::removeAllGPSData() {
-    const UndoGroup group(managedObjectContext(), "Remove All GPS Data");
+    const UndoGroup group(managedObjectContext(), translated("store", "Remove All GPS Data"));
     auto &tracks = arrays_->gpsTrackArrayController;
     tracks.removeObjects(std::vector<track *>(tracks.arrangedObjects()));
     GPSFileButton.enabled.set(true);
@@ -84,7 +85,7 @@ bool Library::saveAction() {
         unsaved_->willSave(state);
     }
     if (const auto error = coordinator_->save(context, state)) {
-        presentError("Your library could not be saved.", *error);
+        presentError(translated("store", "Your library could not be saved."), *error);
         return false;
     }
     context.commitChanges();
@@ -109,7 +110,7 @@ void Library::deleteTempStore() {
 void Library::emptyTempStore() {
     Context &context = managedObjectContext();
     {
-        const UndoGroup group(context, "Remove All Photos");
+        const UndoGroup group(context, translated("store", "Remove All Photos"));
         for (image *photo : context.fetch<image>()) {
             context.deleteObject(*photo);
         }

@@ -1,6 +1,7 @@
 #include "store/store_coordinator.h"
 
 #include "platform/atomic_file.h"
+#include "platform/translation.h"
 
 namespace pinmora {
 
@@ -16,8 +17,9 @@ std::optional<StoreError> StoreCoordinator::addPersistentStore(const std::filesy
     const std::error_code error = lock_.acquire(lockFile.replace_extension(".lock"));
     isOurs_ = error != std::errc::operation_would_block;
     if (!isOurs_) {
-        return StoreError{
-            .path = file, .reason = "another Pinmora has this library open", .code = error};
+        return StoreError{.path = file,
+                          .reason = translated("store", "another Pinmora has this library open"),
+                          .code = error};
     }
     // Any other error: some file systems know no locks, others may only be read. Better an
     // unguarded library than none.
@@ -36,8 +38,9 @@ std::string StoreCoordinator::storeState() const {
 std::optional<StoreError> StoreCoordinator::save(const Context &context, std::string_view state) {
     if (!store_) {
         return StoreError{.path = file_,
-                          .reason = "it could not be opened when Pinmora started, so nothing is "
-                                    "written to it",
+                          .reason = translated(
+                              "store", "it could not be opened when Pinmora started, so nothing is "
+                                       "written to it"),
                           .code = {}};
     }
     return store_->write(context, state);

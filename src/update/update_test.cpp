@@ -2,6 +2,7 @@
 
 #include "platform/defaults.h"
 #include "platform/property_list.h"
+#include "platform/translation.h"
 #include "update/check_date.h"
 #include "update/proposed_name.h"
 
@@ -52,10 +53,10 @@ void updateTest::checkNewVersion(const ProgDict &theDict) {
     menuCheck_ = true;
     downloadButton.enabled.set(false);
     theProgDict_ = theDict;
-    theWindow.title.set(progName() + " - version check");
+    theWindow.title.set(filled(translated("update", "%1 - version check"), {progName()}));
     theMessage.text.set("");
     theMessageHeader.text.set("");
-    progText.text.set("Checking...");
+    progText.text.set(translated("update", "Checking..."));
     progIndic.visible.set(true);
     progIndic.animating.set(true);
     theWindow.makeKeyAndOrderFront();
@@ -66,8 +67,9 @@ void updateTest::newVersion(const ProgDict &description) {
     theProgDict_ = description;
     if (textIn(theProgDict_, "progPlist").empty()) {
         if (menuCheck_) {
-            showFailure("No address for version information is set. The setting "
-                        "\"versionInfoURL\" takes one.");
+            showFailure(translated("update",
+                                   "No address for version information is set. The setting "
+                                   "\"versionInfoURL\" takes one."));
         }
         return;
     }
@@ -93,7 +95,8 @@ void updateTest::newVersionCheck() {
     if (theConnection_) {
         receivedData_.clear();
     } else {
-        didFailWithError("The address of the version information is not one on the web.");
+        didFailWithError(
+            translated("update", "The address of the version information is not one on the web."));
     }
 }
 
@@ -105,10 +108,12 @@ void updateTest::didReceiveResponse(const UrlResponse &response) {
     }
     theConnection_->cancel();
     if (std::exchange(menuCheck_, false)) {
-        showFailure("The error reported was!  Sorry about that.  The error is a  \"" +
-                    std::to_string(response.statusCode) +
-                    "\", whatever that means!  Please try again later or report the error to "
-                    "Velder.");
+        showFailure(filled(
+            translated(
+                "update",
+                "The error reported was!  Sorry about that.  The error is a  \"%1\", whatever that "
+                "means!  Please try again later or report the error to Velder."),
+            {std::to_string(response.statusCode)}));
     }
 }
 
@@ -116,16 +121,18 @@ void updateTest::didReceiveData(std::string_view bytes) {
     receivedData_ += bytes;
     if (receivedData_.size() > largestPropertyList) {
         theConnection_->cancel();
-        didFailWithError("The version information is longer than a megabyte.");
+        didFailWithError(
+            translated("update", "The version information is longer than a megabyte."));
     } else if (menuCheck_) {
-        progText.text.set("Receiving data....");
+        progText.text.set(translated("update", "Receiving data...."));
     }
 }
 
 void updateTest::didFailWithError(const std::string &localizedDescription) {
     receivedData_.clear();
     if (menuCheck_) {
-        showFailure("The error reported was: \"" + localizedDescription + "\".");
+        showFailure(filled(translated("update", "The error reported was: \"%1\"."),
+                           {localizedDescription}));
     }
 }
 
@@ -155,28 +162,33 @@ void updateTest::connectionDidFinishLoading() {
 void updateTest::showUpToDate() {
     menuCheck_ = false;
     downloadButton.enabled.set(false);
-    theWindow.title.set(progName() + " - version check complete");
-    theMessage.text.set("You are using version " + bundleVersion_ +
-                        ", which is the most up-to-date version of " + progName() + ".");
-    theMessageHeader.text.set(progName() + " is up-to-date");
+    theWindow.title.set(filled(translated("update", "%1 - version check complete"), {progName()}));
+    theMessage.text.set(
+        filled(translated("update",
+                          "You are using version %1, which is the most up-to-date version of %2."),
+               {bundleVersion_, progName()}));
+    theMessageHeader.text.set(filled(translated("update", "%1 is up-to-date"), {progName()}));
     stopAndShow();
 }
 
 void updateTest::showUpdate(const std::string &version) {
-    theWindow.title.set(progName() + " - version " + version + " now available");
-    theMessage.text.set("Version " + version +
-                        " is now available for download from Velder.  To download just click on "
-                        "the download button below.");
-    theMessageHeader.text.set(progName() + " update available");
+    theWindow.title.set(
+        filled(translated("update", "%1 - version %2 now available"), {progName(), version}));
+    theMessage.text.set(
+        filled(translated("update", "Version %1 is now available for download from Velder.  To "
+                                    "download just click on the download button below."),
+               {version}));
+    theMessageHeader.text.set(filled(translated("update", "%1 update available"), {progName()}));
     stopAndShow();
 }
 
 void updateTest::showFailure(const std::string &message) {
     menuCheck_ = false;
     downloadButton.enabled.set(false);
-    theWindow.title.set(progName() + " - version check failed");
+    theWindow.title.set(filled(translated("update", "%1 - version check failed"), {progName()}));
     theMessage.text.set(message);
-    theMessageHeader.text.set(progName() + " version check failed");
+    theMessageHeader.text.set(
+        filled(translated("update", "%1 version check failed"), {progName()}));
     stopAndShow();
 }
 
@@ -189,7 +201,7 @@ void updateTest::stopAndShow() {
 
 void updateTest::downloadBut() {
     menuCheck_ = false;
-    savePanel.title = "Download " + progName();
+    savePanel.title = filled(translated("update", "Download %1"), {progName()});
     savePanel.nameFieldStringValue = proposedName(textIn(theProgDict_, "progDownload"));
     savePanel.beginSheet(theWindow, [this](SavePanel &panel, int returnCode) {
         savePanelDidEnd(panel, returnCode);

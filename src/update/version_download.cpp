@@ -1,6 +1,7 @@
 #include "update/version_download.h"
 
 #include "platform/atomic_file.h"
+#include "platform/translation.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -22,7 +23,8 @@ void versionDownload::getNewVersion(const ProgDict &description, const std::stri
     doDownLoad_ = true;
     fileLocation_ = path;
     theProgDict_ = description;
-    theMessageHeader.text.set("Downloading " + textIn(theProgDict_, "progName"));
+    theMessageHeader.text.set(
+        filled(translated("update", "Downloading %1"), {textIn(theProgDict_, "progName")}));
     clearLines();
     downloadIndic.value.set(0);
     downloadIndic.visible.set(true);
@@ -38,7 +40,8 @@ void versionDownload::startDownLoad() {
     if (theConnection_) {
         receivedData_.clear();
     } else {
-        didFailWithError("The address of the download is not one on the web.");
+        didFailWithError(
+            translated("update", "The address of the download is not one on the web."));
     }
 }
 
@@ -48,7 +51,8 @@ void versionDownload::didReceiveResponse(const UrlResponse &response) {
     downloadOK_ = response.statusCode == ok;
     if (!downloadOK_) {
         theConnection_->cancel();
-        showError("The error reported was: \"" + std::to_string(response.statusCode) + "\".");
+        showError(filled(translated("update", "The error reported was: \"%1\"."),
+                         {std::to_string(response.statusCode)}));
         return;
     }
     const std::int64_t kilobytes = response.contentLength / kilobyte + 1;
@@ -61,8 +65,8 @@ void versionDownload::didReceiveResponse(const UrlResponse &response) {
 void versionDownload::didReceiveData(std::string_view bytes) {
     receivedData_ += bytes;
     const auto kilobytes = static_cast<std::int64_t>(receivedData_.size()) / kilobyte;
-    theStateMessage.text.set("Receiving data.... (" + std::to_string(kilobytes) + " kb of " +
-                             contentLength_ + " kb)");
+    theStateMessage.text.set(filled(translated("update", "Receiving data.... (%1 kb of %2 kb)"),
+                                    {std::to_string(kilobytes), contentLength_}));
     downloadIndic.value.set(static_cast<double>(kilobytes));
     if (!doDownLoad_) {
         theConnection_->cancel();
@@ -70,7 +74,8 @@ void versionDownload::didReceiveData(std::string_view bytes) {
 }
 
 void versionDownload::didFailWithError(const std::string &localizedDescription) {
-    showError("The error reported was: \"" + localizedDescription + "\".");
+    showError(
+        filled(translated("update", "The error reported was: \"%1\"."), {localizedDescription}));
 }
 
 void versionDownload::connectionDidFinishLoading() {
@@ -83,14 +88,14 @@ void versionDownload::connectionDidFinishLoading() {
 
 /// The disk may keep the main thread for a while, so the line is drawn before.
 void versionDownload::writeToDisk() {
-    theStateMessage.text.set("Writing to disk!");
+    theStateMessage.text.set(translated("update", "Writing to disk!"));
     theDownloadWindow.display();
     const std::error_code error = writeAtomically(fileLocation_, receivedData_);
     std::string().swap(receivedData_);
     clearLines();
     downloadIndic.animating.set(false);
     if (error) {
-        theErrorMessage.text.set("Error writing to disk!");
+        theErrorMessage.text.set(translated("update", "Error writing to disk!"));
     } else {
         closeSheet();
     }
@@ -112,7 +117,8 @@ void versionDownload::showError(const std::string &message) {
     contentLength_.clear();
     theStateMessage.text.set("");
     theErrorMessage.text.set(message);
-    theMessageHeader.text.set(textIn(theProgDict_, "progName") + " version check failed");
+    theMessageHeader.text.set(filled(translated("update", "%1 version check failed"),
+                                     {textIn(theProgDict_, "progName")}));
     downloadIndic.visible.set(true);
     downloadIndic.animating.set(false);
 }
