@@ -9,6 +9,8 @@ mapPage.bearings = (() => {
     const [leftOfTop, rightOfTop] = [48, 220];
     const lineHeight = 16;
     const longestName = 30;
+    const tenths = new Intl.NumberFormat(document.documentElement.lang,
+                                         {minimumFractionDigits: 1, maximumFractionDigits: 1});
 
     /** [left, top, right, bottom] of the view in the pixels of the canvas. */
     function viewOf({width, height}, {x, y}) {
@@ -61,7 +63,7 @@ mapPage.bearings = (() => {
 
     function distanceText(metres) {
         const km = metres / 1000;
-        return `${km < 10 ? km.toFixed(1) : Math.round(km)} km`;
+        return `${km < 10 ? tenths.format(km) : Math.round(km)} km`;
     }
 
     /** A small arrow around that point. */

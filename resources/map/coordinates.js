@@ -4,8 +4,8 @@
 
 mapPage.coordinates = (() => {
     const longest = 200;
-    const unclear = {refused: "That is not clearly one position."};
-    const outside = {refused: "That is no place on Earth."};
+    const unclear = {refused: mapPage.say("That is not clearly one position.")};
+    const outside = {refused: mapPage.say("That is no place on Earth.")};
 
     /** The many marks and spaces in use, each as one. */
     function plain(text) {

@@ -2,11 +2,11 @@
 "use strict";
 
 mapPage.feed = (() => {
-    const {view, tracks, photos, ghosts, pointer, placing} = mapPage;
+    const {say, view, tracks, photos, ghosts, pointer, placing} = mapPage;
     const fitButton = document.getElementById("fit");
 
     function updateFitButton() {
-        const words = tracks.box() ? "Fit to track" : "Fit to photos";
+        const words = tracks.box() ? say("Fit to track") : say("Fit to photos");
         fitButton.disabled = !tracks.box() && !photos.box();
         fitButton.title = words;
         fitButton.setAttribute("aria-label", words);

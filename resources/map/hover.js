@@ -11,7 +11,7 @@ mapPage.hover = (() => {
     function namesOf(photos) {
         const [first, second] = photos.map(({name}) => name.slice(0, longest));
         if (photos.length > 2) {
-            return `${first} and ${photos.length - 1} more`;
+            return mapPage.say("%1 and %2 more", first, photos.length - 1);
         }
         return photos.length === 2 ? `${first}, ${second}` : first;
     }

@@ -8,7 +8,7 @@ mapPage.placing = (() => {
     /** The same while a point of the track is asked for. */
     const reachOfPick = 24;
 
-    const {view, positions, pointer, tracks, status} = mapPage;
+    const {say, view, positions, pointer, tracks, status} = mapPage;
     const {map} = view;
     let selection = {count: 0, clickPlaces: false};
     let picking = false; // the next click is to choose a point of the track
@@ -27,14 +27,16 @@ mapPage.placing = (() => {
 
     /** Seconds of the wall clock that the program shows, which needs no zone of time here. */
     function timeText(seconds) {
-        return new Date(seconds * 1000).toLocaleString("en-GB", {timeZone: "UTC", day: "numeric",
-            month: "short", year: "numeric", hour: "2-digit", minute: "2-digit", second: "2-digit"});
+        return new Date(seconds * 1000).toLocaleString(document.documentElement.lang, {
+            timeZone: "UTC", day: "numeric", month: "short", year: "numeric", hour: "2-digit",
+            minute: "2-digit", second: "2-digit"});
     }
 
     function useButton(point) {
         const button = document.createElement("button");
         button.type = "button";
-        button.textContent = selection.count > 0 ? "Use This Point" : "Select photos first";
+        button.textContent = selection.count > 0 ? say("Use This Point")
+            : say("Select photos first");
         button.disabled = selection.count === 0;
         button.addEventListener("click", () => {
             map.closePopup();
@@ -59,7 +61,7 @@ mapPage.placing = (() => {
         if (trackAt(latlng, reachOfPick)) {
             mapPage.reportPicked(positions.report(latlng.lat, latlng.lng, map.getZoom()));
         } else {
-            status.note("There is no track here. Click on the track, or press Escape.");
+            status.note(say("There is no track here. Click on the track, or press Escape."));
         }
     }
 
@@ -100,7 +102,7 @@ mapPage.placing = (() => {
         event.preventDefault();
         const read = mapPage.coordinates(event.clipboardData?.getData("text/plain") ?? "");
         if (!read || read.refused) {
-            status.note(read?.refused ?? "What was pasted is no position.");
+            status.note(read?.refused ?? say("What was pasted is no position."));
             return;
         }
         go(read);
@@ -143,7 +145,8 @@ mapPage.placing = (() => {
             map.closePopup();
             map.getContainer().classList.toggle("places", on || pointer.isDraft() ||
                                                 selection.clickPlaces);
-            status.setHint(on ? "Click the point of the track where the photo was taken." : "");
+            status.setHint(on
+                ? say("Click the point of the track where the photo was taken.") : "");
         },
         /** {count: how many photos are selected, clickPlaces: whether a click places them} */
         setSelection({count, clickPlaces}) {

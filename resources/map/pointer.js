@@ -7,7 +7,7 @@ mapPage.pointer = (() => {
         '<path class="body" d="M15 38.5C12 31 3 24 3 15a12 12 0 0 1 24 0c0 9-9 16-12 23.5z"/>' +
         '<circle class="eye" cx="15" cy="15" r="4.5"/></svg>';
 
-    const {view, positions} = mapPage;
+    const {say, view, positions} = mapPage;
     let marker = null;
     let isDraft = false;
     let shownLabel = "";
@@ -15,8 +15,9 @@ mapPage.pointer = (() => {
 
     function hint() {
         const count = mapPage.photos.countOfSelected();
-        return count === 0 ? "Select photos first, then add the marker"
-            : `Drag the pin or click the map to place the ${count === 1 ? "photo" : "photos"}`;
+        return count === 0 ? say("Select photos first, then add the marker")
+            : count === 1 ? say("Drag the pin or click the map to place the photo")
+                : say("Drag the pin or click the map to place the photos");
     }
 
     function remove() {
@@ -91,7 +92,7 @@ mapPage.pointer = (() => {
         const element = marker.getElement();
         element.classList.toggle("draft", draft);
         element.setAttribute("role", "button");
-        element.setAttribute("aria-label", draft ? "New position" : label || "Position");
+        element.setAttribute("aria-label", draft ? say("New position") : label || say("Position"));
         if (marker.getTooltip()?.getContent().textContent === label) {
             return; // it may be open, and stays so
         }

@@ -113,7 +113,7 @@ mapPage.search = (() => {
             if (found.length > 0) {
                 go(Math.max(chosen, 0));
             } else {
-                mapPage.status.note("No place of that name is known.");
+                mapPage.status.note(mapPage.say("No place of that name is known."));
             }
         }
     }

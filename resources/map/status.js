@@ -23,7 +23,7 @@ mapPage.status = (() => {
         setSource(text, tryAgain) {
             source.replaceChildren(text);
             if (tryAgain) {
-                source.append(" ", element("button", "Try again",
+                source.append(" ", element("button", mapPage.say("Try again"),
                                            {type: "button", onclick: tryAgain}));
             }
         },

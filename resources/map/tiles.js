@@ -11,6 +11,7 @@ mapPage.tiles = (() => {
     const openStreetMap = "https://www.openstreetmap.org/copyright";
 
     const address = document.querySelector('meta[name="tile-server"]').content;
+    const {say} = mapPage;
     const {map} = mapPage.view;
     let layer = null;
     let online = false; // a tile has come since the last change
@@ -36,10 +37,10 @@ mapPage.tiles = (() => {
 
     function showOnline() {
         mapPage.labels.layer.remove();
-        mapPage.status.setSource("Online map");
+        mapPage.status.setSource(say("Online map"));
         const name = host();
         if (/(^|\.)openstreetmap\.org$/.test(name)) {
-            mapPage.status.setCredits("© OpenStreetMap contributors", openStreetMap);
+            mapPage.status.setCredits(say("© OpenStreetMap contributors"), openStreetMap);
         } else {
             mapPage.status.setCredits(name);
         }
@@ -53,7 +54,7 @@ mapPage.tiles = (() => {
         layer?.remove();
         layer = null;
         online = false;
-        showBundled("Offline map.", tryAgain);
+        showBundled(say("Offline map."), tryAgain);
         retry = setTimeout(goOnline, pause);
         pause = Math.min(2 * pause, longestPause);
     }
@@ -117,7 +118,7 @@ mapPage.tiles = (() => {
     return {
         begin() {
             if (address === "") {
-                showBundled("Bundled map");
+                showBundled(say("Bundled map"));
                 return;
             }
             showBundled("");

@@ -1,11 +1,21 @@
 #include "platform/translation.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <algorithm>
 #include <limits>
 
 namespace pinmora {
+namespace {
+
+QString withNumber(const char *text, int number) {
+    return QString::fromUtf8(text)
+        .replace(QLatin1String("%Ln"), QLocale().toString(number))
+        .replace(QLatin1String("%n"), QString::number(number));
+}
+
+} // namespace
 
 std::string translated(const char *context, const char *text) {
     return QCoreApplication::translate(context, text).toStdString();
@@ -15,11 +25,8 @@ std::string translated(const char *context, const char *many, const char *one, s
     constexpr std::size_t most = std::numeric_limits<int>::max();
     const int number = static_cast<int>(std::min(count, most));
     const QString words = QCoreApplication::translate(context, many, one, number);
-    const QString digits = QString::number(number);
-    const bool isEnglish = words == QString::fromUtf8(many).replace(QLatin1String("%n"), digits);
-    return isEnglish && count == 1
-               ? QString::fromUtf8(one).replace(QLatin1String("%n"), digits).toStdString()
-               : words.toStdString();
+    const bool isEnglish = words == withNumber(many, number);
+    return (isEnglish && count == 1 ? withNumber(one, number) : words).toStdString();
 }
 
 std::string filled(std::string_view text, std::initializer_list<std::string_view> values) {

@@ -13,8 +13,9 @@ namespace pinmora {
 /// `text` in the language of the program.
 std::string translated(const char *context, const char *text);
 
-/// The same for texts with a number in them, where "%n" stands: `one` is the English for exactly
-/// one, `many` for any other number. A translation has as many forms as its language needs.
+/// The same for texts with a number in them, where "%n" stands, or "%Ln" for one with its digits in
+/// groups: `one` is the English for exactly one, `many` for any other number. A translation has as
+/// many forms as its language needs.
 std::string translated(const char *context, const char *many, const char *one, std::size_t count);
 
 /// `text` with `values` in the places of "%1", "%2", up to "%9", bytes as they are: names of files

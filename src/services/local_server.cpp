@@ -3,6 +3,7 @@
 #include "services/bundled_files.h"
 #include "services/http_server.h"
 #include "services/map_page.h"
+#include "services/page_words.h"
 #include "services/place_routes.h"
 
 #include <charconv>
@@ -57,20 +58,21 @@ struct LocalServer::Running {
 
     void addPage(const LocalServerOptions &options) {
         for (auto &[name, content] : bundledMapFiles()) {
-            std::string path = "/maps/" + name;
-            std::string policy;
             if (name == "index.html") {
-                path = "/maps/index3.php";
-                const std::string tiles = tileAddress(options.tileServer);
-                content = mapPage(content, tiles);
-                policy = contentSecurityPolicy(tiles);
+                // Its words are asked for with each answer: the program may not have its language
+                // yet.
+                routes["/maps/index3.php"] = [page = std::move(content), type = contentType(name),
+                                              tiles = tileAddress(options.tileServer)](
+                                                 const httplib::Request &,
+                                                 httplib::Response &response) {
+                    response.set_content(mapPage(page, tiles, pageWords()), type);
+                    response.set_header("Content-Security-Policy", contentSecurityPolicy(tiles));
+                };
+                continue;
             }
-            routes[path] = [bytes = std::move(content), type = contentType(name),
-                            policy](const httplib::Request &, httplib::Response &response) {
+            routes["/maps/" + name] = [bytes = std::move(content), type = contentType(name)](
+                                          const httplib::Request &, httplib::Response &response) {
                 response.set_content(bytes, type);
-                if (!policy.empty()) {
-                    response.set_header("Content-Security-Policy", policy);
-                }
             };
         }
     }

@@ -43,15 +43,24 @@ std::string tileAddress(const std::string &setting) {
     return setting == "none" ? std::string() : setting;
 }
 
-std::string mapPage(std::string_view page, std::string_view tileAddress) {
-    constexpr std::string_view kept = "@TILE_SERVER@";
-    const std::string address = escapedForXml(tileAddress);
+std::string mapPage(std::string_view page, std::string_view tileAddress, std::string_view words) {
+    const std::array<std::pair<std::string_view, std::string>, 2> kept{
+        {{"@TILE_SERVER@", escapedForXml(tileAddress)}, {"@WORDS@", escapedForXml(words)}}};
     std::string filled;
-    for (std::size_t at = page.find(kept); at != std::string_view::npos; at = page.find(kept)) {
-        filled.append(page.substr(0, at)).append(address);
-        page.remove_prefix(at + kept.size());
+    while (!page.empty()) {
+        const auto place = std::find_if(kept.begin(), kept.end(), [page](const auto &one) {
+            return page.starts_with(one.first);
+        });
+        if (place != kept.end()) {
+            filled += place->second;
+            page.remove_prefix(place->first.size());
+        } else {
+            const std::size_t next = std::min(page.find('@', 1), page.size());
+            filled += page.substr(0, next);
+            page.remove_prefix(next);
+        }
     }
-    return filled.append(page);
+    return filled;
 }
 
 std::string contentSecurityPolicy(std::string_view tileAddress) {

@@ -67,13 +67,13 @@ enum class ActionName {
 struct ActionRow {
     ActionName name;
     MenuName menu;
-    std::string_view text; ///< with a mnemonic
+    const char *text; ///< with a mnemonic; in English, as the tip is
     std::string_view shortcut;
     std::string_view icon; ///< "" for none
-    std::string_view tip;
+    const char *tip;
     bool separatorBefore = false;
     bool checkable = false;
-    std::string_view shortText{}; ///< under an icon, where it differs from the text
+    const char *shortText = nullptr; ///< under an icon, where it differs from the text
 };
 
 /// All actions, in the order of their menus.

@@ -84,6 +84,7 @@ QString BrowserColumn::note() const {
     }
     const std::error_code error = model_.error(folder);
     if (!error) {
+        //: in the place of a folder's files
         return tr("Empty");
     }
     if (error == std::errc::permission_denied) {

@@ -1,6 +1,6 @@
 #include "ui/camera_row.h"
 
-#include "shell/intake_words.h"
+#include "platform/translation.h"
 #include "shell/offset_words.h"
 #include "ui/offset_steppers.h"
 #include "ui/photo_texts.h"
@@ -26,10 +26,12 @@ QLabel *plainLabel(Role role) {
 
 /// "12 photos, 8 May 09:54:28 to 8 May 12:06:41"
 QString photosOf(const CameraInUse &camera) {
-    QString photos = QString::fromStdString(counted(camera.photos, "photo", "photos"));
+    QString photos =
+        QString::fromStdString(translated("ui", "%Ln photos", "%Ln photo", camera.photos));
     if (!camera.first) {
         return photos;
     }
+    //: how many photos, and when they were taken
     return *camera.first == *camera.last
                ? CameraRow::tr("%1, %2").arg(photos, shortTime(*camera.first))
                : CameraRow::tr("%1, %2 to %3")

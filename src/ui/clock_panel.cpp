@@ -1,6 +1,7 @@
 #include "ui/clock_panel.h"
 
 #include "matching/matching_outlets.h"
+#include "platform/translation.h"
 #include "shell/clock_saying.h"
 #include "store/image.h"
 #include "ui/elided_label.h"
@@ -12,7 +13,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QStackedLayout>
 #include <QToolButton>
@@ -126,6 +126,7 @@ QWidget *ClockPanel::makeMore(const std::function<void()> &find) {
     bindings_.tie(outlets_.matchButton, match);
     grid->addWidget(match, 0, 0, 1, 3, Qt::AlignLeft);
     grid->addWidget(labelOf(Role::Quiet, tr("Or where the photo is known to be:")), 1, 0, 1, 3);
+    //: button: find the track point nearest to a position, and set the clock by it
     grid->addWidget(new KnownPosition(outlets_, tr("Find"), find), 2, 0, 1, 3);
     grid->setColumnStretch(3, 1);
     more->hide();
@@ -145,7 +146,7 @@ void ClockPanel::showTimes() {
     const bool isTold = photo.captureTime().has_value();
     const bool isOne = photos.size() == 1;
     taken_->setText(
-        !isOne    ? tr("%1 photos").arg(QLocale().toString(static_cast<qulonglong>(photos.size())))
+        !isOne ? QString::fromStdString(translated("ui", "%Ln photos", "%Ln photo", photos.size()))
         : !isTold ? tr("not told by the photo")
                   : QString::fromStdString(photo.time_string()).trimmed());
     corrected_->setText(!isOne || !isTold || corrected.empty()

@@ -33,7 +33,8 @@ QLabel *signOf(const QString &sign) {
 }
 
 QString nameOf(const AxisFields &axis) {
-    return &axis.kind() == &latitudeKind ? QStringLiteral("Latitude") : QStringLiteral("Longitude");
+    return &axis.kind() == &latitudeKind ? CoordinatePanel::tr("Latitude")
+                                         : CoordinatePanel::tr("Longitude");
 }
 
 } // namespace
@@ -119,6 +120,7 @@ void CoordinatePanel::addSeconds(QHBoxLayout &row, AxisFields &axis) {
 void CoordinatePanel::addHemisphere(QHBoxLayout &row, AxisFields &axis) {
     auto *hemisphere = new QComboBox;
     const bool isLatitude = &axis.kind() == &latitudeKind;
+    //: the letters of the four winds, as positions are written
     hemisphere->addItem(isLatitude ? tr("N") : tr("E"), 0);
     hemisphere->addItem(isLatitude ? tr("S") : tr("W"), 1);
     hemisphere->setItemData(0, isLatitude ? tr("north") : tr("east"), Qt::AccessibleTextRole);

@@ -11,6 +11,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeySequence>
 #include <QLabel>
 #include <QPushButton>
 
@@ -77,7 +78,9 @@ void DetailsTab::addName(QGridLayout &grid, DetailFields &details,
 void DetailsTab::addNote(QGridLayout &grid, DetailField &field, const QString &name, int lines) {
     auto *edit = new NoteEdit(lines);
     edit->setAccessibleName(name);
-    edit->setToolTip(tr("Shift+Return begins another line"));
+    const QKeySequence keys(Qt::SHIFT | Qt::Key_Return);
+    //: %1: keys, "Shift+Return"
+    edit->setToolTip(tr("%1 begins another line").arg(keys.toString(QKeySequence::NativeText)));
     tie(bindings_, field, edit);
     QLabel *const label = addDetailLabel(grid, 0, name);
     label->setBuddy(edit);
@@ -126,6 +129,7 @@ void DetailsTab::addAltitude(QGridLayout &grid, DetailField &field) {
     auto *row = new QHBoxLayout;
     row->setSpacing(smallGap);
     row->addWidget(edit);
+    //: metres
     row->addWidget(new QLabel(tr("m")));
     row->addStretch();
     grid.addLayout(row, grid.rowCount() - 1, 3);

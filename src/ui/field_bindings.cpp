@@ -10,7 +10,7 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QObject>
+#include <QCoreApplication>
 
 namespace pinmora {
 
@@ -52,7 +52,8 @@ void tieFinishing(Field &field, FieldEdit *edit) {
 }
 
 QString hintFor(bool differs) {
-    return differs ? QObject::tr("several") : QString();
+    //: in a field: the selected photos have several values
+    return differs ? QCoreApplication::translate("ui", "several") : QString();
 }
 
 } // namespace

@@ -1,21 +1,13 @@
 #include "ui/library_status.h"
 
+#include "platform/translation.h"
 #include "ui/roles.h"
 #include "ui/sheet_redraw.h"
 #include "ui/theme.h"
 
 #include <QLabel>
-#include <QLocale>
 
 namespace pinmora {
-namespace {
-
-QString counted(std::size_t number, const QString &one, const QString &many) {
-    return QLocale().toString(static_cast<qulonglong>(number)) + QLatin1Char(' ') +
-           (number == 1 ? one : many);
-}
-
-} // namespace
 
 LibraryStatus::LibraryStatus(LibraryCounts &counts, Observable<std::size_t> &awaited,
                              StatusLine &statusLine, QWidget *parent)
@@ -43,24 +35,27 @@ LibraryStatus::LibraryStatus(LibraryCounts &counts, Observable<std::size_t> &awa
 
 void LibraryStatus::showAwaited() {
     const std::size_t number = awaited_.get();
-    names_->setText(
-        number == 0
-            ? QString()
-            : tr("Looking up %1…").arg(counted(number, tr("place name"), tr("place names"))));
+    names_->setText(number == 0
+                        ? QString()
+                        : QString::fromStdString(translated("ui", "Looking up %Ln place names…",
+                                                            "Looking up %Ln place name…", number)));
     names_->setVisible(number > 0);
 }
 
 void LibraryStatus::showCounts(const Counts &counts) {
     QStringList words;
+    const auto say = [&words](const std::string &text) { words << QString::fromStdString(text); };
     if (counts.photos == 0) {
         words << tr("No photos");
     } else {
-        words << counted(counts.photos, tr("photo"), tr("photos"))
-              << counted(counts.withPosition, tr("with a position"), tr("with a position"));
+        say(translated("ui", "%Ln photos", "%Ln photo", counts.photos));
+        //: so many of the photos
+        say(translated("ui", "%Ln with a position", "%Ln with a position", counts.withPosition));
     }
     if (counts.tracks > 0) {
-        words << counted(counts.tracks, tr("track"), tr("tracks"))
-              << counted(counts.points, tr("point"), tr("points"));
+        say(translated("ui", "%Ln tracks", "%Ln track", counts.tracks));
+        //: of the tracks
+        say(translated("ui", "%Ln points", "%Ln point", counts.points));
     }
     counts_->setText(words.join(QStringLiteral("     ")));
 }

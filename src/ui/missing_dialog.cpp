@@ -1,6 +1,7 @@
 #include "ui/missing_dialog.h"
 
 #include "photos/file_browser.h"
+#include "platform/translation.h"
 #include "saving/missing_photos.h"
 #include "ui/column_browser.h"
 #include "ui/inspector_text.h"
@@ -11,7 +12,6 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -78,20 +78,20 @@ void MissingDialog::addHeading() {
 void MissingDialog::showHeading() {
     const int count = list_->model()->rowCount();
     const bool forSaving = outlets_.saveFromErrorWindow.visible.get();
-    heading_->setText(
-        count == 0 ? tr("No photo is missing any more")
-        : count == 1
-            ? tr("1 photo is no longer where it was")
-            : tr("%1 photos are no longer where they were").arg(QLocale().toString(count)));
+    heading_->setText(count == 0 ? tr("No photo is missing any more")
+                                 : QString::fromStdString(
+                                       translated("ui", "%Ln photos are no longer where they were",
+                                                  "%Ln photo is no longer where it was",
+                                                  static_cast<std::size_t>(count))));
     if (count == 0) {
         words_->setText(forSaving ? tr("All photos can be saved now.")
                                   : tr("Every photo of the list has its file."));
     } else {
-        words_->setText(tr("Choose a photo, then show where it is now.") + u' ' +
-                        (forSaving ? tr("What cannot be found can be left out of this save or "
-                                        "removed from the list; nothing else is lost.")
-                                   : tr("What cannot be found can be removed from the list; "
-                                        "nothing else is lost.")));
+        words_->setText(
+            forSaving ? tr("Choose a photo, then show where it is now. What cannot be found can be "
+                           "left out of this save or removed from the list; nothing else is lost.")
+                      : tr("Choose a photo, then show where it is now. What cannot be found can be "
+                           "removed from the list; nothing else is lost."));
     }
 }
 

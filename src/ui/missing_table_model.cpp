@@ -97,6 +97,7 @@ QVariant MissingTableModel::headerData(int section, Qt::Orientation orientation,
     if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue<Qt::Alignment>(Qt::AlignVCenter | Qt::AlignLeft);
     }
+    //: two columns: a missing photo, and the folder it was in
     return role != Qt::DisplayRole ? QVariant() : section == Photo ? tr("Photo") : tr("Was in");
 }
 

@@ -60,6 +60,7 @@ void OffsetSteppers::addSigns(QHBoxLayout &row, Selector &sign) {
 
 void OffsetSteppers::addBoxes(QHBoxLayout &row, const OffsetControls &controls) {
     for (const auto &[stepper, unit, name, digits] :
+         //: hours, minutes and seconds in one letter or a few
          {std::tuple(&controls.hours, tr("h"), tr("Hours"), 3),
           std::tuple(&controls.minutes, tr("min"), tr("Minutes"), 2),
           std::tuple(&controls.seconds, tr("s"), tr("Seconds"), 2)}) {

@@ -183,6 +183,7 @@ void PhotoPanel::showCounts() {
     const int all = model_->rowCount();
     const int seen = filter_->rowCount();
     const QLocale locale;
+    //: photos that are seen, of all
     count_->setText(onlyWithout_->isChecked()
                         ? tr("%1 of %2").arg(locale.toString(seen), locale.toString(all))
                         : locale.toString(all));

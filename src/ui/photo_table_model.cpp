@@ -101,6 +101,7 @@ QString PhotoTableModel::titleOf(Column column) {
     case Place:
         return tr("Place");
     case Gap:
+        //: time between a photo and the nearest point of a log
         return tr("Gap");
     case Camera:
         return tr("Camera");

@@ -5,6 +5,7 @@
 #include "ui/position_origin.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QStringList>
 
 #include <cmath>
@@ -58,7 +59,9 @@ QString position(const image &photo) {
 }
 
 QString altitude(const image &photo) {
-    return photo.alt().view().empty() ? QString() : rounded(photo.alt(), 0) + QStringLiteral(" m");
+    return photo.alt().view().empty()
+               ? QString()
+               : QCoreApplication::translate("ui", "%1 m").arg(rounded(photo.alt(), 0));
 }
 
 QString distance(std::optional<double> metres) {
@@ -67,12 +70,15 @@ QString distance(std::optional<double> metres) {
         return {};
     }
     if (const double whole = std::round(*metres); whole < kilometre) {
-        return QCoreApplication::translate("photo", "%1 m").arg(whole, 0, 'f', 0);
+        return QCoreApplication::translate("ui", "%1 m").arg(whole, 0, 'f', 0);
     }
     const double tenths = std::round(*metres / kilometre * 10);
     const bool isFar = tenths >= 100;
-    return QCoreApplication::translate("photo", "%1 km")
-        .arg(isFar ? std::round(*metres / kilometre) : tenths / 10);
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return QCoreApplication::translate("ui", "%1 km")
+        .arg(isFar ? locale.toString(std::round(*metres / kilometre), 'f', 0)
+                   : locale.toString(tenths / 10, 'g', 2));
 }
 
 QString place(const image &photo) {
@@ -101,7 +107,8 @@ QString gap(std::optional<std::chrono::seconds> gap) {
     }
     const seconds size = abs(*gap);
     if (size >= days{1}) {
-        return QCoreApplication::translate("photo", "%1 d").arg(floor<days>(size).count());
+        //: days
+        return QCoreApplication::translate("ui", "%1 d").arg(floor<days>(size).count());
     }
     const hh_mm_ss parts(size);
     const auto twoDigits = [](auto number) {
@@ -114,18 +121,19 @@ QString gap(std::optional<std::chrono::seconds> gap) {
 }
 
 QString sentence(const image &photo, std::optional<std::chrono::seconds> gap) {
-    const auto tr = [](const char *text) { return QCoreApplication::translate("photo", text); };
     QStringList parts{name(photo)};
     const QString time = takenWithYear(photo);
-    parts << (time.isEmpty() ? tr("no capture time") : tr("taken %1").arg(time));
+    parts << (time.isEmpty() ? QCoreApplication::translate("ui", "no capture time")
+                             : QCoreApplication::translate("ui", "taken %1").arg(time));
     if (photo.lat_and_lon()) {
         parts << position(photo) << altitude(photo) << place(photo)
               << position_origin::words(photo);
     } else {
-        parts << tr("no position");
+        parts << QCoreApplication::translate("ui", "no position");
     }
     if (gap) {
-        parts << tr("%1 from the nearest track point").arg(photo_texts::gap(gap));
+        parts << QCoreApplication::translate("ui", "%1 from the nearest track point")
+                     .arg(photo_texts::gap(gap));
     }
     parts.removeAll(QString());
     return parts.join(QStringLiteral(", "));

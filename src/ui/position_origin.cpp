@@ -19,12 +19,12 @@ struct Origin {
 };
 
 constexpr std::array origins{
-    Origin{PositionSource::log, "from-log", QT_TRANSLATE_NOOP("photo", "From the log")},
-    Origin{PositionSource::map, "from-map", QT_TRANSLATE_NOOP("photo", "Placed on the map")},
-    Origin{PositionSource::typed, "from-typing", QT_TRANSLATE_NOOP("photo", "Typed")},
-    Origin{PositionSource::file, "from-file", QT_TRANSLATE_NOOP("photo", "From the photo’s file")},
+    Origin{PositionSource::log, "from-log", QT_TRANSLATE_NOOP("ui", "From the log")},
+    Origin{PositionSource::map, "from-map", QT_TRANSLATE_NOOP("ui", "Placed on the map")},
+    Origin{PositionSource::typed, "from-typing", QT_TRANSLATE_NOOP("ui", "Typed")},
+    Origin{PositionSource::file, "from-file", QT_TRANSLATE_NOOP("ui", "From the photo’s file")},
     Origin{PositionSource::estimated, "from-neighbours",
-           QT_TRANSLATE_NOOP("photo", "Estimated between its neighbours")},
+           QT_TRANSLATE_NOOP("ui", "Estimated between its neighbours")},
 };
 
 const Origin *originOf(const image &photo) {
@@ -46,9 +46,10 @@ QString words(const image &photo) {
     if (!origin) {
         return {};
     }
-    const QString text = QCoreApplication::translate("photo", origin->words);
+    const QString text = QCoreApplication::translate("ui", origin->words);
     const std::optional<std::chrono::seconds> apart = gap(photo);
-    return apart ? QCoreApplication::translate("photo", "%1, %2 from the nearest point")
+    //: where a position is from, and how far in time: "From the log, 3 s from the nearest point"
+    return apart ? QCoreApplication::translate("ui", "%1, %2 from the nearest point")
                        .arg(text, QString::fromStdString(durationWords(*apart)))
                  : text;
 }

@@ -1,5 +1,6 @@
 #include "ui/time_strip_widget.h"
 
+#include "platform/translation.h"
 #include "store/image.h"
 #include "ui/photo_texts.h"
 #include "ui/theme.h"
@@ -92,15 +93,15 @@ void TimeStripWidget::setAxis(const TimeAxis &axis) {
 }
 
 void TimeStripWidget::describe() {
-    const auto photos = static_cast<int>(strip_.ticks().size());
-    const auto far = static_cast<int>(std::count_if(strip_.ticks().begin(), strip_.ticks().end(),
-                                                    [](const auto &tick) { return tick.far; }));
-    const QString text = tr("%1 tracks, %2 photos, %3 of them far from any log. The arrow keys "
-                            "turn the camera’s clock by a second, with Shift by a minute, with "
-                            "Ctrl by an hour.")
-                             .arg(strip_.bars().size())
-                             .arg(photos)
-                             .arg(far);
+    const auto far = std::count_if(strip_.ticks().begin(), strip_.ticks().end(),
+                                   [](const auto &tick) { return tick.far; });
+    const std::string tracks = translated("ui", "%Ln tracks", "%Ln track", strip_.bars().size());
+    const std::string photos = translated("ui", "%Ln photos", "%Ln photo", strip_.ticks().size());
+    //: %1: how many tracks, %2: how many photos, in words; %3: how many of the photos
+    const QString text = tr("%1, %2, %3 of them far from any log. The arrow keys turn the camera’s "
+                            "clock by a second, with Shift by a minute, with Ctrl by an hour.")
+                             .arg(QString::fromStdString(tracks), QString::fromStdString(photos),
+                                  QLocale().toString(static_cast<qlonglong>(far)));
     if (text != accessibleDescription()) {
         setAccessibleDescription(text);
     }
@@ -181,13 +182,13 @@ TimeStripWidget::Outside TimeStripWidget::outside() {
 
 QString TimeStripWidget::edgeText(bool later) {
     const Outside count = outside();
-    if (const int photos = later ? count.later : count.earlier; photos > 0) {
-        const QString number = QLocale().toString(photos);
-        return later ? (photos == 1 ? tr("1 photo later ›") : tr("%1 photos later ›").arg(number))
-                     : (photos == 1 ? tr("‹ 1 photo earlier")
-                                    : tr("‹ %1 photos earlier").arg(number));
+    const auto photos = static_cast<std::size_t>(later ? count.later : count.earlier);
+    if (photos == 0) {
+        return {};
     }
-    return {};
+    return QString::fromStdString(
+        later ? translated("ui", "%Ln photos later ›", "%Ln photo later ›", photos)
+              : translated("ui", "‹ %Ln photos earlier", "‹ %Ln photo earlier", photos));
 }
 
 QRectF TimeStripWidget::edgeRect(bool later) {

@@ -29,7 +29,7 @@ QTableView *makeTable(TrackTableModel &model, QWidget *parent) {
     table->setTabKeyNavigation(false);
     table->setWordWrap(false);
     table->setShowGrid(false);
-    table->setAccessibleName(QTableView::tr("GPS tracks"));
+    table->setAccessibleName(TrackPanel::tr("GPS tracks"));
     table->verticalHeader()->hide();
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + spacing);

@@ -1,6 +1,7 @@
 #include "ui/track_table_model.h"
 
 #include "persistence/context.h"
+#include "platform/translation.h"
 #include "store/track.h"
 #include "store/track_part.h"
 #include "ui/photo_texts.h"
@@ -89,7 +90,10 @@ QString TrackTableModel::textAt(const Row &row, Column column) const {
 
 QString TrackTableModel::sentence(const Row &row) const {
     const QString begin =
-        tr("Track %1, %n points", nullptr, static_cast<int>(row.summary.points)).arg(row.number);
+        QString::fromStdString(
+            translated("ui", "Track %1, %n points", "Track %1, %n point", row.summary.points))
+            .arg(row.number);
+    //: a track with its number of points, and the times of its first and last one
     return row.summary.from ? tr("%1, from %2 to %3")
                                   .arg(begin, withYear(row.summary.from), withYear(row.summary.to))
                             : begin;
@@ -111,8 +115,10 @@ QVariant TrackTableModel::headerData(int section, Qt::Orientation orientation, i
     case Points:
         return tr("Points");
     case From:
+        //: when a track begins
         return tr("From");
     case To:
+        //: when a track ends
         return tr("To");
     default:
         return {};

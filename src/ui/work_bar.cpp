@@ -27,7 +27,7 @@ QProgressBar *makeWorkBar(ProgressBar &progress, Bindings &bindings) {
     bar->setStyleSheet(QStringLiteral(
         "QProgressBar { background: palette(mid); border: none; border-radius: 3px; }"
         "QProgressBar::chunk { background: palette(highlight); border-radius: 3px; }"));
-    bar->setAccessibleName(QCoreApplication::translate("work", "Progress"));
+    bar->setAccessibleName(QCoreApplication::translate("ui", "Progress"));
     for (Observable<double> *value : {&progress.minimum, &progress.maximum, &progress.value}) {
         bindings.watch(*value, [&progress, bar](double) { showBar(progress, *bar); });
     }

@@ -43,6 +43,9 @@ private Q_SLOTS:
         QCOMPARE(translated("any", "Save"), std::string("Zapisz"));
         QCOMPARE(translated("any", "Open"), std::string("Open"));
         QCOMPARE(translated("any", "%n logs", "%n log", 1), std::string("1 log"));
+        QLocale::setDefault(QLocale::English);
+        QCOMPARE(translated("any", "%Ln logs", "%Ln log", 1), std::string("1 log"));
+        QCOMPARE(translated("any", "%Ln logs", "%Ln log", 1'234), std::string("1,234 logs"));
     }
 
     void valuesTakeTheirPlaces_data() {

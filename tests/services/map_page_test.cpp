@@ -37,10 +37,11 @@ private Q_SLOTS:
     }
 
     void addressInThePage() {
-        QCOMPARE(mapPage("<a b=\"@TILE_SERVER@\" c='@TILE_SERVER@'>", "\"'><script>&@TILE_SERVER@"),
-                 "<a b=\"&quot;&#39;&gt;&lt;script&gt;&amp;@TILE_SERVER@\""
-                 " c='&quot;&#39;&gt;&lt;script&gt;&amp;@TILE_SERVER@'>");
-        QCOMPARE(mapPage("no place for it", "x"), "no place for it");
+        QCOMPARE(mapPage("<a b=\"@TILE_SERVER@\" c='@TILE_SERVER@'>", "\"'><script>&@WORDS@", ""),
+                 "<a b=\"&quot;&#39;&gt;&lt;script&gt;&amp;@WORDS@\""
+                 " c='&quot;&#39;&gt;&lt;script&gt;&amp;@WORDS@'>");
+        QCOMPARE(mapPage("@@WORDS@@ no place @", "x", "{\"a\":\"<\"}"),
+                 "@{&quot;a&quot;:&quot;&lt;&quot;}@ no place @");
     }
 };
 

@@ -22,7 +22,7 @@ private Q_SLOTS:
         for (const ActionRow &row : actionTable()) {
             const QAction *const action = actions[row.name];
             const QString text = action->text();
-            QVERIFY2(!text.isEmpty() && !row.tip.empty(), qPrintable(text));
+            QVERIFY2(!text.isEmpty() && *row.tip != '\0', qPrintable(text));
             QVERIFY2(!action->shortcut().isEmpty() && !keys.contains(action->shortcut()),
                      qPrintable(text));
             keys.insert(action->shortcut());

@@ -3,6 +3,7 @@
 #include "page_desk.h"
 
 #include <QRegularExpression>
+#include <QTranslator>
 
 class MapPageTest : public QObject {
     Q_OBJECT
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void theMapFillsAnyView_data();
     void theMapFillsAnyView();
     void onlyItsOwnScriptsRunAndNothingElseIsReached();
+    void textsAreInTheLanguageOfTheProgram();
 
 private:
     PageDesks desks_;
@@ -262,6 +264,30 @@ void MapPageTest::onlyItsOwnScriptsRunAndNothingElseIsReached() {
     QVERIFY(desk.becomes(QStringLiteral("reached === 'refused' && refused.length >= 4")));
     QCOMPARE(desk.ask(QStringLiteral("hacked")).toInt(), 0);
     QVERIFY(desk.ask(QStringLiteral("refused.includes('connect-src')")).toBool());
+}
+
+void MapPageTest::textsAreInTheLanguageOfTheProgram() {
+    class German : public QTranslator {
+    public:
+        QString translate(const char *, const char *text, const char *, int) const override {
+            return QLatin1String(text) == QLatin1String("en-GB")     ? QStringLiteral("de")
+                   : QLatin1String(text) == QLatin1String("Zoom in") ? QStringLiteral("\"Näher\"")
+                   : QLatin1String(text) == QLatin1String("Bundled map")
+                       ? QStringLiteral("<b>Mitgelieferte Karte")
+                       : QString();
+        }
+        bool isEmpty() const override { return false; }
+    } german;
+    QVERIFY(QCoreApplication::installTranslator(&german));
+    PageDesk desk;
+    QCOMPARE(desk.ask(QStringLiteral("document.documentElement.lang")).toString(),
+             QStringLiteral("de"));
+    QCOMPARE(desk.ask(QStringLiteral("document.getElementById('zoom-in').title")).toString(),
+             QStringLiteral("\"Näher\""));
+    QCOMPARE(desk.ask(QStringLiteral("document.getElementById('zoom-out').title")).toString(),
+             QStringLiteral("Zoom out"));
+    QVERIFY(desk.becomes(QStringLiteral(
+        "document.getElementById('source').textContent === '<b>Mitgelieferte Karte'")));
 }
 
 QTEST_MAIN(MapPageTest)

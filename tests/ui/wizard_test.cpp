@@ -2,6 +2,7 @@
 #include "ui/window_desk.h"
 
 #include "ui/stepper_box.h"
+#include "ui/wizard/wizard_texts.h"
 
 #include <QLabel>
 #include <QMenuBar>
@@ -192,6 +193,28 @@ private Q_SLOTS:
         QVERIFY(copy.startsWith(QStringLiteral("zug_")));
         const QString latitude = desk.latitudeIn(copy.toStdString() + ".JPG");
         QTEST(latitude, "latitude");
+    }
+
+    void whatIsThereAlready_data() {
+        QTest::addColumn<int>("photos");
+        QTest::addColumn<int>("tracks");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("nothing") << 0 << 0 << QString();
+        QTest::newRow("one") << 1 << 0
+                             << QStringLiteral("1 photo is here already. Next goes on with it.");
+        QTest::newRow("one kind") << 0 << 2
+                                  << QStringLiteral(
+                                         "2 tracks are here already. Next goes on with them.");
+        QTest::newRow("one of each")
+            << 1 << 1
+            << QStringLiteral("1 photo and 1 track are here already. Next goes on with them.");
+    }
+    void whatIsThereAlready() {
+        QFETCH(const int, photos);
+        QFETCH(const int, tracks);
+        QTEST(holdings({.photos = static_cast<std::size_t>(photos),
+                        .tracks = static_cast<std::size_t>(tracks)}),
+              "words");
     }
 
     void withoutAnyLog() {

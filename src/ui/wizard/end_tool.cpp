@@ -73,8 +73,9 @@ void EndTool::addNames(QVBoxLayout &column) {
 
 void EndTool::showNames() {
     const QString base = QString::fromStdString(parts_.renamingOutlets.newFileName3.text.get());
-    names_->setText(
-        tr("The copies are then called %1_1, %1_2, …").arg(base.isEmpty() ? tr("trip") : base));
+    //: an example of a name: trip_1, trip_2
+    const QString shown = base.isEmpty() ? tr("trip") : base;
+    names_->setText(tr("The copies are then called %1_1, %1_2, …").arg(shown));
 }
 
 } // namespace pinmora

@@ -75,10 +75,10 @@ void WelcomePage::addSample(QVBoxLayout &column, Subsystems &parts) {
     column.addWidget(sample, 0, Qt::AlignLeft);
     column.addWidget(held);
     bindings_.watch(parts.counts.counts, [&parts, sample, held](const Counts &now) {
-        const QString holds = holdings(now);
-        sample->setVisible(holds.isEmpty() && parts.sampleOuting.isThere());
-        held->setText(tr("%1 are here already. Next goes on with them.").arg(holds));
-        held->setVisible(!holds.isEmpty());
+        const QString words = holdings(now);
+        sample->setVisible(words.isEmpty() && parts.sampleOuting.isThere());
+        held->setText(words);
+        held->setVisible(!words.isEmpty());
     });
 }
 

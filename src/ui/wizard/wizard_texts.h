@@ -16,7 +16,7 @@ struct PageTexts {
 /// `isApplied`: the log has been applied to all photos.
 PageTexts textsFor(WizardPage page, const Counts &counts, bool isApplied);
 
-/// "8 photos and 2 tracks"; "" for an empty library.
+/// "8 photos and 2 tracks are here already. Next goes on with them."; "" for an empty library.
 QString holdings(const Counts &counts);
 /// "3 of 8 photos have their place", or that there are none.
 QString placedOf(const Counts &counts);
