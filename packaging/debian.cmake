@@ -21,8 +21,8 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
-# The libraries are found by what is linked. What is only run or loaded at run time is not: ExifTool, Qt's
-# readers of further picture formats, time zones.
+# The libraries are found by what is linked. What is only run or loaded at run time is not: ExifTool,
+# Qt's readers of further picture formats, time zones.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 string(JOIN ", " CPACK_DEBIAN_PACKAGE_DEPENDS
     libimage-exiftool-perl qt6-image-formats-plugins tzdata)
