@@ -6,6 +6,7 @@
 #include "ui/web_map_view.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <chrono>
 #include <iostream>
@@ -42,6 +43,7 @@ int run(int &argc, char **argv, const Paths &paths, InstanceChannel &channel, In
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("pinmora"));
     QApplication::setDesktopFileName(QStringLiteral("pinmora"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/pinmora.svg")));
     if (!channel.listen()) {
         std::cerr << "pinmora: files cannot be handed over to this program by later starts.\n";
     }

@@ -1,0 +1,11 @@
+complete -c pinmora-tag -l gps -r -F -d 'A GPS log, GPX or NMEA'
+complete -c pinmora-tag -l offset -x -d "What the camera's clock lacks, [+|-]H:M:S"
+complete -c pinmora-tag -l name -x -d 'Save the copies as BASE_1, BASE_2, ...'
+complete -c pinmora-tag -l logs -x -a 'auto exact tolerant' -d 'How logs are read'
+complete -c pinmora-tag -l lane -x -a 'process shared' -d 'How ExifTool is run'
+complete -c pinmora-tag -l no-places -d 'Do not look up place names'
+complete -c pinmora-tag -l out -x -a '(__fish_complete_directories)' -d 'Folder for the copies'
+complete -c pinmora-tag -l dry-run -d 'Say what would be done, save nothing'
+complete -c pinmora-tag -l json -d 'Print one JSON document instead of the table'
+complete -c pinmora-tag -l help -d 'Show a summary of the options'
+complete -c pinmora-tag -l version -d 'Show the version'
