@@ -5,7 +5,7 @@
 #include "outlets/quiet_bar.h"
 #include "persistence/context.h"
 #include "persistence/undo_manager.h"
-#include "shell/intake_words.h"
+#include "platform/translation.h"
 #include "store/image.h"
 
 #include <algorithm>
@@ -18,32 +18,36 @@ namespace {
 constexpr const char *appliedSubject = "applied";
 
 std::string placedText(std::size_t placed) {
-    return placed == 0
-               ? "No photo has got a position."
-               : counted(placed, "photo has got its position.", "photos have got their positions.");
+    return placed == 0 ? translated("shell", "No photo has got a position.")
+                       : translated("shell", "%n photos have got their positions.",
+                                    "%n photo has got its position.", placed);
 }
 
 } // namespace
 
 std::string wordsOf(const ApplyOutcome &outcome) {
-    std::string text;
-    if (!outcome.far.empty()) {
-        text = counted(outcome.far.size(), "was", "were") +
-               " taken more than 5 minutes from any point of the log";
+    //: Of photos; the start of a sentence.
+    const std::string far = translated(
+        "shell", "%n were taken more than 5 minutes from any point of the log",
+        "%n was taken more than 5 minutes from any point of the log", outcome.far.size());
+    //: Of photos; the end of a sentence.
+    const std::string untimed =
+        translated("shell", "%n do not say when they were taken",
+                   "%n does not say when it was taken", outcome.untimed.size());
+    if (!outcome.far.empty() && !outcome.untimed.empty()) {
+        //: Two halves of a sentence on photos, each complete.
+        return filled(translated("shell", "%1; %2."), {far, untimed});
     }
-    if (!outcome.untimed.empty()) {
-        text += (text.empty() ? "" : "; ") + counted(outcome.untimed.size(),
-                                                     "does not say when it was taken",
-                                                     "do not say when they were taken");
-    }
-    return text.empty() ? text : text + ".";
+    return !outcome.far.empty() ? far + "." : !outcome.untimed.empty() ? untimed + "." : "";
 }
 
 std::string wordsOf(const NeighbourOutcome &outcome) {
     return outcome.unplaced.empty()
                ? ""
-               : counted(outcome.unplaced.size(), "has", "have") +
-                     " no neighbours in time with a position, or no capture time.";
+               : translated("shell",
+                            "%n have no neighbours in time with a position, or no capture time.",
+                            "%n has no neighbours in time with a position, or no capture time.",
+                            outcome.unplaced.size());
 }
 
 ApplyReport::ApplyReport(Context &context, ArrayController<image> &pictureArray, Matcher &matcher,
@@ -76,7 +80,8 @@ void ApplyReport::tell(std::size_t placed, const std::string &text,
         .subject = appliedSubject, .head = placedText(placed), .text = text, .choices = {}};
     if (!toLookAt.empty()) {
         std::sort(toLookAt.begin(), toLookAt.end());
-        message.choices.push_back({"Show", [this, toLookAt] { show(toLookAt); }});
+        message.choices.push_back(
+            {translated("shell", "Show"), [this, toLookAt] { show(toLookAt); }});
     }
     quietBar_.post(std::move(message));
 }

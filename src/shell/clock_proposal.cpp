@@ -8,6 +8,7 @@
 #include "outlets/quiet_bar.h"
 #include "persistence/context.h"
 #include "persistence/undo_group.h"
+#include "platform/translation.h"
 #include "shell/offset_words.h"
 #include "shell/reading_offer.h"
 #include "store/image.h"
@@ -96,10 +97,16 @@ Question questionOf(const Context &context, const ClockOffset &clocks, NearestPo
 
 std::string textOf(const ProposedOffset &proposed) {
     const OffsetProposal &proposal = proposed.proposal;
-    return "With " + shortOffset(proposal.offset) + ", " + std::to_string(proposal.onTrack) +
-           " of " + std::to_string(proposal.photos) + " photos" +
-           (proposed.camera.empty() ? "" : " of " + cameraName(proposed.camera)) +
-           " lie on the track.";
+    //: %1: an offset of the camera's clock
+    const std::string text =
+        proposed.camera.empty()
+            ? translated("shell", "With %1, %n of %2 photos lie on the track.",
+                         "With %1, %n of %2 photos lie on the track.", proposal.onTrack)
+            //: %3: the name of a camera
+            : translated("shell", "With %1, %n of %2 photos of %3 lie on the track.",
+                         "With %1, %n of %2 photos of %3 lie on the track.", proposal.onTrack);
+    return filled(text, {shortOffset(proposal.offset), std::to_string(proposal.photos),
+                         cameraName(proposed.camera)});
 }
 
 } // namespace
@@ -169,13 +176,14 @@ void ClockProposal::tell(const std::vector<ProposedOffset> &proposed) {
         parts_.quietBar.withdraw(proposalSubject);
         return;
     }
-    parts_.quietBar.post({.subject = proposalSubject,
-                          .head = textOf(*first),
-                          .text = {},
-                          .choices = {{"Apply", [this, one = *first] { take(one); }}},
-                          .dismissed = [this, one = *first] {
-                              declined_.emplace(one.camera, one.proposal.offset);
-                          }});
+    parts_.quietBar.post(
+        {.subject = proposalSubject,
+         .head = textOf(*first),
+         .text = {},
+         .choices = {{translated("shell", "Apply"), [this, one = *first] { take(one); }}},
+         .dismissed = [this, one = *first] {
+             declined_.emplace(one.camera, one.proposal.offset);
+         }});
 }
 
 /// The photos keep their places until the log is applied: a look at them comes before that.
@@ -185,7 +193,7 @@ void ClockProposal::take(const ProposedOffset &proposed) {
         return;
     }
     {
-        const UndoGroup group(parts_.context, "Set Camera Clock");
+        const UndoGroup group(parts_.context, translated("shell", "Set Camera Clock"));
         if (!proposed.camera.empty()) {
             parts_.clockOffset.setHasOwnClock(proposed.camera, true);
         }
@@ -196,9 +204,11 @@ void ClockProposal::take(const ProposedOffset &proposed) {
         {.subject = takenSubject,
          .head = proposed.camera.empty() ? offsetSentence(offset)
                                          : offsetSentenceOf(proposed.camera, offset) + ".",
-         .text = "That is corrected now. Applying the log gives the photos their "
-                 "positions.",
-         .choices = {{"Apply to All", [this] { parts_.matcher.applyToAllPictures(); }}}});
+         .text =
+             translated("shell", "That is corrected now. Applying the log gives the photos their "
+                                 "positions."),
+         .choices = {{translated("shell", "Apply to All"),
+                      [this] { parts_.matcher.applyToAllPictures(); }}}});
 }
 
 } // namespace pinmora

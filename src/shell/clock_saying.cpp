@@ -3,6 +3,7 @@
 #include "matching/clock_offset.h"
 #include "matching/matching_outlets.h"
 #include "persistence/context.h"
+#include "platform/translation.h"
 #include "shell/offset_words.h"
 #include "store/offset.h"
 
@@ -33,7 +34,9 @@ void ClockSaying::say() {
     if (turn && turn->camera == camera) {
         apart += turn->by;
     }
-    heading.text.set(camera.empty() ? "Camera clock" : "Camera clock · " + modelName(camera));
+    heading.text.set(camera.empty()
+                         ? translated("shell", "Camera clock")
+                         : filled(translated("shell", "Camera clock · %1"), {modelName(camera)}));
     words.text.set(camera.empty() ? offsetSentence(apart) : offsetSentenceOf(camera, apart));
 }
 

@@ -3,6 +3,7 @@
 #include "persistence/undo_group.h"
 #include "platform/number_text.h"
 #include "platform/scoped_flag.h"
+#include "platform/translation.h"
 
 #include <algorithm>
 
@@ -107,12 +108,13 @@ bool DetailFields::takeOverEdited(DetailField &field) {
     if (&field == &alt) {
         text = std::string(trimmed(text));
         if (!text.empty() && !plainDecimal(text)) {
-            field.problem.set("The altitude is a number of metres, such as 412.5.");
+            field.problem.set(
+                translated("shell", "The altitude is a number of metres, such as 412.5."));
             return false;
         }
     }
     const ScopedFlag writing(writing_);
-    const UndoGroup group(context_, field.step);
+    const UndoGroup group(context_, translated("shell", field.step));
     for (image *photo : photos_) {
         if (photo->valueForKey(field.key).toText().view() != text) {
             photo->setValue(text, field.key);

@@ -10,6 +10,8 @@
 #include "platform/end_of_turn.h"
 #include "store/image.h"
 
+#include <QtGlobal>
+
 #include <array>
 #include <optional>
 #include <string>
@@ -23,11 +25,11 @@ namespace pinmora {
 /// A text of the selected photos. What a person types stands in `text` and is taken over when the
 /// field is `finished`.
 struct DetailField : CheckedField {
-    DetailField(std::string_view recordKey, std::string_view stepName)
+    DetailField(std::string_view recordKey, const char *stepName)
         : key(recordKey), step(stepName) {}
 
-    const std::string_view key;  ///< in the photo
-    const std::string_view step; ///< the name of the step of undo that a change makes
+    const std::string_view key; ///< in the photo
+    const char *const step;     ///< the name of the step of undo that a change makes, in English
     /// The selected photos have different texts: `text` is empty then, and stays so unless edited.
     Observable<bool> differs{false};
     Signal<> finished;
@@ -65,12 +67,13 @@ public:
     DetailFields(const DetailFields &) = delete;
     DetailFields &operator=(const DetailFields &) = delete;
 
-    DetailField img_description{"img_description", "Change Description"};
-    DetailField comments{"comments", "Change Comment"};
-    DetailField city{"city", "Change City"};
-    DetailField prov{"prov", "Change Province"};
-    DetailField country{"country", "Change Country"};
-    DetailField alt{"alt", "Change Altitude"};
+    DetailField img_description{"img_description",
+                                QT_TRANSLATE_NOOP("shell", "Change Description")};
+    DetailField comments{"comments", QT_TRANSLATE_NOOP("shell", "Change Comment")};
+    DetailField city{"city", QT_TRANSLATE_NOOP("shell", "Change City")};
+    DetailField prov{"prov", QT_TRANSLATE_NOOP("shell", "Change Province")};
+    DetailField country{"country", QT_TRANSLATE_NOOP("shell", "Change Country")};
+    DetailField alt{"alt", QT_TRANSLATE_NOOP("shell", "Change Altitude")};
     // Of the one selected photo; only shown.
     TextField image_name;
     Observable<std::optional<double>> place_distance; ///< metres, to the city

@@ -6,6 +6,7 @@
 #include "persistence/context.h"
 #include "persistence/undo_group.h"
 #include "platform/date.h"
+#include "platform/translation.h"
 #include "saving/renaming.h"
 #include "shell/preview.h"
 #include "store/calendar_formats.h"
@@ -71,7 +72,7 @@ void Inspector::showOne(image &photo) {
     }
     preview_.dealWithPict(photo.full_file_path().string());
     enableNameFields(true);
-    offerRemoval("Remove Picture", true);
+    offerRemoval(translated("shell", "Remove Picture"), true);
 }
 
 void Inspector::showNoneOrSeveral(const std::vector<image *> &photos) {
@@ -84,18 +85,20 @@ void Inspector::showNoneOrSeveral(const std::vector<image *> &photos) {
     showMarkersOf(photos);
     preview_.noPict();
     enableNameFields(!photos.empty());
-    offerRemoval(photos.empty() ? "Remove Picture" : "Remove Pictures", !photos.empty());
+    offerRemoval(photos.empty() ? translated("shell", "Remove Picture")
+                                : translated("shell", "Remove Pictures"),
+                 !photos.empty());
 }
 
 /// What several photos, or none, let the marker buttons do.
 void Inspector::showMarkersOf(const std::vector<image *> &photos) {
     if (photos.empty()) {
-        showMarkerButtons("Add Marker", 0);
+        showMarkerButtons(translated("shell", "Add Marker"), 0);
     } else if (std::any_of(photos.begin(), photos.end(),
                            [](const image *photo) { return photo->lat_and_lon(); })) {
-        showMarkerButtons("Remove Markers", 1);
+        showMarkerButtons(translated("shell", "Remove Markers"), 1);
     } else {
-        showMarkerButtons("Add Markers", 0);
+        showMarkerButtons(translated("shell", "Add Markers"), 0);
     }
 }
 
@@ -129,7 +132,9 @@ void Inspector::showCorrectedTime(const image &photo) {
 
 void Inspector::showPosition(const image &photo) {
     const bool placed = photo.lat_and_lon();
-    showMarkerButtons(placed ? "Remove Marker" : "Add Marker", placed ? 1 : 0);
+    showMarkerButtons(placed ? translated("shell", "Remove Marker")
+                             : translated("shell", "Add Marker"),
+                      placed ? 1 : 0);
     if (degrees *const shown = outlets_.degreeObj.content()) {
         shown->showPosition(placed ? photo.lat() : Text(), placed ? photo.lon() : Text());
     }
@@ -253,7 +258,9 @@ void Inspector::catchUp() {
     showCorrectedTime(*selected.front());
     image &photo = *selected.front();
     const bool placed = photo.lat_and_lon();
-    showMarkerButtons(placed ? "Remove Marker" : "Add Marker", placed ? 1 : 0);
+    showMarkerButtons(placed ? translated("shell", "Remove Marker")
+                             : translated("shell", "Add Marker"),
+                      placed ? 1 : 0);
     enableOffsetButtons(placed && hasTrackData());
     if (movePointer) {
         activeMap().evaluate(placed ? pointerScript(photo.lat().view(), photo.lon().view())

@@ -1,3 +1,4 @@
+#include "platform/translation.h"
 #include "shell/inspector.h"
 
 #include "matching/matching_outlets.h"
@@ -62,8 +63,8 @@ MapView &Inspector::activeMap() const {
 void Inspector::removePict() {
     {
         const UndoGroup group(context_, arrays_.pictureArray.selectedObjects().size() == 1
-                                            ? "Remove Picture"
-                                            : "Remove Pictures");
+                                            ? translated("shell", "Remove Picture")
+                                            : translated("shell", "Remove Pictures"));
         arrays_.pictureArray.remove();
     }
     notifications_.post(tableSelectionDidChange);

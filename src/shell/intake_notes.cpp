@@ -7,6 +7,7 @@
 #include "photos/photo_intake.h"
 #include "photos/photo_types.h"
 #include "platform/defaults.h"
+#include "platform/translation.h"
 #include "shell/log_intake_adapter.h"
 #include "store/image.h"
 
@@ -100,7 +101,7 @@ void IntakeNotes::tellOfPassedOver() {
     std::vector<std::string> files = passedOver_.files;
     append(files, passedOver_.logs);
     postOrWithdraw({.subject = "left out",
-                    .head = "Left out:",
+                    .head = translated("shell", "Left out:"),
                     .text = kindsText(
                         files, passedOver_.folders.size(),
                         [this](const std::string &path) { return types_.isMore(path); },
@@ -114,21 +115,23 @@ std::vector<BarMessage::Choice> IntakeNotes::choicesForPassedOver() {
     std::vector<BarMessage::Choice> choices;
     if (std::any_of(passedOver_.files.begin(), passedOver_.files.end(),
                     [this](const std::string &path) { return types_.isMore(path); })) {
-        choices.push_back({"Load Them Too", [this] { loadMoreTypes(); }});
+        choices.push_back({translated("shell", "Load Them Too"), [this] { loadMoreTypes(); }});
     }
     if (!passedOver_.folders.empty()) {
-        choices.push_back({passedOver_.folders.size() == 1 ? "Open Folder" : "Open Folders",
-                           [this] { loadToo(std::exchange(passedOver_.folders, {})); }});
+        choices.push_back(
+            {translated("shell", "Open Folders", "Open Folder", passedOver_.folders.size()),
+             [this] { loadToo(std::exchange(passedOver_.folders, {})); }});
     }
     if (!passedOver_.logs.empty() && choices.size() < most) {
-        choices.push_back({"Load Logs", [this] { loadToo(std::exchange(passedOver_.logs, {})); }});
+        choices.push_back({translated("shell", "Load Logs"),
+                           [this] { loadToo(std::exchange(passedOver_.logs, {})); }});
     }
     return choices;
 }
 
 void IntakeNotes::tellOfNotLoaded() {
     postOrWithdraw({.subject = "not loaded",
-                    .head = "Not loaded:",
+                    .head = translated("shell", "Not loaded:"),
                     .text = notLoadedText(notLoaded_),
                     .choices = {},
                     .dismissed = [this] { notLoaded_ = {}; }});
@@ -140,13 +143,14 @@ void IntakeNotes::tellOfDoubles() {
     if (count == 0) {
         serials_.clear();
     }
-    postOrWithdraw({.subject = "doubles",
-                    .head = count > 0 ? doublesText(count, doubles.among) : "",
-                    .text = count == 1  ? "It is in the list more than once now."
-                            : count > 1 ? "They are in the list more than once now."
-                                        : "",
-                    .choices = {{"Remove Doubles", [this] { removeDoubles(); }}},
-                    .dismissed = [this] { serials_.clear(); }});
+    postOrWithdraw(
+        {.subject = "doubles",
+         .head = count > 0 ? doublesText(count, doubles.among) : "",
+         .text = count > 0 ? translated("shell", "They are in the list more than once now.",
+                                        "It is in the list more than once now.", count)
+                           : "",
+         .choices = {{translated("shell", "Remove Doubles"), [this] { removeDoubles(); }}},
+         .dismissed = [this] { serials_.clear(); }});
 }
 
 void IntakeNotes::postOrWithdraw(BarMessage message) {
@@ -183,7 +187,7 @@ void IntakeNotes::loadToo(const std::vector<std::string> &paths) {
 
 /// What is a double is looked for anew: photos may have gone since, also the earlier ones.
 void IntakeNotes::removeDoubles() {
-    const UndoGroup group(context_, "Remove Doubles");
+    const UndoGroup group(context_, translated("shell", "Remove Doubles"));
     for (image *photo : doublesAmong(context_, std::exchange(serials_, {})).photos) {
         context_.deleteObject(*photo);
     }

@@ -1,6 +1,7 @@
 #include "shell/intake_words.h"
 
 #include "photos/file_names.h"
+#include "platform/translation.h"
 
 #include <algorithm>
 #include <iterator>
@@ -68,28 +69,35 @@ std::string joined(const std::vector<std::string> &parts, std::string_view betwe
     return text;
 }
 
-/// Leaves the first `most`, and tells of the others by their number; one alone stays.
-void shorten(std::vector<std::string> &parts, std::size_t most) {
-    if (parts.size() > most + 1) {
-        const std::size_t more = parts.size() - most;
+/// Leaves the first `most` and answers with the number of the others; one alone stays.
+std::size_t shorten(std::vector<std::string> &parts, std::size_t most) {
+    const std::size_t more = parts.size() > most + 1 ? parts.size() - most : 0;
+    if (more > 0) {
         parts.resize(most);
-        parts.push_back("and " + std::to_string(more) + " more");
     }
+    return more;
+}
+
+std::string withReason(const std::string &name, const std::string &reason) {
+    //: A file or folder, and why it could not be loaded.
+    return filled(translated("shell", "%1: %2"), {name, reason});
 }
 
 std::string reasonText(const LogReport &log) {
     switch (log.error) {
     case LogError::MalformedGpx:
-        return log.points == 0 ? "damaged GPX"
-                               : "damaged GPX; " + counted(log.points, "point", "points") +
-                                     " before the damage came in";
+        //: Why a log could not be loaded; follows its name and a colon, as the next four do.
+        return log.points == 0
+                   ? translated("shell", "damaged GPX")
+                   : translated("shell", "damaged GPX; %n points before the damage came in",
+                                "damaged GPX; %n point before the damage came in", log.points);
     case LogError::NotALog:
-        return "neither GPX nor NMEA";
+        return translated("shell", "neither GPX nor NMEA");
     case LogError::Unreadable:
     case LogError::None:
         break;
     }
-    return "not to be read";
+    return translated("shell", "not to be read");
 }
 
 std::string nameOf(const LogReport &log) {
@@ -98,12 +106,33 @@ std::string nameOf(const LogReport &log) {
 
 std::string logsText(const std::vector<LogReport> &logs) {
     if (logs.size() == 1) {
-        return nameOf(logs.front()) + ": " + reasonText(logs.front());
+        return withReason(nameOf(logs.front()), reasonText(logs.front()));
     }
     std::vector<std::string> names;
     std::transform(logs.begin(), logs.end(), std::back_inserter(names), nameOf);
-    shorten(names, mostLogs);
-    return joined(names, ", ");
+    const std::size_t more = shorten(names, mostLogs);
+    std::string text = joined(names, ", ");
+    return more == 0
+               ? text
+               //: %1: names of files with commas between them
+               : filled(translated("shell", "%1, and %n more", "%1, and %n more", more), {text});
+}
+
+/// Folders and photos with their reasons.
+std::string othersText(const NotLoaded &notLoaded) {
+    std::vector<std::string> parts;
+    for (const UnreadFolder &folder : notLoaded.folders) {
+        parts.push_back(withReason(splitPath(folder.path).name, folder.error.message()));
+    }
+    for (const LeftOutFile &file : notLoaded.files) {
+        parts.push_back(withReason(splitPath(file.path).name, std::string(reasonText(file.why))));
+    }
+    const std::size_t more = shorten(parts, mostNames);
+    std::string text = joined(parts, "; ");
+    return more == 0
+               ? text
+               //: %1: names of files and reasons with semicolons between them
+               : filled(translated("shell", "%1; and %n more", "%1; and %n more", more), {text});
 }
 
 } // namespace
@@ -125,26 +154,24 @@ std::string kindsText(const std::vector<std::string> &files, std::size_t folders
         }
     }
     if (others > 0) {
-        parts.push_back(parts.empty() ? counted(others, "file", "files")
-                                      : counted(others, "other file", "other files"));
+        parts.push_back(parts.empty()
+                            ? translated("shell", "%n files", "%n file", others)
+                            : translated("shell", "%n other files", "%n other file", others));
     }
     if (folders > 0) {
-        parts.push_back(counted(folders, "folder inside", "folders inside"));
+        //: Folders inside of the one that was loaded; their files were not.
+        parts.push_back(translated("shell", "%n folders inside", "%n folder inside", folders));
     }
     return joined(parts, ", ");
 }
 
 std::string notLoadedText(const NotLoaded &notLoaded) {
     std::vector<std::string> parts;
-    for (const UnreadFolder &folder : notLoaded.folders) {
-        parts.push_back(splitPath(folder.path).name + ": " + folder.error.message());
-    }
-    for (const LeftOutFile &file : notLoaded.files) {
-        parts.push_back(splitPath(file.path).name + ": " + std::string(reasonText(file.why)));
-    }
-    shorten(parts, mostNames);
     if (!notLoaded.logs.empty()) {
-        parts.insert(parts.begin(), logsText(notLoaded.logs));
+        parts.push_back(logsText(notLoaded.logs));
+    }
+    if (!notLoaded.folders.empty() || !notLoaded.files.empty()) {
+        parts.push_back(othersText(notLoaded));
     }
     return joined(parts, "; ");
 }
@@ -162,11 +189,12 @@ std::vector<LogReport> failedLogsToTell(const std::vector<LogReport> &logs) {
 
 std::string doublesText(std::size_t doubles, std::size_t loaded) {
     if (doubles < loaded) {
-        return std::to_string(doubles) + " of " + std::to_string(loaded) + " photos " +
-               (doubles == 1 ? "was" : "were") + " there already.";
+        return filled(translated("shell", "%n of %1 photos were there already.",
+                                 "%n of %1 photos was there already.", doubles),
+                      {std::to_string(loaded)});
     }
-    return loaded == 1 ? "The photo was there already."
-                       : "All " + std::to_string(loaded) + " photos were there already.";
+    return translated("shell", "All %n photos were there already.", "The photo was there already.",
+                      loaded);
 }
 
 } // namespace pinmora

@@ -5,6 +5,7 @@
 #include "outlets/progress_sheet.h"
 #include "persistence/change_observer.h"
 #include "persistence/undo_group.h"
+#include "platform/translation.h"
 #include "store/track.h"
 #include "store/track_part.h"
 
@@ -122,14 +123,16 @@ private:
 
 std::vector<std::string> readLogsAgain(Context &context, LogReading reading, ImportJournal *journal,
                                        ProgressSheet &progress) {
-    const UndoGroup group(context, "Read Logs Again");
+    const UndoGroup group(context, translated("shell", "Read Logs Again"));
     const std::vector<LogTracks> logs = logsOf(context);
     const std::string count = std::to_string(logs.size());
     std::vector<std::string> kept;
     QuietReader reader(context, reading, journal);
-    progress.showProgressWindow("Reading logs again", "", static_cast<double>(logs.size()));
+    progress.showProgressWindow(translated("shell", "Reading logs again"), "",
+                                static_cast<double>(logs.size()));
     for (std::size_t i = 0; i < logs.size(); ++i) {
-        progress.setSubText("Reading " + std::to_string(i + 1) + " of " + count);
+        progress.setSubText(
+            filled(translated("shell", "Reading %1 of %2"), {std::to_string(i + 1), count}));
         if (!reader.replace(logs[i])) {
             kept.push_back(logs[i].path);
         }

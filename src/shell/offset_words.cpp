@@ -1,5 +1,7 @@
 #include "shell/offset_words.h"
 
+#include "platform/translation.h"
+
 #include <cctype>
 #include <cstdint>
 #include <cstdlib>
@@ -10,25 +12,46 @@ namespace {
 
 using std::chrono::seconds;
 
+enum class Measure { Days, Hours, Minutes, Seconds };
+
 struct Unit {
     std::int64_t count;
-    const char *name;
-    bool twoDigits; ///< behind a larger unit, in the short form
+    Measure measure;
 };
+
+/// "12 min"; `padded`: "02 min".
+std::string spelled(const Unit &unit, bool padded = false) {
+    const std::string number = (padded && unit.count < 10 ? "0" : "") + std::to_string(unit.count);
+    switch (unit.measure) {
+    case Measure::Days:
+        //: A span of days, as short as can be.
+        return filled(translated("shell", "%1 d"), {number});
+    case Measure::Hours:
+        //: A span of hours, as short as can be.
+        return filled(translated("shell", "%1 h"), {number});
+    case Measure::Minutes:
+        //: A span of minutes, as short as can be.
+        return filled(translated("shell", "%1 min"), {number});
+    case Measure::Seconds:
+        break;
+    }
+    //: A span of seconds, as short as can be.
+    return filled(translated("shell", "%1 s"), {number});
+}
+
+std::string noTime() {
+    return spelled({.count = 0, .measure = Measure::Seconds});
+}
 
 /// Days only where hours would be hard to read.
 std::vector<Unit> unitsOf(seconds duration) {
     const std::int64_t size = std::abs(duration.count());
     constexpr std::int64_t hour = 3600;
     const bool inDays = size > 48 * hour;
-    return {{.count = inDays ? size / (24 * hour) : 0, .name = " d", .twoDigits = false},
-            {.count = inDays ? size / hour % 24 : size / hour, .name = " h", .twoDigits = false},
-            {.count = size / 60 % 60, .name = " min", .twoDigits = true},
-            {.count = size % 60, .name = " s", .twoDigits = true}};
-}
-
-std::string slowOrFast(seconds offset) {
-    return durationWords(offset) + (offset.count() > 0 ? " slow" : " fast");
+    return {{.count = inDays ? size / (24 * hour) : 0, .measure = Measure::Days},
+            {.count = inDays ? size / hour % 24 : size / hour, .measure = Measure::Hours},
+            {.count = size / 60 % 60, .measure = Measure::Minutes},
+            {.count = size % 60, .measure = Measure::Seconds}};
 }
 
 bool startsWithWord(std::string_view text, std::string_view word) {
@@ -76,35 +99,43 @@ std::string durationWords(seconds duration) {
     std::string words;
     for (const Unit &unit : unitsOf(duration)) {
         if (unit.count > 0) {
-            words += (words.empty() ? "" : " ") + std::to_string(unit.count) + unit.name;
+            words.append(words.empty() ? "" : " ").append(spelled(unit));
         }
     }
-    return words.empty() ? "0 s" : words;
+    return words.empty() ? noTime() : words;
 }
 
 std::string offsetSentence(seconds offset) {
-    return offset.count() == 0 ? "The camera’s clock was right."
-                               : "The camera was " + slowOrFast(offset) + ".";
+    if (offset.count() == 0) {
+        return translated("shell", "The camera’s clock was right.");
+    }
+    return filled(offset.count() > 0 ? translated("shell", "The camera was %1 slow.")
+                                     : translated("shell", "The camera was %1 fast."),
+                  {durationWords(offset)});
 }
 
 std::string offsetSentenceOf(std::string_view camera, seconds offset) {
-    return cameraName(camera) + ": " +
-           (offset.count() == 0 ? "its clock was right" : slowOrFast(offset));
+    if (offset.count() == 0) {
+        return filled(translated("shell", "%1: its clock was right"), {cameraName(camera)});
+    }
+    //: %1: the name of a camera, %2: a span of time; no full stop
+    return filled(offset.count() > 0 ? translated("shell", "%1: %2 slow")
+                                     : translated("shell", "%1: %2 fast"),
+                  {cameraName(camera), durationWords(offset)});
 }
 
 std::string shortOffset(seconds offset) {
     std::string words;
     for (const Unit &unit : unitsOf(offset)) {
-        const bool isSecond = std::string_view(unit.name) == " s";
+        const bool isSecond = unit.measure == Measure::Seconds;
         // Whole minutes say so where there are hours: "2 h 00 min".
         if (unit.count == 0 && (words.empty() || isSecond)) {
             continue;
         }
-        const bool padded = unit.twoDigits && !words.empty() && unit.count < 10;
-        words += (words.empty() ? "" : " ") + std::string(padded ? "0" : "") +
-                 std::to_string(unit.count) + unit.name;
+        const bool padded = !words.empty() && unit.measure >= Measure::Minutes;
+        words.append(words.empty() ? "" : " ").append(spelled(unit, padded));
     }
-    return (offset.count() < 0 ? "−" : "+") + (words.empty() ? "0 s" : words);
+    return (offset.count() < 0 ? "−" : "+") + (words.empty() ? noTime() : words);
 }
 
 std::string cameraName(std::string_view camera) {

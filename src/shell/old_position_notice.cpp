@@ -5,6 +5,7 @@
 #include "persistence/undo_manager.h"
 #include "platform/defaults.h"
 #include "platform/image_source.h"
+#include "platform/translation.h"
 #include "store/image.h"
 
 namespace pinmora {
@@ -35,11 +36,16 @@ bool hasPosition(const std::string &file) {
 
 std::string textOf(const std::vector<const image *> &photos) {
     if (photos.size() == 1) {
-        return "The saved copy of " + photos.front()->image_name().string() +
-               " would still carry the position that is in its file.";
+        return filled(translated("shell", "The saved copy of %1 would still carry the position "
+                                          "that is in its file."),
+                      {photos.front()->image_name().view()});
     }
-    return "The saved copies of " + std::to_string(photos.size()) +
-           " photos would still carry the positions that are in their files.";
+    return translated("shell",
+                      "The saved copies of %n photos would still carry the positions that are in "
+                      "their files.",
+                      "The saved copy of %n photo would still carry the position that is in its "
+                      "file.",
+                      photos.size());
 }
 
 } // namespace
@@ -137,15 +143,16 @@ void OldPositionNotice::tell() {
         concerned_.clear();
         text_.clear();
     };
-    quietBar_.post({.subject = noticeSubject,
-                    .head = {},
-                    .text = text,
-                    .choices = {{photos.size() == 1 ? "Remove It There" : "Remove Them There",
-                                 [this, answered] {
-                                     answered();
-                                     defaults_.setText(removesPositionKey, "1");
-                                 }}},
-                    .dismissed = answered});
+    quietBar_.post(
+        {.subject = noticeSubject,
+         .head = {},
+         .text = text,
+         .choices = {{translated("shell", "Remove Them There", "Remove It There", photos.size()),
+                      [this, answered] {
+                          answered();
+                          defaults_.setText(removesPositionKey, "1");
+                      }}},
+         .dismissed = answered});
 }
 
 } // namespace pinmora

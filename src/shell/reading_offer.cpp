@@ -7,7 +7,7 @@
 #include "photos/photo_intake.h"
 #include "platform/defaults.h"
 #include "platform/scoped_flag.h"
-#include "shell/intake_words.h"
+#include "platform/translation.h"
 #include "shell/log_intake_adapter.h"
 #include "shell/log_rereading.h"
 #include "store/track.h"
@@ -59,7 +59,8 @@ void ReadingOffer::tell(const std::optional<ReadingVerdict> &verdict) {
 void ReadingOffer::offer(const ReadingVerdict &verdict) {
     BarMessage message = wordsOf(verdict, comparison_.hasClockOffset());
     message.subject = subject;
-    message.choices = {{choiceOf(verdict), [this] { useOther(); }}, {"Keep", [this] { keep(); }}};
+    message.choices = {{choiceOf(verdict), [this] { useOther(); }},
+                       {translated("shell", "Keep"), [this] { keep(); }}};
     message.dismissed = [this] { keep(); };
     quietBar_.post(std::move(message));
 }
@@ -100,14 +101,18 @@ void ReadingOffer::tellOfKept(const std::vector<std::string> &paths) {
     }
     const std::string first = std::filesystem::path(paths.front()).filename().native();
     const std::size_t others = paths.size() - 1;
-    quietBar_.post({.subject = "logs kept",
-                    .head = others == 0
-                                ? first + " could not be read again."
-                                : std::to_string(paths.size()) + " logs could not be read again.",
-                    .text = others == 0 ? "Its points stay as they are."
-                                        : "Their points stay as they are: " + first + " and " +
-                                              counted(others, "other", "others") + ".",
-                    .choices = {}});
+    quietBar_.post(
+        {.subject = "logs kept",
+         .head = others == 0 ? filled(translated("shell", "%1 could not be read again."), {first})
+                             : translated("shell", "%n logs could not be read again.",
+                                          "%n log could not be read again.", paths.size()),
+         .text =
+             others == 0
+                 ? translated("shell", "Its points stay as they are.")
+                 : filled(translated("shell", "Their points stay as they are: %1 and %n others.",
+                                     "Their points stay as they are: %1 and %n other.", others),
+                          {first}),
+         .choices = {}});
 }
 
 } // namespace pinmora

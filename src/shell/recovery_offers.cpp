@@ -4,6 +4,7 @@
 #include "outlets/quiet_bar.h"
 #include "outlets/status_line.h"
 #include "platform/date.h"
+#include "platform/translation.h"
 #include "recovery/unsaved_work_keeper.h"
 #include "store/calendar_formats.h"
 
@@ -12,19 +13,23 @@
 namespace pinmora {
 namespace {
 
-std::string counted(std::size_t number, const std::string &one, const std::string &many) {
-    return std::to_string(number) + " " + (number == 1 ? one : many);
-}
-
-std::string whatIsInIt(const RecoveryOffer &offer) {
-    std::string words;
-    if (offer.photos > 0) {
-        words = counted(offer.photos, "photo", "photos");
+/// Follows the head, "Unsaved work".
+std::string whenceText(const RecoveryOffer &offer) {
+    if (offer.photos == 0 && offer.points == 0) {
+        //: After "Unsaved work". %1: date and time
+        return translated("shell", "from %1.");
     }
-    if (offer.points > 0) {
-        words += (words.empty() ? "" : " and ") + counted(offer.points, "point", "points");
+    if (offer.points == 0) {
+        return translated("shell", "from %1, with %n photos.", "from %1, with %n photo.",
+                          offer.photos);
     }
-    return words.empty() ? words : ", with " + words;
+    if (offer.photos == 0) {
+        return translated("shell", "from %1, with %n points.", "from %1, with %n point.",
+                          offer.points);
+    }
+    //: %2: "12 photos"
+    return translated("shell", "from %1, with %2 and %n points.", "from %1, with %2 and %n point.",
+                      offer.points);
 }
 
 std::string subjectOf(const RecoveryOffer &offer) {
@@ -33,10 +38,12 @@ std::string subjectOf(const RecoveryOffer &offer) {
 
 std::string textOf(const RecoveryOffer &offer) {
     LocalZone zone;
+    //: Follows "with".
+    const std::string photos = translated("shell", "%n photos", "%n photo", offer.photos);
     std::string text =
-        "from " + textFromDate(offer.time, shownTimeFormat, zone) + whatIsInIt(offer) + ".";
+        filled(whenceText(offer), {textFromDate(offer.time, shownTimeFormat, zone), photos});
     if (!offer.fault.empty()) {
-        text += " It cannot be brought back: " + offer.fault;
+        text += " " + filled(translated("shell", "It cannot be brought back: %1"), {offer.fault});
     }
     return text;
 }
@@ -46,8 +53,12 @@ std::string textOf(const RecoveryOffer &offer) {
 RecoveryOffers::RecoveryOffers(UnsavedWorkKeeper &keeper, QuietBar &bar, ErrorSheet &errors,
                                StatusLine &statusLine)
     : keeper_(keeper), bar_(bar), errors_(errors), statusLine_(statusLine), tellFailure_([this] {
-          errors_.present("Unsaved work is not being kept.",
-                          failure_ + ". Save the library (File menu) to keep what you have done.");
+          errors_.present(
+              translated("shell", "Unsaved work is not being kept."),
+              //: %1: the reason, with a capital letter and without a full stop
+              filled(translated("shell",
+                                "%1. Save the library (File menu) to keep what you have done."),
+                     {failure_}));
       }),
       failed_(keeper.recorder().failed.connect([this](const std::string &reason) {
           failure_ = reason;
@@ -67,36 +78,41 @@ void RecoveryOffers::post() {
 }
 
 void RecoveryOffers::post(const RecoveryOffer &offer) {
-    BarMessage message{
-        .subject = subjectOf(offer), .head = "Unsaved work", .text = textOf(offer), .choices = {}};
+    BarMessage message{.subject = subjectOf(offer),
+                       .head = translated("shell", "Unsaved work"),
+                       .text = textOf(offer),
+                       .choices = {}};
     if (offer.fault.empty()) {
-        message.choices.push_back({"Bring Back", [this, offer] { bringBack(offer); }});
+        message.choices.push_back(
+            {translated("shell", "Bring Back"), [this, offer] { bringBack(offer); }});
     }
-    message.choices.push_back({"Discard", [this, offer] { discard(offer); }});
+    message.choices.push_back({translated("shell", "Discard"), [this, offer] { discard(offer); }});
     bar_.post(std::move(message));
 }
 
 void RecoveryOffers::bringBack(const RecoveryOffer &offer) {
-    statusLine_.show("Bringing back unsaved work");
+    statusLine_.show(translated("shell", "Bringing back unsaved work"));
     const std::optional<std::string> problem = keeper_.recovered().bringBack(offer);
     statusLine_.show("");
     if (problem) {
-        errors_.present("Not all unsaved work could be brought back.", *problem);
+        errors_.present(translated("shell", "Not all unsaved work could be brought back."),
+                        *problem);
     }
 }
 
 /// A slip of the hand must not cost a person's work.
 void RecoveryOffers::discard(const RecoveryOffer &offer) {
     unwanted_.push_back(offer);
-    bar_.post({.subject = subjectOf(offer),
-               .head = "Unsaved work",
-               .text = textOf(offer) + " It will be removed when you quit.",
-               .choices = {{"Keep It", [this, offer] {
-                                std::erase_if(unwanted_, [&](const RecoveryOffer &other) {
-                                    return other.folder.path == offer.folder.path;
-                                });
-                                post(offer);
-                            }}}});
+    bar_.post(
+        {.subject = subjectOf(offer),
+         .head = translated("shell", "Unsaved work"),
+         .text = textOf(offer) + " " + translated("shell", "It will be removed when you quit."),
+         .choices = {{translated("shell", "Keep It"), [this, offer] {
+                          std::erase_if(unwanted_, [&](const RecoveryOffer &other) {
+                              return other.folder.path == offer.folder.path;
+                          });
+                          post(offer);
+                      }}}});
 }
 
 } // namespace pinmora

@@ -2,14 +2,27 @@
 
 #include "persistence/context.h"
 #include "persistence/undo_manager.h"
+#include "platform/translation.h"
 
 #include <string>
 
 namespace pinmora {
 namespace {
 
-std::string titleOf(const std::string &command, const std::string &step) {
-    return step.empty() ? command : command + " " + step;
+std::string undoTitle(const std::string &step) {
+    if (step.empty()) {
+        return translated("shell", "Undo");
+    }
+    //: %1: what is taken back, such as "Load GPS Data"
+    return filled(translated("shell", "Undo %1"), {step});
+}
+
+std::string redoTitle(const std::string &step) {
+    if (step.empty()) {
+        return translated("shell", "Redo");
+    }
+    //: %1: what is done again, such as "Load GPS Data"
+    return filled(translated("shell", "Redo %1"), {step});
 }
 
 } // namespace
@@ -36,8 +49,8 @@ UndoCommands::~UndoCommands() {
 void UndoCommands::showHistory() {
     undoItem.enabled.set(manager_.canUndo());
     redoItem.enabled.set(manager_.canRedo());
-    undoItem.title.set(titleOf("Undo", manager_.undoActionName()));
-    redoItem.title.set(titleOf("Redo", manager_.redoActionName()));
+    undoItem.title.set(undoTitle(manager_.undoActionName()));
+    redoItem.title.set(redoTitle(manager_.redoActionName()));
 }
 
 } // namespace pinmora

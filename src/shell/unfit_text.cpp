@@ -4,6 +4,7 @@
 #include "outlets/editing.h"
 #include "outlets/quiet_bar.h"
 #include "outlets/tab_view.h"
+#include "platform/translation.h"
 #include "shell/detail_fields.h"
 
 namespace pinmora {
@@ -22,10 +23,11 @@ UnfitText::UnfitText(Editing &editing, CoordinateFields &coordinates, DetailFiel
 void UnfitText::tell() {
     const std::string ofPosition = problemOfPosition();
     mainTabs_.selectedIdentifier.set(ofPosition.empty() ? "2" : "1");
-    quietBar_.post({.subject = subject,
-                    .head = "First correct what you typed, or press Escape in it:",
-                    .text = ofPosition.empty() ? problemOfDetails() : ofPosition,
-                    .choices = {}});
+    quietBar_.post(
+        {.subject = subject,
+         .head = translated("shell", "First correct what you typed, or press Escape in it:"),
+         .text = ofPosition.empty() ? problemOfDetails() : ofPosition,
+         .choices = {}});
 }
 
 std::string UnfitText::problemOfPosition() {

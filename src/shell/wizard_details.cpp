@@ -2,6 +2,7 @@
 
 #include "persistence/context.h"
 #include "platform/number_text.h"
+#include "platform/translation.h"
 #include "store/image.h"
 
 #include <algorithm>
@@ -33,9 +34,10 @@ void WizardDetails::didChange(Record &, std::string_view key) {
 void WizardDetails::showSelection() {
     const std::vector<image *> &photos = pictureArray_.selectedObjects();
     const image *const photo = photos.size() == 1 ? photos.front() : nullptr;
-    pictureData2.text.set(photo            ? photo->image_name().string()
-                          : photos.empty() ? std::string()
-                                           : std::to_string(photos.size()) + " photos");
+    pictureData2.text.set(photo ? photo->image_name().string()
+                          : photos.empty()
+                              ? std::string()
+                              : translated("shell", "%n photos", "%n photo", photos.size()));
     time2.text.set(photo ? std::string(trimmed(photo->time_string())) : "");
     latitude2.text.set(photo ? photo->lat().string() : "");
     longitude2.text.set(photo ? photo->lon().string() : "");
