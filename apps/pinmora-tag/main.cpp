@@ -5,6 +5,7 @@
 
 #include "places/place_settings.h"
 #include "platform/defaults.h"
+#include "platform/program_language.h"
 #include "platform/translation.h"
 #include "services/local_server.h"
 
@@ -92,6 +93,7 @@ int tagPhotos(const Options &options, const std::filesystem::path &resources) {
 
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
+    const ProgramLanguage language;
     const auto parsed = parseCommandLine(std::vector<std::string>(argv, argv + argc));
     if (const auto *usage = std::get_if<Usage>(&parsed)) {
         (usage->wrong ? std::cerr : std::cout) << usage->text;

@@ -3,6 +3,8 @@
 
 #include "platform/application_support.h"
 #include "platform/instance_channel.h"
+#include "platform/program_language.h"
+#include "platform/translation.h"
 #include "ui/web_map_view.h"
 
 #include <QApplication>
@@ -19,6 +21,11 @@ using namespace pinmora::app;
 namespace {
 
 using Paths = std::vector<std::string>;
+
+/// On standard error.
+void tell(const std::string &sentence) {
+    std::cerr << "pinmora: " << sentence << '\n';
+}
 
 /// How long the program that has the library may take to answer; it does so even while it loads.
 constexpr std::chrono::seconds patience{15};
@@ -44,8 +51,9 @@ int run(int &argc, char **argv, const Paths &paths, InstanceChannel &channel, In
     QApplication::setApplicationName(QStringLiteral("pinmora"));
     QApplication::setDesktopFileName(QStringLiteral("pinmora"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/pinmora.svg")));
+    const ProgramLanguage language;
     if (!channel.listen()) {
-        std::cerr << "pinmora: files cannot be handed over to this program by later starts.\n";
+        tell(translated("app", "files cannot be handed over to this program by later starts."));
     }
     const std::filesystem::path here = QApplication::applicationDirPath().toStdString();
     Program program(here / ".." / "share" / "pinmora", makeWebMapView);
@@ -62,6 +70,23 @@ int run(int &argc, char **argv, const Paths &paths, InstanceChannel &channel, In
     return status;
 }
 
+/// What the command line asks for instead of windows, in the person's language.
+int answer(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    const ProgramLanguage language;
+    const CommandLine asked = parseCommandLine(std::vector<std::string>(argv, argv + argc));
+    (asked.wrong ? std::cerr : std::cout) << asked.message;
+    return asked.wrong ? 2 : 0;
+}
+
+/// Where there is no application, before the windows or after them. `sentence` is in English.
+int giveUp(int argc, char **argv, const char *sentence) {
+    const QCoreApplication application(argc, argv);
+    const ProgramLanguage language;
+    tell(translated("app", sentence));
+    return 1;
+}
+
 /// Starts this program anew in place of the one that has ended; returns only when it cannot.
 int startAnew(char *name, std::vector<Paths> &messages) {
     std::vector<char *> arguments{name};
@@ -74,8 +99,9 @@ int startAnew(char *name, std::vector<Paths> &messages) {
     std::error_code error;
     const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
     ::execv(self.c_str(), arguments.data());
-    std::cerr << "pinmora: files that came while the program ended were not loaded.\n";
-    return 1;
+    return giveUp(
+        1, &name,
+        QT_TRANSLATE_NOOP("app", "files that came while the program ended were not loaded."));
 }
 
 } // namespace
@@ -83,8 +109,7 @@ int startAnew(char *name, std::vector<Paths> &messages) {
 int main(int argc, char **argv) {
     const CommandLine asked = parseCommandLine(std::vector<std::string>(argv, argv + argc));
     if (!asked.message.empty()) {
-        (asked.wrong ? std::cerr : std::cout) << asked.message;
-        return asked.wrong ? 2 : 0;
+        return answer(argc, argv);
     }
     Inbox inbox;
     int status = 0;
@@ -95,8 +120,9 @@ int main(int argc, char **argv) {
         case InstanceChannel::Start::HandedOver:
             return 0;
         case InstanceChannel::Start::Stuck:
-            std::cerr << "pinmora: another Pinmora has this library open and does not answer.\n";
-            return 1;
+            return giveUp(argc, argv,
+                          QT_TRANSLATE_NOOP(
+                              "app", "another Pinmora has this library open and does not answer."));
         case InstanceChannel::Start::Runs:
             break;
         }

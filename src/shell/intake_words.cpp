@@ -137,10 +137,6 @@ std::string othersText(const NotLoaded &notLoaded) {
 
 } // namespace
 
-std::string counted(std::size_t count, std::string_view one, std::string_view many) {
-    return std::to_string(count).append(" ").append(count == 1 ? one : many);
-}
-
 std::string kindsText(const std::vector<std::string> &files, std::size_t folders,
                       const std::function<bool(const std::string &)> &first,
                       const std::function<bool(std::string_view)> &loads) {

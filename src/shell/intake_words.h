@@ -12,9 +12,6 @@
 /// What is said of a load, as sentences and parts of them (UTF-8 where file names are).
 namespace pinmora {
 
-/// "1 photo", "12 photos".
-std::string counted(std::size_t count, std::string_view one, std::string_view many);
-
 /// "12 .heic, 2 .png, 3 other files, 1 folder inside": files by their kinds, whatever case their
 /// extensions have; but an extension that only loads in another case is told as it is spelled.
 /// `loads` holds for the extensions that load. Those files for which `first` holds come first, then
