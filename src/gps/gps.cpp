@@ -27,9 +27,9 @@ std::string stepName() {
 
 } // namespace
 
-Gps::Gps(Context &context, ProgressSheet &progress, ErrorSheet &errors)
-    : context_(context), errors_(errors), gpx_(context, progress, errors),
-      nmea_(context, progress, errors) {}
+Gps::Gps(Context &context, ProgressSheet &progress, ErrorSheet &errors, TextLogFormats formats)
+    : context_(context), progress_(progress), errors_(errors), formats_(formats),
+      gpx_(context, progress, errors), writer_(context) {}
 
 void Gps::beginLoad() {
     gpx_.elements().setInTrack(false);
@@ -57,7 +57,7 @@ LogReport Gps::loadLog(const std::filesystem::path &path) {
     if (!file.readRest(bytes)) {
         return reportUnreadable(path, file.lastFailure());
     }
-    return readNmea(std::move(bytes), path);
+    return readText(std::move(bytes), path);
 }
 
 LogReport Gps::parseXMLFile(const std::filesystem::path &path) {
@@ -73,7 +73,7 @@ LogReport Gps::processNMEAData(std::string_view text) {
     const UndoGroup group(context_, stepName());
     const ImportFacts facts = factsOf(ImportFacts::Format::Nmea, {});
     const ImportTelling telling(journal_, facts);
-    LogReport report = nmea_.read(text, {}, reading_, std::chrono::year(facts.currentYear));
+    LogReport report = readText(formatOf(facts.format, formats_), text, facts);
     std::string bytes(text);
     telling.give(bytes);
     return report;
@@ -100,14 +100,30 @@ LogReport Gps::readGpx(InputFile &file, std::string firstBlock, const std::files
     return gpx_.finish();
 }
 
-LogReport Gps::readNmea(std::string bytes, const std::filesystem::path &path) {
-    const ImportFacts facts = factsOf(ImportFacts::Format::Nmea, std::filesystem::absolute(path));
-    const ImportTelling telling(journal_, facts);
+LogReport Gps::readText(std::string bytes, const std::filesystem::path &path) {
     const std::string decoded = isUtf8(bytes) ? std::string() : utf8FromLatin1(bytes);
-    const std::string_view text = decoded.empty() ? bytes : decoded;
-    LogReport report = nmea_.read(withoutByteOrderMark(text), facts.path, reading_,
-                                  std::chrono::year(facts.currentYear));
+    const std::string_view text = withoutByteOrderMark(decoded.empty() ? bytes : decoded);
+    const TextLogFormat &format = formatOf(text, formats_);
+    const ImportFacts facts = factsOf(format.number, std::filesystem::absolute(path));
+    const ImportTelling telling(journal_, facts);
+    LogReport report = readText(format, text, facts);
     telling.give(bytes);
+    return report;
+}
+
+LogReport Gps::readText(const TextLogFormat &format, std::string_view text,
+                        const ImportFacts &facts) {
+    LogReport report = format.read({.text = text,
+                                    .path = facts.path,
+                                    .reading = reading_,
+                                    .currentYear = std::chrono::year(facts.currentYear)},
+                                   writer_);
+    progress_.closeProgress();
+    if (report.failed()) {
+        report.message = translated(
+            "gps", "There was an error parsing the GPS data file. File is not GPX or NMEA");
+        errors_.present(translated("gps", "Error!"), report.message);
+    }
     return report;
 }
 

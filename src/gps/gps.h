@@ -3,7 +3,8 @@
 #include "gps/gpx_reader.h"
 #include "gps/log_file_types.h"
 #include "gps/log_report.h"
-#include "gps/nmea_reader.h"
+#include "gps/text_log.h"
+#include "gps/track_writer.h"
 #include "platform/input_file.h"
 #include "store/import_journal.h"
 
@@ -18,8 +19,9 @@ namespace pinmora {
 /// the context, whatever comes after it. A log is one step of undo, or part of the one under way.
 class Gps : public LogImporter {
 public:
-    /// All three must outlive it.
-    Gps(Context &context, ProgressSheet &progress, ErrorSheet &errors);
+    /// All must outlive it; `formats` are those of logs that are no GPX.
+    Gps(Context &context, ProgressSheet &progress, ErrorSheet &errors,
+        TextLogFormats formats = textLogFormats());
 
     /// The extensions of logs, in the order in which an open panel offers them.
     std::span<const std::string_view> gpsTypes() const { return gpsLogTypes; }
@@ -62,14 +64,18 @@ public:
 
 private:
     LogReport readGpx(InputFile &file, std::string firstBlock, const std::filesystem::path &path);
-    LogReport readNmea(std::string bytes, const std::filesystem::path &path);
+    LogReport readText(std::string bytes, const std::filesystem::path &path);
+    LogReport readText(const TextLogFormat &format, std::string_view text,
+                       const ImportFacts &facts);
     ImportFacts factsOf(ImportFacts::Format format, const std::filesystem::path &path) const;
     LogReport reportUnreadable(const std::filesystem::path &path, std::error_code reason);
 
     Context &context_;
+    ProgressSheet &progress_;
     ErrorSheet &errors_;
+    const TextLogFormats formats_;
     GpxReader gpx_;
-    NmeaReader nmea_;
+    TrackWriter writer_;
     LogReading reading_ = LogReading::Exact;
     ImportJournal *journal_ = nullptr;
 };

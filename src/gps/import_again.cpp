@@ -7,7 +7,7 @@ namespace pinmora {
 
 namespace {
 
-/// What the readers show themselves on, where nobody looks.
+/// What the GPX reader shows itself on, where nobody looks.
 struct Unseen {
     Window window;
     ProgressSheet progress{[this]() -> Window & { return window; }};
@@ -19,20 +19,21 @@ LogReading readingOf(const ImportFacts &facts) {
                                                                 : LogReading::Exact;
 }
 
-void readNmeaAgain(Context &context, const ImportFacts &facts, ImportSource &source) {
+void readTextAgain(Context &context, const ImportFacts &facts, TextLogFormats formats,
+                   ImportSource &source) {
     std::string bytes;
     for (std::string_view block = source.next(); !block.empty(); block = source.next()) {
         bytes += block;
     }
-    Unseen unseen;
-    NmeaReader reader(context, unseen.progress, unseen.errors);
-    const std::chrono::year year(facts.currentYear);
-    if (facts.path.empty()) { // a text that was no file was text already
-        reader.read(bytes, {}, readingOf(facts), year);
-    } else {
-        const std::string text = utf8OrLatin1(std::move(bytes));
-        reader.read(withoutByteOrderMark(text), facts.path, readingOf(facts), year);
-    }
+    const bool isFile = !facts.path.empty(); // a text that was none was text already
+    const std::string text = isFile ? utf8OrLatin1(std::move(bytes)) : std::move(bytes);
+    TrackWriter writer(context);
+    formatOf(facts.format, formats)
+        .read({.text = isFile ? withoutByteOrderMark(text) : std::string_view(text),
+               .path = facts.path,
+               .reading = readingOf(facts),
+               .currentYear = std::chrono::year(facts.currentYear)},
+              writer);
 }
 
 } // namespace
@@ -40,8 +41,8 @@ void readNmeaAgain(Context &context, const ImportFacts &facts, ImportSource &sou
 void Gps::importAgain(Context &context, const ImportFacts &facts, Record *currentTrack,
                       ImportSource &source) {
     const ZoneScope zone(facts.zone);
-    if (facts.format == ImportFacts::Format::Nmea) {
-        readNmeaAgain(context, facts, source);
+    if (facts.format != ImportFacts::Format::Gpx) {
+        readTextAgain(context, facts, formats_, source);
         return;
     }
     Unseen unseen;

@@ -3,6 +3,7 @@
 #include "platform/input_file.h"
 #include "platform/text_encoding.h"
 
+#include <algorithm>
 #include <array>
 
 namespace pinmora {
@@ -74,7 +75,11 @@ bool beginsWithXml(std::string_view head, const ReadingPolicy &policy) {
     return start && start->first == '<';
 }
 
-bool looksLikeLog(const std::filesystem::path &path, LogReading reading) {
+bool hasSentence(std::string_view text) {
+    return SentenceFinder().foundIn(text);
+}
+
+bool looksLikeLog(const std::filesystem::path &path, LogReading reading, TextLogFormats formats) {
     InputFile file;
     if (file.open(path)) {
         return true;
@@ -84,9 +89,15 @@ bool looksLikeLog(const std::filesystem::path &path, LogReading reading) {
     if (!block || beginsWithXml(block->substr(0, logHeadSize), policyOf(reading))) {
         return true;
     }
+    *block = withoutByteOrderMark(*block);
+    const auto begins = [head = block->substr(0, logHeadSize)](const TextLogFormat &format) {
+        return format.begins(head);
+    };
+    if (std::any_of(formats.begin(), formats.end(), begins)) {
+        return true;
+    }
     SentenceFinder sentence;
-    for (*block = withoutByteOrderMark(*block); block && !block->empty();
-         block = file.read(buffer)) {
+    for (; block && !block->empty(); block = file.read(buffer)) {
         if (sentence.foundIn(*block)) {
             return true;
         }

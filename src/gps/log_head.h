@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gps/log_reading.h"
+#include "gps/text_log.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -28,8 +29,13 @@ std::optional<DocumentStart> documentStart(std::string_view head);
 /// file's name says nothing.
 bool beginsWithXml(std::string_view head, const ReadingPolicy &policy);
 
-/// Whether a file found in a folder is worth reading as a log: it begins with XML, or at least one
-/// of its lines begins with "$". A file that cannot be read is, so that reading it tells why.
-bool looksLikeLog(const std::filesystem::path &path, LogReading reading);
+/// Whether a line of a text begins with "$".
+bool hasSentence(std::string_view text);
+
+/// Whether a file found in a folder is worth reading as a log: it begins with XML or as one of the
+/// formats does, or at least one of its lines begins with "$". A file that cannot be read is, so
+/// that reading it tells why.
+bool looksLikeLog(const std::filesystem::path &path, LogReading reading,
+                  TextLogFormats formats = textLogFormats());
 
 } // namespace pinmora

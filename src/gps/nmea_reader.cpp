@@ -2,7 +2,6 @@
 
 #include "gps/nmea_lines.h"
 #include "gps/nmea_points.h"
-#include "platform/translation.h"
 
 #include <optional>
 
@@ -21,22 +20,19 @@ bool isLog(std::string_view text, const ReadingPolicy &policy) {
 
 } // namespace
 
-NmeaReader::NmeaReader(Context &context, ProgressSheet &progress, ErrorSheet &errors)
-    : progress_(progress), errors_(errors), writer_(context) {}
-
-LogReport NmeaReader::read(std::string_view text, const std::filesystem::path &path,
-                           LogReading reading, std::chrono::year currentYear) {
+LogReport readNmeaLog(const TextLog &log, TrackWriter &writer) {
+    const ReadingPolicy &policy = policyOf(log.reading);
     LogReport report;
-    report.path = path;
-    report.reading = reading;
+    report.path = log.path;
+    report.reading = log.reading;
     std::optional<NmeaPoints> points;
-    if (isLog(text, policyOf(reading))) {
-        points.emplace(writer_, report, currentYear);
+    if (isLog(log.text, policy)) {
+        points.emplace(writer, report, log.currentYear);
     } else {
         report.error = LogError::NotALog;
     }
 
-    NmeaLines lines(text);
+    NmeaLines lines(log.text);
     while (lines.next()) {
         const auto taken =
             points ? points->take(lines.line(), lines.index()) : NmeaPoints::Taken::No;
@@ -52,16 +48,10 @@ LogReport NmeaReader::read(std::string_view text, const std::filesystem::path &p
         points->finish(lines.count());
     }
 
-    if (!policyOf(reading).makesEmptyPoint && report.points == 0 && report.unusable == 0) {
+    if (!policy.makesEmptyPoint && report.points == 0 && report.unusable == 0) {
         report.error = LogError::NotALog; // not one sentence of use, and none that is at fault
     }
 
-    progress_.closeProgress();
-    if (report.failed()) {
-        report.message = translated(
-            "gps", "There was an error parsing the GPS data file. File is not GPX or NMEA");
-        errors_.present(translated("gps", "Error!"), report.message);
-    }
     return report;
 }
 

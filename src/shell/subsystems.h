@@ -127,7 +127,8 @@ struct Subsystems {
     WizardEnd wizardEnd;
     VersionCheck versionCheck;
 
-    Window logWindow; ///< shows the log file
+    Window logWindow;    ///< shows the log file
+    Window manualWindow; ///< shows the manual
 
 private:
     std::vector<Date> timesOfTurn() const;

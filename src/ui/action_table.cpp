@@ -157,6 +157,8 @@ struct Table {
                   "Ctrl+Shift+W", "",
                   QT_TRANSLATE_NOOP("ui", "The same work, everything on one surface")},
 
+        ActionRow{Manual, MenuName::Help, QT_TRANSLATE_NOOP("ui", "&Manual"), "F1", "",
+                  QT_TRANSLATE_NOOP("ui", "How Pinmora is used")},
         ActionRow{SampleOuting, MenuName::Help,
                   QT_TRANSLATE_NOOP("ui", "&Try It With the Sample Outing"), "Ctrl+Alt+T", "",
                   QT_TRANSLATE_NOOP(
@@ -172,7 +174,7 @@ struct Table {
         ActionRow{ReportProblem, MenuName::Help, QT_TRANSLATE_NOOP("ui", "&Report a Problem…"),
                   "Ctrl+Alt+R", "",
                   QT_TRANSLATE_NOOP("ui", "Tell the makers of Pinmora what went wrong")},
-        ActionRow{About, MenuName::Help, QT_TRANSLATE_NOOP("ui", "&About Pinmora"), "F1", "",
+        ActionRow{About, MenuName::Help, QT_TRANSLATE_NOOP("ui", "&About Pinmora"), "Shift+F1", "",
                   QT_TRANSLATE_NOOP("ui", "Version and licence"), true},
     };
 };

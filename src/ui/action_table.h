@@ -55,6 +55,7 @@ enum class ActionName {
     DarkLook,
     ShowWizard,
     ShowMainWindow,
+    Manual,
     SampleOuting,
     ShowLog,
     CheckVersion,

@@ -97,6 +97,7 @@ void ProgramActions::connectViews() {
     using enum ActionName;
     on(ShowPosition, [this] { delegate_.interface.mainTabs.selectedIdentifier.set("1"); });
     on(ShowDetails, [this] { delegate_.interface.mainTabs.selectedIdentifier.set("2"); });
+    on(Manual, [this] { parts_.manualWindow.makeKeyAndOrderFront(); });
     on(ShowLog, [this] { parts_.logWindow.makeKeyAndOrderFront(); });
     on(About, [this] { tellAbout(); });
 }

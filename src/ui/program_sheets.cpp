@@ -7,6 +7,7 @@
 #include "ui/file_names.h"
 #include "ui/full_view_window.h"
 #include "ui/log_window.h"
+#include "ui/manual_window.h"
 #include "ui/missing_dialog.h"
 #include "ui/open_panel_dialog.h"
 #include "ui/progress_dialog.h"
@@ -99,6 +100,11 @@ void ProgramSheets::addWindows() {
         if (visible && !log_) {
             log_ = std::make_unique<LogWindow>(parts_.logWindow, parts_.log,
                                                delegate_.interface.workspace);
+        }
+    });
+    bindings_.watch(parts_.manualWindow.visible, [this](bool visible) {
+        if (visible && !manual_) {
+            manual_ = std::make_unique<ManualWindow>(parts_.manualWindow);
         }
     });
     bindings_.watch(parts_.versionCheck.testUpdate, [this](updateTest *update) {

@@ -12,6 +12,7 @@ namespace pinmora {
 
 class FullViewWindow;
 class LogWindow;
+class ManualWindow;
 class Pinmora_AppDelegate;
 class UpdateWindow;
 struct Subsystems;
@@ -38,6 +39,7 @@ private:
     QWidget owner_; ///< never seen: has the sheets until they are first up
     std::unique_ptr<FullViewWindow> fullView_;
     std::unique_ptr<LogWindow> log_;
+    std::unique_ptr<ManualWindow> manual_;
     std::unique_ptr<UpdateWindow> update_;
     Bindings bindings_; ///< goes before what it writes to
 };

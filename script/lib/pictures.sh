@@ -1,0 +1,102 @@
+# Sourced by script/screenshots: what is done for each picture. A function is one run of the program
+# and bears the name of its picture.
+# shellcheck shell=bash disable=SC2034,SC2154
+groups=(
+    wizard-welcome wizard-clock wizard-save main-window details-dark clock-proposal strip true-time cameras
+    missing reading
+)
+
+# shift_clock FOLDER HOURS: sets the cameras' clocks to another time.
+shift_clock() {
+    exiftool -q -m -overwrite_original "-AllDates$2:0:0" -ext jpg "$1" || true
+}
+
+wizard-welcome() {
+    start light 1
+    take wizard-welcome "$window"
+}
+
+wizard-clock() {
+    start light 1 "$(outing Zugerberg)"
+    keys alt+n
+    keys alt+n
+    keys alt+n
+    take wizard-clock "$window"
+}
+
+wizard-save() {
+    start light 1 "$(outing Zugerberg)"
+    keys alt+n
+    keys alt+n
+    keys alt+n
+    click 620 432 # the clock was right
+    keys ctrl+Return
+    take wizard-save "$window"
+}
+
+main-window() {
+    start light 0 "$(outing Zugerberg)"
+    keys ctrl+Return
+    click 150 345
+    click 565 247 # the map shows the whole track
+    take main-window "$window"
+}
+
+details-dark() {
+    start dark 0 "$(outing Zugerberg)"
+    keys ctrl+Return
+    click 150 300
+    keys ctrl+2
+    take details-dark "$window"
+}
+
+clock-proposal() {
+    local folder
+    folder=$(outing Zugerberg)
+    shift_clock "$folder" -=2
+    start light 0 "$folder"
+    take clock-proposal "$window" 1280x120+0+0
+}
+
+strip() {
+    start light 0 "$(outing Zugerberg)"
+    keys ctrl+Return
+    click 150 345
+    take strip "$window" 1280x64+0+718
+}
+
+true-time() {
+    start light 0 "$(outing Zugerberg)"
+    click 150 252
+    keys ctrl+t
+    take true-time "$(xdotool getactivewindow)"
+}
+
+cameras() {
+    local folder
+    folder=$(outing Zugerberg)
+    exiftool -q -m -overwrite_original -Model='Pocket 7' "$folder"/IMG_041[46].JPG
+    start light 0 "$folder"
+    keys ctrl+shift+k
+    take cameras "$(xdotool getactivewindow)"
+}
+
+missing() {
+    local folder
+    folder=$(outing Zugerberg)
+    start light 0 "$folder"
+    mv "$folder" "$folder - sorted"
+    keys ctrl+shift+s
+    keys Return
+    take missing "$(xdotool getactivewindow)"
+}
+
+# A phone's log in universal time, and a camera on summer time.
+reading() {
+    local folder
+    folder=$(outing Zugerberg)
+    shift_clock "$folder" +=2
+    rm "$folder/ship.nmea"
+    TZ=Europe/Zurich start light 0 "$folder"
+    take reading "$window" 1280x120+0+0
+}
