@@ -1,5 +1,7 @@
 #include "ui/action_table.h"
 
+#include "platform/program_language.h"
+
 #include <QAction>
 #include <QMenuBar>
 #include <QSet>
@@ -11,8 +13,15 @@ class ActionsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void eachIsWhole_data() {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("English") << QStringLiteral("en");
+        QTest::newRow("German") << QStringLiteral("de");
+    }
     /// Every action can be reached by menu and keyboard, and says what it does.
     void eachIsWhole() {
+        QFETCH(const QString, language);
+        const ProgramLanguage spoken({language});
         Actions actions(this);
         QMenuBar bar;
         actions.fill(bar);
