@@ -16,6 +16,7 @@
 #include <csignal>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 
 using namespace pinmora;
 using namespace pinmora::tag;
@@ -93,14 +94,18 @@ int tagPhotos(const Options &options, const std::filesystem::path &resources) {
 
 int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
-    const ProgramLanguage language;
+    std::optional<ProgramLanguage> language(std::in_place);
     const auto parsed = parseCommandLine(std::vector<std::string>(argv, argv + argc));
     if (const auto *usage = std::get_if<Usage>(&parsed)) {
         (usage->wrong ? std::cerr : std::cout) << usage->text;
         return usage->wrong ? 2 : 0;
     }
+    const auto &options = std::get<Options>(parsed);
+    if (options.json) {
+        language.reset(); // what programs read is the same for everybody
+    }
     std::signal(SIGINT, requestStop);
     std::signal(SIGTERM, requestStop);
     const std::filesystem::path program = QCoreApplication::applicationDirPath().toStdString();
-    return tagPhotos(std::get<Options>(parsed), program / ".." / "share" / "pinmora");
+    return tagPhotos(options, program / ".." / "share" / "pinmora");
 }
