@@ -1039,6 +1039,40 @@
     </message>
 </context>
 <context>
+    <name>pinmora::ManualPage</name>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Seite des Handbuchs</translation>
+    </message>
+</context>
+<context>
+    <name>pinmora::ManualWindow</name>
+    <message>
+        <source>Pinmora - Manual</source>
+        <translation>Pinmora - Handbuch</translation>
+    </message>
+    <message>
+        <source>Contents of the manual</source>
+        <translation>Inhalt des Handbuchs</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Find on this page</source>
+        <translation>Auf dieser Seite suchen</translation>
+    </message>
+    <message>
+        <source>Not on this page</source>
+        <translation>Nicht auf dieser Seite</translation>
+    </message>
+</context>
+<context>
     <name>pinmora::MapPane</name>
     <message>
         <source>Try Again</source>
@@ -3777,6 +3811,14 @@ oder etwas Genanntes war nicht zu lesen; 2 falscher Aufruf.</translation>
     <message>
         <source>Progress</source>
         <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Handbuch</translation>
+    </message>
+    <message>
+        <source>How Pinmora is used</source>
+        <translation>Wie Pinmora benutzt wird</translation>
     </message>
 </context>
 <context>
