@@ -1,9 +1,9 @@
 # Sourced by script/screenshots: what is done for each picture. A function is one run of the program
-# and bears the name of its picture.
+# and bears the name of its picture, the first where there are two.
 # shellcheck shell=bash disable=SC2034,SC2154
 groups=(
-    wizard-welcome wizard-clock wizard-save main-window details-dark clock-proposal strip true-time cameras
-    missing reading
+    wizard-welcome wizard-clock wizard-save main-window details-dark clock-proposal true-time cameras missing
+    reading
 )
 
 # shift_clock FOLDER HOURS: sets the cameras' clocks to another time.
@@ -13,7 +13,7 @@ shift_clock() {
 
 wizard-welcome() {
     start light 1
-    take wizard-welcome "$window"
+    take wizard-welcome main
 }
 
 wizard-clock() {
@@ -21,7 +21,7 @@ wizard-clock() {
     keys alt+n
     keys alt+n
     keys alt+n
-    take wizard-clock "$window"
+    take wizard-clock main
 }
 
 wizard-save() {
@@ -31,7 +31,7 @@ wizard-save() {
     keys alt+n
     click 620 432 # the clock was right
     keys ctrl+Return
-    take wizard-save "$window"
+    take wizard-save main
 }
 
 main-window() {
@@ -39,7 +39,8 @@ main-window() {
     keys ctrl+Return
     click 150 345
     click 565 247 # the map shows the whole track
-    take main-window "$window"
+    take main-window main
+    take strip main 1280x64+0+718
 }
 
 details-dark() {
@@ -47,7 +48,7 @@ details-dark() {
     keys ctrl+Return
     click 150 300
     keys ctrl+2
-    take details-dark "$window"
+    take details-dark main
 }
 
 clock-proposal() {
@@ -55,21 +56,14 @@ clock-proposal() {
     folder=$(outing Zugerberg)
     shift_clock "$folder" -=2
     start light 0 "$folder"
-    take clock-proposal "$window" 1280x120+0+0
-}
-
-strip() {
-    start light 0 "$(outing Zugerberg)"
-    keys ctrl+Return
-    click 150 345
-    take strip "$window" 1280x64+0+718
+    take clock-proposal main 1280x120+0+0
 }
 
 true-time() {
     start light 0 "$(outing Zugerberg)"
     click 150 252
     keys ctrl+t
-    take true-time "$(xdotool getactivewindow)"
+    take true-time sheet
 }
 
 cameras() {
@@ -78,7 +72,7 @@ cameras() {
     exiftool -q -m -overwrite_original -Model='Pocket 7' "$folder"/IMG_041[46].JPG
     start light 0 "$folder"
     keys ctrl+shift+k
-    take cameras "$(xdotool getactivewindow)"
+    take cameras sheet
 }
 
 missing() {
@@ -88,7 +82,7 @@ missing() {
     mv "$folder" "$folder - sorted"
     keys ctrl+shift+s
     keys Return
-    take missing "$(xdotool getactivewindow)"
+    take missing sheet
 }
 
 # A phone's log in universal time, and a camera on summer time.
@@ -98,5 +92,5 @@ reading() {
     shift_clock "$folder" +=2
     rm "$folder/ship.nmea"
     TZ=Europe/Zurich start light 0 "$folder"
-    take reading "$window" 1280x120+0+0
+    take reading main 1280x120+0+0
 }

@@ -75,15 +75,16 @@ void ManualWindow::listPages() {
             page_->setSource(urlOf(item));
         }
     });
-    connect(page_, &QTextBrowser::sourceChanged, this, [this] { markPage(); });
+    connect(page_, &QTextBrowser::sourceChanged, this,
+            [this](const QUrl &page) { markPage(page); });
     contents_->setCurrentRow(0);
     contents_->setFocus();
 }
 
 /// A link or a step back has led to another page.
-void ManualWindow::markPage() {
+void ManualWindow::markPage(const QUrl &source) {
     found_->clear();
-    const QUrl page = page_->source().adjusted(QUrl::RemoveFragment);
+    const QUrl page = source.adjusted(QUrl::RemoveFragment);
     for (int row = 0; row < contents_->count(); ++row) {
         if (urlOf(contents_->item(row)) == page) {
             contents_->setCurrentRow(row);

@@ -29,7 +29,7 @@ protected:
 private:
     void listPages();
     QLayout *makeBar();
-    void markPage();
+    void markPage(const QUrl &source);
     /// Goes to the next place of the words looked for, over the page's end to its begin.
     void find(bool backwards);
 

@@ -13,13 +13,13 @@ namespace {
 
 const std::array formats{test::csvLogFormat, textLogFormats().front()};
 
-const std::string log = "time,latitude,longitude,altitude\r\n"
-                        "2025-06-14T15:31:00Z,47.17360,8.51521,421\r\n"
-                        "2025-06-14T15:31:xx,47.17360,8.51521,421\r\n"
-                        "\n"
-                        "2025-06-14T17:31:12.5+02:00,-47.1700,-8.5,\n"
-                        "2025-06-14T15:31:24Z,90.5,8.5,420\n"
-                        "2025-06-14T15:31:24Z,47.17";
+const std::string csvLog = "time,latitude,longitude,altitude\r\n"
+                           "2025-06-14T15:31:00Z,47.17360,8.51521,421\r\n"
+                           "2025-06-14T15:31:xx,47.17360,8.51521,421\r\n"
+                           "\n"
+                           "2025-06-14T17:31:12.5+02:00,-47.1700,-8.5,\n"
+                           "2025-06-14T15:31:24Z,90.5,8.5,420\n"
+                           "2025-06-14T15:31:24Z,47.17";
 
 const std::string itsPoints = "47.17360/8.51521/421/2025-06-14T15:31:00/1/1 "
                               "-47.1700/-8.5/-/2025-06-14T15:31:12+500000us/2/1";
@@ -47,21 +47,15 @@ class CsvLogTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void isReadBesideTheOthers_data() {
+    void isReadByItsRow_data() {
         const auto row = test::rows<std::string, std::string, std::string>();
-        row("CSV", log, itsPoints,
+        row("CSV", csvLog, itsPoints,
             "3 points or sentences could not be used, the first in line 3: ");
-        row("with a mark", "\xEF\xBB\xBF" + log, itsPoints, "3 points");
+        row("with a mark", "\xEF\xBB\xBF" + csvLog, itsPoints, "3 points");
         row("heading only", "time,latitude,longitude", "", "");
-        row("NMEA", "$GPRMC,123519,A,4807.038,N,01131.000,E,1,2,230394,3,W\n$GPGSV,1,1\n",
-            "+48.117298/+11.516666/-/1994-03-23T12:35:19/1/1", "");
-        row("GPX",
-            "<?xml version=\"1.0\"?><gpx><trk><trkseg><trkpt lat=\"1\" lon=\"2\"></trkpt>"
-            "</trkseg></trk></gpx>",
-            "1/2/-/-/1/1", "1 point");
     }
 
-    void isReadBesideTheOthers() {
+    void isReadByItsRow() {
         const auto [bytes, points, unusable] = test::fetch<std::string, std::string, std::string>();
         LogDesk desk;
         Gps gps(desk.context, desk.progress, desk.errors, formats);
@@ -73,12 +67,27 @@ private Q_SLOTS:
         QVERIFY(looksLikeLog(path, LogReading::Tolerant, formats));
     }
 
+    void othersAreReadAsBefore() {
+        for (const char *const other :
+             {"$GPRMC,123519,A,4807.038,N,01131.000,E,1,2,230394,3,W\n$GPGSV,1,1\n",
+              "<?xml version=\"1.0\"?><gpx><trk><trkseg><trkpt lat=\"1\" lon=\"2\">"
+              "<time>2008-06-01T09:30:00Z</time></trkpt></trkseg></trk></gpx>"}) {
+            LogDesk plain;
+            plain.load(other);
+            QVERIFY(!plain.points().empty());
+            LogDesk desk;
+            Gps(desk.context, desk.progress, desk.errors, formats)
+                .loadLog(desk.write("walk.log", other));
+            QCOMPARE(desk.points(), plain.points());
+        }
+    }
+
     void isReadAgainAfterACrash() {
         LogDesk desk;
         Kept kept;
         Gps gps(desk.context, desk.progress, desk.errors, formats);
         gps.setImportJournal(&kept);
-        gps.loadLog(desk.write("walk.log", log));
+        gps.loadLog(desk.write("walk.log", csvLog));
         LogDesk later;
         Gps(later.context, later.progress, later.errors, formats)
             .importAgain(later.context, kept.facts, nullptr, kept);

@@ -136,7 +136,7 @@ private Q_SLOTS:
         Window outlet;
         ManualWindow window(outlet);
         outlet.makeKeyAndOrderFront();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(QTest::qWaitForWindowActive(&window));
         auto *const contents = window.findChild<QListWidget *>();
         auto *const page = window.findChild<QTextBrowser *>();
         const auto isShown = [&](int row) {
@@ -149,7 +149,7 @@ private Q_SLOTS:
         page->setSource(QUrl(QStringLiteral("qrc") + manual + pages().at(3))); // as a link does
         QVERIFY(isShown(3));
         QTest::keyClick(&window, Qt::Key_Left, Qt::AltModifier);
-        QVERIFY(isShown(1));
+        QTRY_VERIFY(isShown(1)); // the button is seen to be pressed
 
         auto *const words = window.findChild<QLineEdit *>();
         QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
