@@ -79,8 +79,18 @@ void TimeStripWidget::fit(bool all) {
         const auto margin = std::max<std::chrono::microseconds>((seen->to - seen->from) / 25,
                                                                 std::chrono::minutes(1));
         axis_ = {seen->from - margin, seen->to + margin, double(width())};
+        makeRoomForEdges(axis_.xOf(seen->from));
     }
     update();
+}
+
+/// What tells of photos out of sight is not to stand on those that are seen, `margin` pixels from
+/// the ends.
+void TimeStripWidget::makeRoomForEdges(double margin) {
+    const double edge = std::max(edgeRect(false).width(), edgeRect(true).width()) + spacing;
+    if (edge > spacing && edge > margin && width() > 4 * edge) {
+        axis_ = axis_.zoomed(width() / 2.0, (width() - 2 * margin) / (width() - 2 * edge));
+    }
 }
 
 void TimeStripWidget::setAxis(const TimeAxis &axis) {

@@ -55,6 +55,7 @@ private:
 
     void follow();
     void fit(bool all);
+    void makeRoomForEdges(double margin);
     void setAxis(const TimeAxis &axis);
     void settleHeight();
     void describe();
