@@ -9,7 +9,7 @@
 namespace pinmora {
 namespace {
 
-constexpr int pictureWidth = 84 * spacing;
+constexpr int pictureWidth = 76 * spacing;
 
 QString styleIn(const Colours &c) {
     return QStringLiteral("body { color: %1; }"
