@@ -35,20 +35,32 @@ ClockPanel::ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, Editing &e
       chooseFirst_(labelOf(Role::Quiet, tr("Choose a photo first."))), times_(new QWidget),
       instead_(new QStackedLayout), taken_(new QLabel), corrected_(labelOf(Role::Strong)),
       endOfTurn_([this] { showTimes(); }) {
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(smallGap);
-    addClock(*column, saying, editing);
-    addTimes(*column);
+    auto *clock = new QVBoxLayout;
+    clock->setSpacing(smallGap);
+    addClock(*clock, saying, editing);
+    clock->addStretch();
+    auto *photo = new QVBoxLayout;
+    photo->setSpacing(smallGap);
+    addTimes(*photo);
     more_ = makeMore(find);
-    addActions(*column);
-    column->addWidget(more_);
-    column->addStretch();
+    addActions(*photo);
+    photo->addWidget(more_);
+    photo->addStretch();
+    halves_ = new QBoxLayout(QBoxLayout::TopToBottom, this);
+    halves_->setContentsMargins(0, 0, 0, 0);
+    halves_->addLayout(clock);
+    halves_->addLayout(photo, 1);
+    setLow(false);
 
     // A selection may change in the middle of a change of the library.
     bindings_.keep(outlets.pictureArray.selectionChanged.connect([this] { endOfTurn_.ask(); }));
     bindings_.keep(outlets.offsetText.text.onChange([this](const std::string &) { showTimes(); }));
     showTimes();
+}
+
+void ClockPanel::setLow(bool low) {
+    halves_->setDirection(low ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    halves_->setSpacing(low ? 4 * spacing : smallGap);
 }
 
 /// A camera's name may be long.

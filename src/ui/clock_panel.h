@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class QBoxLayout;
 class QLabel;
 class QPushButton;
 class QStackedLayout;
@@ -32,6 +33,9 @@ public:
     ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, Editing &editing,
                const std::function<void()> &find, QWidget *parent = nullptr);
 
+    /// Half as high and twice as wide.
+    void setLow(bool low);
+
 private:
     QLabel *elided(TextField &field, Role role);
     void addClock(QVBoxLayout &column, ClockSaying &saying, Editing &editing);
@@ -41,6 +45,7 @@ private:
     void showTimes();
 
     MatchingOutlets &outlets_;
+    QBoxLayout *halves_ = nullptr; ///< the clock, and what it makes of a photo
     QLabel *chooseFirst_;
     QWidget *times_;
     QStackedLayout *instead_; ///< one of these two

@@ -74,6 +74,7 @@ void FittingScrollArea::arrange() {
     const bool fits = width() >= widthOfRow_;
     const auto direction = fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
     if (row_->direction() != direction) {
+        Q_EMIT stackingChanged(!fits);
         row_->setDirection(direction);
         for (QWidget *line : lines_) {
             line->setVisible(fits);

@@ -18,6 +18,10 @@ public:
     /// Wide enough for each of the widgets: nobody looks for a button beyond an edge.
     QSize minimumSizeHint() const override;
 
+Q_SIGNALS:
+    /// Whether they now stand below each other, before they do.
+    void stackingChanged(bool stacked);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

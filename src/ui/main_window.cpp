@@ -155,10 +155,13 @@ QWidget *MainWindow::makePositionTab() {
     auto *column = new QVBoxLayout(page);
     column->setContentsMargins(spacing, spacing, spacing, spacing);
     column->addWidget(new MapPane(delegate_.interface.webView1, parts_.makePage), 1);
-    column->addWidget(new FittingScrollArea(
-        {new CoordinatePanel(subsystems_.coordinates, delegate_.interface.addRemoveMarker),
-         new ClockPanel(subsystems_.matching, subsystems_.clockSaying, delegate_.editing,
-                        [this] { subsystems_.matcher.guessFromLatLon(); })}));
+    auto *clock = new ClockPanel(subsystems_.matching, subsystems_.clockSaying, delegate_.editing,
+                                 [this] { subsystems_.matcher.guessFromLatLon(); });
+    auto *panels = new FittingScrollArea(
+        {new CoordinatePanel(subsystems_.coordinates, delegate_.interface.addRemoveMarker), clock});
+    // Below the coordinates it has their width, and the map needs the height.
+    connect(panels, &FittingScrollArea::stackingChanged, clock, &ClockPanel::setLow);
+    column->addWidget(panels);
     return page;
 }
 
