@@ -51,21 +51,23 @@ details-dark() {
     take details-dark main
 }
 
-# place PHOTO LATITUDE LONGITUDE: as if a phone had taken it.
-place() {
-    exiftool -q -m -overwrite_original -GPSLatitudeRef=N -GPSLongitudeRef=E \
-        -GPSLatitude="$2" -GPSLongitude="$3" "$1"
+# again FOLDER PHOTO MINUTES...: the photo once more, so many minutes later each time.
+again() {
+    local later
+    for later in "${@:3}"; do
+        cp "$1/$2.JPG" "$1/$2-$later.JPG"
+        exiftool -q -m -overwrite_original "-AllDates+=0:$later:0" "$1/$2-$later.JPG"
+    done
 }
 
-# A camera two hours behind, and some photos whose places are known.
+# A camera two hours behind, with photos at both ends of the walk: no other hour is as good.
 clock-proposal() {
     local folder
     folder=$(outing Zugerberg)
     rm "$folder/IMG_0371.JPG"
+    again "$folder" IMG_0412 4 9 15
+    again "$folder" IMG_0418 1 3 5
     shift_clock "$folder" -=2
-    place "$folder/IMG_0414.JPG" 47.15114 8.50544
-    place "$folder/IMG_0416.JPG" 47.14722 8.52571
-    place "$folder/IMG_0417.JPG" 47.13918 8.54070
     start light 0 "$folder"
     take clock-proposal main 1280x120+0+0
 }
