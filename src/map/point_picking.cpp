@@ -15,7 +15,7 @@ PointPicking::PointPicking(Context &context, MapBridge &bridge, Outlets outlets,
     pickPoint.enabled.set(false);
     bridge.setClickTaker([this](const std::string &position) { return take(position); });
     connections_.push_back(pickPoint.pressed.connect([this] {
-        if (armed_.get()) {
+        if (armed.get()) {
             disarm();
         } else {
             arm();
@@ -27,9 +27,9 @@ PointPicking::PointPicking(Context &context, MapBridge &bridge, Outlets outlets,
     }));
     offer();
     for (MapView *view : {&outlets.webView1, &outlets.webView2}) {
-        connections_.push_back(armed_.onChange([this, view](bool) { tell(*view); }));
+        connections_.push_back(armed.onChange([this, view](bool) { tell(*view); }));
         connections_.push_back(view->loaded.connect([this, view] {
-            if (armed_.get()) {
+            if (armed.get()) {
                 tell(*view);
             }
         }));
@@ -49,7 +49,7 @@ bool PointPicking::canArm() const {
 /// Whatever else a page tells, a placement or that the person has given it up, ends it. A second
 /// click that comes too late is not to place the photo.
 bool PointPicking::take(const std::string &position) {
-    const bool wasArmed = armed_.get();
+    const bool wasArmed = armed.get();
     disarm();
     if (!position.ends_with(":pick")) {
         return false;
@@ -63,7 +63,7 @@ bool PointPicking::take(const std::string &position) {
 }
 
 void PointPicking::tell(MapView &view) const {
-    view.feed(armed_.get() ? R"({"kind":"pick","on":true})" : R"({"kind":"pick","on":false})");
+    view.feed(armed.get() ? R"({"kind":"pick","on":true})" : R"({"kind":"pick","on":false})");
 }
 
 } // namespace pinmora

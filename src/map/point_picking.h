@@ -40,12 +40,12 @@ public:
     /// Arms it and disarms it again; enabled while there is something to arm it for.
     Button pickPoint;
 
-    /// Whether the next click is the one.
-    const Observable<bool> &armed() const { return armed_; }
+    /// Whether the next click is the one; written here alone.
+    Observable<bool> armed;
     bool canArm() const;
     /// Nothing where it cannot be.
-    void arm() { armed_.set(canArm()); }
-    void disarm() { armed_.set(false); }
+    void arm() { armed.set(canArm()); }
+    void disarm() { armed.set(false); }
     /// Photos or tracks have come or gone: offers the button anew once all is at rest.
     void offer() { endOfTurn_.ask(); }
 
@@ -57,7 +57,6 @@ private:
     MapBridge &bridge_;
     Outlets outlets_;
     Picked picked_;
-    Observable<bool> armed_;
     EndOfTurn endOfTurn_;
     std::vector<Connection> connections_;
 };

@@ -263,7 +263,7 @@ void PhotoTableModel::follow() {
     if (arranged == rows_) {
         tellChanges();
     } else if (rowOf_.size() == rows_.size() && sameMembers(rowOf_, arranged)) {
-        moveRows(arranged);
+        rearrangeRows(arranged);
         tellChanges();
     } else {
         beginResetModel();
@@ -284,7 +284,7 @@ void PhotoTableModel::takeRows(const std::vector<image *> &arranged) {
     }
 }
 
-void PhotoTableModel::moveRows(const std::vector<image *> &arranged) {
+void PhotoTableModel::rearrangeRows(const std::vector<image *> &arranged) {
     Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
     const std::vector<image *> before = rows_;
     takeRows(arranged);

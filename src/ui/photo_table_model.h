@@ -76,7 +76,7 @@ private:
     std::optional<std::chrono::seconds> gapOf(const image &photo) const;
     void follow();
     void takeRows(const std::vector<image *> &arranged);
-    void moveRows(const std::vector<image *> &arranged);
+    void rearrangeRows(const std::vector<image *> &arranged);
     void tellChanges();
     QString textAt(int row, Column column) const;
     QString accessibleText(const image &photo) const;

@@ -9,7 +9,7 @@ namespace pinmora {
 
 PickingEscape::PickingEscape(PointPicking &picking, QObject *parent)
     : QObject(parent), picking_(picking) {
-    following_ = picking.armed().onChange([this](bool armed) {
+    following_ = picking.armed.onChange([this](bool armed) {
         if (armed) {
             QCoreApplication::instance()->installEventFilter(this);
         } else {

@@ -85,8 +85,8 @@ void ProgramActions::connectClock() {
     QAction *const pick = actions_[PickTrackPoint];
     bindings_.tie(parts_.pointPicking.pickPoint, pick);
     // After a press, too, which ticks it even where it cannot be armed.
-    const auto tick = [this, pick](bool) { pick->setChecked(parts_.pointPicking.armed().get()); };
-    bindings_.watch(parts_.pointPicking.armed(), tick);
+    const auto tick = [this, pick](bool) { pick->setChecked(parts_.pointPicking.armed.get()); };
+    bindings_.watch(parts_.pointPicking.armed, tick);
     connect(pick, &QAction::triggered, this, tick);
     new PickingEscape(parts_.pointPicking, this);
     bindings_.tie(parts_.trueTime.openButton, actions_[PhotoWasTakenAt]);

@@ -36,11 +36,11 @@ private Q_SLOTS:
     void aClickPicksAndPlacesNothing() {
         PickDesk desk;
         desk.picking.pickPoint.press();
-        QVERIFY(desk.picking.armed().get());
+        QVERIFY(desk.picking.armed.get());
         desk.say("47.5:-8.25:12:pick");
         desk.say("47.6:-8.25:12:pick"); // the second one comes too late
         QCOMPARE(desk.picked, "47.500000 -8.250000|");
-        QVERIFY(!desk.picking.armed().get());
+        QVERIFY(!desk.picking.armed.get());
         QCOMPARE(MapDesk::stateOf(desk.photo), "1 2 - - -");
     }
 
@@ -49,7 +49,7 @@ private Q_SLOTS:
         const auto isArmedAfter = [&desk](const std::function<void()> &what) {
             desk.picking.arm();
             what();
-            return desk.picking.armed().get();
+            return desk.picking.armed.get();
         };
         QVERIFY(isArmedAfter([] {}));
         desk.picking.disarm();
@@ -75,7 +75,7 @@ private Q_SLOTS:
         desk.pictureArray.select(&desk.photo);
         desk.context.deleteObject(desk.point);
         desk.picking.arm();
-        QVERIFY(!desk.picking.armed().get());
+        QVERIFY(!desk.picking.armed.get());
     }
 
     void theButtonIsOfferedWhereItWorks() {

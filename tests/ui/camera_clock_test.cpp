@@ -125,10 +125,10 @@ private Q_SLOTS:
         QVERIFY(desk.does(ApplyToSelected) && desk.does(ApplyToUnplaced));
         QVERIFY(desk.does(PickTrackPoint));
         desk.action(PickTrackPoint)->trigger();
-        QVERIFY(desk.parts().pointPicking.armed().get());
+        QVERIFY(desk.parts().pointPicking.armed.get());
         QVERIFY(desk.action(PickTrackPoint)->isChecked());
         QTest::keyClick(desk.photoTable(), Qt::Key_Escape);
-        QVERIFY(!desk.parts().pointPicking.armed().get());
+        QVERIFY(!desk.parts().pointPicking.armed.get());
         QVERIFY(!desk.action(PickTrackPoint)->isChecked());
         desk.action(PlaceAtNearestPoint)->trigger();
         desk.settle();
