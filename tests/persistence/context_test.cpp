@@ -64,11 +64,11 @@ private Q_SLOTS:
 
     void unknownKeysAreRefused() {
         Record &leaf = context->insert<Leaf>();
-        QVERIFY_EXCEPTION_THROWN(leaf.valueForKey("size"), UnknownKeyError);
-        QVERIFY_EXCEPTION_THROWN(leaf.setValue("x", "label"), UnknownKeyError);
-        QVERIFY_EXCEPTION_THROWN(leaf.valueForKey("colourOf"), UnknownKeyError);
-        QVERIFY_EXCEPTION_THROWN(leaf.setPrimitiveValue("x", "colourOf"), UnknownKeyError);
-        QVERIFY_EXCEPTION_THROWN(context->insertNewObjectForEntityForName("root"), UnknownKeyError);
+        QVERIFY_THROWS_EXCEPTION(UnknownKeyError, leaf.valueForKey("size"));
+        QVERIFY_THROWS_EXCEPTION(UnknownKeyError, leaf.setValue("x", "label"));
+        QVERIFY_THROWS_EXCEPTION(UnknownKeyError, leaf.valueForKey("colourOf"));
+        QVERIFY_THROWS_EXCEPTION(UnknownKeyError, leaf.setPrimitiveValue("x", "colourOf"));
+        QVERIFY_THROWS_EXCEPTION(UnknownKeyError, context->insertNewObjectForEntityForName("root"));
     }
 
     void dependentKeysFollowInsideTheNotices() {

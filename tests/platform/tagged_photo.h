@@ -22,7 +22,7 @@ using Tags = std::vector<std::pair<std::string, std::string>>;
 inline void addBytes(Exiv2::ExifData &exif, const char *key, Exiv2::TypeId type,
                      const std::string &bytes) {
     Exiv2::DataValue value(type);
-    value.read(reinterpret_cast<const Exiv2::byte *>(bytes.data()), bytes.size());
+    value.read(reinterpret_cast<const Exiv2::byte *>(bytes.data()), std::ssize(bytes));
     exif.add(Exiv2::ExifKey(key), &value);
 }
 

@@ -247,8 +247,8 @@ private Q_SLOTS:
 
     void positionsInTexts() {
         const auto [text, number] = test::fetch<QByteArray, double>();
-        const auto isExpected = [number](const degrees::Number &found) {
-            return found.has_value() == (number != 0) && found.value_or(0) == number;
+        const auto isExpected = [expected = number](const degrees::Number &found) {
+            return found.has_value() == (expected != 0) && found.value_or(0) == expected;
         };
         record_->showPosition("1", text.constData());
         QVERIFY(record_->degree_lat() == 1.0 && isExpected(record_->degree_lon()));
