@@ -142,7 +142,7 @@ void OffsetProposalTest::proposals_data() {
           std::pair("minutes", seconds(-37min)),
           std::pair("years", seconds(24h * 3000 + 5h + 7min))}) {
         row(
-            name, [off] { return outing(off); }, std::to_string(off.count()) + " s, 40 of 40");
+            name, [by = off] { return outing(by); }, std::to_string(off.count()) + " s, 40 of 40");
     }
     row(
         "right", [] { return outing(0s); }, "silent");

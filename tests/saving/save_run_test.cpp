@@ -197,7 +197,7 @@ private Q_SLOTS:
                       {.begins = [&](std::size_t, std::size_t) { ++begun; },
                        .stopped = [&] { return begun == 1; }});
         QCOMPARE(outcome.photos.at(0).status, SavedPhoto::Status::Saved);
-        for (const std::size_t index : {1, 2}) {
+        for (const std::size_t index : {1U, 2U}) {
             QCOMPARE(outcome.photos.at(index).status, SavedPhoto::Status::Stopped);
             QVERIFY(!outcome.photos.at(index).savedAs);
         }
