@@ -100,12 +100,12 @@ int main(int argc, char **argv) {
         (usage->wrong ? std::cerr : std::cout) << usage->text;
         return usage->wrong ? 2 : 0;
     }
-    const auto &options = std::get<Options>(parsed);
-    if (options.json) {
+    const auto *const options = std::get_if<Options>(&parsed);
+    if (options->json) {
         language.reset(); // what programs read is the same for everybody
     }
     std::signal(SIGINT, requestStop);
     std::signal(SIGTERM, requestStop);
     const std::filesystem::path program = QCoreApplication::applicationDirPath().toStdString();
-    return tagPhotos(options, program / ".." / "share" / "pinmora");
+    return tagPhotos(*options, program / ".." / "share" / "pinmora");
 }

@@ -142,7 +142,7 @@ std::string summaryOf(const Report &report) {
 
 /// What there is to say of a photo, and first how it went where that is not as it should be.
 std::string remarkOn(const PhotoLine &photo) {
-    const std::string message = terminalText(photo.message);
+    std::string message = terminalText(photo.message);
     switch (photo.status) {
     case Status::Unmatched:
         return filled(translated("tag", "unmatched: %1"), {message});

@@ -36,7 +36,7 @@ ManualPage::ManualPage(QWidget *parent) : QTextBrowser(parent) {
 
 /// A picture is made as sharp as the screen can show it; the document itself would only stretch it.
 QVariant ManualPage::loadResource(int type, const QUrl &name) {
-    const QVariant loaded = QTextBrowser::loadResource(type, name);
+    QVariant loaded = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource) {
         return loaded;
     }

@@ -146,12 +146,12 @@ private Q_SLOTS:
     void metres_data() {
         // metres: from 0, 0
         const auto row = test::rows<double, double, double>();
-        constexpr double degree = 6371008.8 * std::numbers::pi / 180;
+        constexpr double oneDegree = 6371008.8 * degree;
         row("here", 0.0, 0.0, 0.0);
-        row("next door", 0.00001, 0.0, degree * 0.00001);
-        row("a degree", 0.0, -1.0, degree);
-        row("the pole", 90.0, 123.0, 90 * degree);
-        row("the other side", 0.0, 180.0, 180 * degree);
+        row("next door", 0.00001, 0.0, oneDegree * 0.00001);
+        row("a degree", 0.0, -1.0, oneDegree);
+        row("the pole", 90.0, 123.0, 90 * oneDegree);
+        row("the other side", 0.0, 180.0, 180 * oneDegree);
     }
     void metres() {
         const auto [lat, lon, metres] = test::fetch<double, double, double>();
