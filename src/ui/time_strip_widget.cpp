@@ -65,6 +65,7 @@ void TimeStripWidget::fit(bool all) {
     photosFitted_ = strip_.ticks().size();
     barsFitted_ = strip_.bars().size();
     isFitted_ = true;
+    fitsAll_ = all;
     const std::optional<TimeStrip::Extent> tracks = strip_.tracksExtent();
     std::optional<TimeStrip::Extent> seen = strip_.photosExtent();
     if (!seen) {
@@ -146,6 +147,9 @@ bool TimeStripWidget::eventFilter(QObject *object, QEvent *event) {
 
 void TimeStripWidget::resizeEvent(QResizeEvent *event) {
     axis_ = axis_.resized(width());
+    if (isFitted_ && hand_ == Hand::Idle) {
+        fit(fitsAll_);
+    }
     QWidget::resizeEvent(event);
 }
 

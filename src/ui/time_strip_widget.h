@@ -84,6 +84,7 @@ private:
     TimeAxis axis_;
     bool offered_ = true;
     bool isFitted_ = true; ///< what is seen follows what is there
+    bool fitsAll_ = false; ///< and is all of it
     std::size_t photosFitted_ = 0;
     std::size_t barsFitted_ = 0;
     Hand hand_ = Hand::Idle;
