@@ -9,7 +9,12 @@ void QuietBar::post(BarMessage message) {
     const auto same = std::find_if(waiting_.begin(), waiting_.end(), [&](const BarMessage &other) {
         return other.subject == message.subject;
     });
-    if (same == waiting_.end()) {
+    if (message.isAnswer) {
+        if (same != waiting_.end()) {
+            waiting_.erase(same);
+        }
+        waiting_.push_front(std::move(message));
+    } else if (same == waiting_.end()) {
         waiting_.push_back(std::move(message));
     } else {
         *same = std::move(message);

@@ -23,13 +23,14 @@ struct BarMessage {
     std::string text;                  ///< one line
     std::vector<Choice> choices;       ///< at most two
     std::function<void()> dismissed{}; ///< on closing it without a choice; may be empty
+    bool isAnswer = false; ///< to what the person has just done: seen at once, before what waits
 
     friend bool operator==(const BarMessage &a, const BarMessage &b) {
         return a.subject == b.subject && a.head == b.head && a.text == b.text;
     }
 };
 
-/// The line under the tool bar: one message at a time, the oldest first.
+/// The line under the tool bar: one message at a time, the newest answer first, then the oldest.
 class QuietBar {
 public:
     /// The message that is seen; nothing when there is none.

@@ -95,7 +95,8 @@ void SavePipeline::sumUp(bool hasNotQuit, const std::string &text,
         {.subject = saveSubject,
          .head = {},
          .text = hasNotQuit ? text + " " + translated("saving", "Pinmora has not quit.") : text,
-         .choices = std::move(choices)});
+         .choices = std::move(choices),
+         .isAnswer = true});
 }
 
 } // namespace pinmora

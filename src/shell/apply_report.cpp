@@ -83,6 +83,7 @@ void ApplyReport::tell(std::size_t placed, const std::string &text,
         message.choices.push_back(
             {translated("shell", "Show"), [this, toLookAt] { show(toLookAt); }});
     }
+    message.isAnswer = true;
     quietBar_.post(std::move(message));
 }
 

@@ -208,7 +208,8 @@ void ClockProposal::take(const ProposedOffset &proposed) {
              translated("shell", "That is corrected now. Applying the log gives the photos their "
                                  "positions."),
          .choices = {{translated("shell", "Apply to All"),
-                      [this] { parts_.matcher.applyToAllPictures(); }}}});
+                      [this] { parts_.matcher.applyToAllPictures(); }}},
+         .isAnswer = true});
 }
 
 } // namespace pinmora

@@ -112,7 +112,8 @@ void ReadingOffer::tellOfKept(const std::vector<std::string> &paths) {
                  : filled(translated("shell", "Their points stay as they are: %1 and %n others.",
                                      "Their points stay as they are: %1 and %n other.", others),
                           {first}),
-         .choices = {}});
+         .choices = {},
+         .isAnswer = true});
 }
 
 } // namespace pinmora

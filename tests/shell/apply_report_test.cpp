@@ -31,7 +31,8 @@ private Q_SLOTS:
         QCOMPARE(wordsOf(outcome), text);
     }
 
-    /// The bar leads to the photos that need a look, and goes with what it speaks of.
+    /// The bar says at once what was done, leads to the photos that need a look, and goes with what
+    /// it speaks of.
     void showsWhatNeedsALook() {
         Desk desk;
         desk.start();
@@ -41,13 +42,16 @@ private Q_SLOTS:
         untimed.setNo_capture_time(true);
         desk.addPoint("2024-05-01T10:00:00Z", "47", "8");
         desk.endTurn();
-        desk.parts().matcher.applyToAllPictures();
         QuietBar &bar = desk.interface().quietBar;
+        bar.post({.subject = "notice", .head = "A file was left out.", .text = {}, .choices = {}});
+        desk.parts().matcher.applyToAllPictures();
         QVERIFY(bar.message());
         QCOMPARE(bar.message()->head, "3 photos have got their positions.");
         bar.choose(0);
         QVERIFY(desk.parts().arrays.pictureArray.selectedObjects() ==
                 (std::vector<image *>{&far, &untimed}));
+        QCOMPARE(bar.message()->subject, "notice"); // it has waited for the answer
+        bar.dismiss();
         QVERIFY(!bar.message());
 
         desk.parts().matcher.applyToSelected();
