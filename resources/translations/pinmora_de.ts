@@ -1417,6 +1417,13 @@
         <source>Message: %1 %2</source>
         <translation>Meldung: %1 %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>1 weitere</numerusform>
+            <numerusform>%n weitere</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>pinmora::QuitDialog</name>

@@ -6,29 +6,32 @@
 namespace pinmora {
 
 void QuietBar::post(BarMessage message) {
-    const auto same = std::find_if(waiting_.begin(), waiting_.end(), [&](const BarMessage &other) {
-        return other.subject == message.subject;
-    });
-    if (message.isAnswer) {
-        if (same != waiting_.end()) {
-            waiting_.erase(same);
-        }
-        waiting_.push_front(std::move(message));
-    } else if (same == waiting_.end()) {
-        waiting_.push_back(std::move(message));
-    } else {
+    const auto same =
+        std::find_if(messages_.begin(), messages_.end(),
+                     [&](const BarMessage &other) { return other.subject == message.subject; });
+    const bool isAnswer = message.weight == BarWeight::Answer;
+    if (same != messages_.end() && same->weight == message.weight && !isAnswer) {
         *same = std::move(message);
+    } else {
+        if (same != messages_.end()) {
+            messages_.erase(same);
+        }
+        const auto place =
+            std::find_if(messages_.begin(), messages_.end(), [&](const BarMessage &other) {
+                return isAnswer || other.weight > message.weight;
+            });
+        messages_.insert(place, std::move(message));
     }
     showNext();
 }
 
 void QuietBar::withdraw(const std::string &subject) {
-    std::erase_if(waiting_, [&](const BarMessage &message) { return message.subject == subject; });
+    std::erase_if(messages_, [&](const BarMessage &message) { return message.subject == subject; });
     showNext();
 }
 
 void QuietBar::choose(std::size_t index) {
-    if (waiting_.empty() || index >= waiting_.front().choices.size()) {
+    if (messages_.empty() || index >= messages_.front().choices.size()) {
         return;
     }
     const BarMessage message = takeShown();
@@ -36,7 +39,7 @@ void QuietBar::choose(std::size_t index) {
 }
 
 void QuietBar::dismiss() {
-    if (waiting_.empty()) {
+    if (messages_.empty()) {
         return;
     }
     const BarMessage message = takeShown();
@@ -46,14 +49,15 @@ void QuietBar::dismiss() {
 }
 
 BarMessage QuietBar::takeShown() {
-    BarMessage message = std::move(waiting_.front());
-    waiting_.pop_front();
+    BarMessage message = std::move(messages_.front());
+    messages_.pop_front();
     showNext();
     return message;
 }
 
 void QuietBar::showNext() {
-    shown_.set(waiting_.empty() ? std::nullopt : std::optional(waiting_.front()));
+    shown_.set(messages_.empty() ? std::nullopt : std::optional(messages_.front()));
+    waiting_.set(messages_.empty() ? 0 : messages_.size() - 1);
 }
 
 } // namespace pinmora

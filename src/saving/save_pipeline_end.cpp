@@ -96,7 +96,7 @@ void SavePipeline::sumUp(bool hasNotQuit, const std::string &text,
          .head = {},
          .text = hasNotQuit ? text + " " + translated("saving", "Pinmora has not quit.") : text,
          .choices = std::move(choices),
-         .isAnswer = true});
+         .weight = BarWeight::Answer});
 }
 
 } // namespace pinmora

@@ -83,7 +83,7 @@ void ApplyReport::tell(std::size_t placed, const std::string &text,
         message.choices.push_back(
             {translated("shell", "Show"), [this, toLookAt] { show(toLookAt); }});
     }
-    message.isAnswer = true;
+    message.weight = BarWeight::Answer;
     quietBar_.post(std::move(message));
 }
 

@@ -181,9 +181,8 @@ void ClockProposal::tell(const std::vector<ProposedOffset> &proposed) {
          .head = textOf(*first),
          .text = {},
          .choices = {{translated("shell", "Apply"), [this, one = *first] { take(one); }}},
-         .dismissed = [this, one = *first] {
-             declined_.emplace(one.camera, one.proposal.offset);
-         }});
+         .dismissed = [this, one = *first] { declined_.emplace(one.camera, one.proposal.offset); },
+         .weight = BarWeight::Offer});
 }
 
 /// The photos keep their places until the log is applied: a look at them comes before that.
@@ -209,7 +208,7 @@ void ClockProposal::take(const ProposedOffset &proposed) {
                                  "positions."),
          .choices = {{translated("shell", "Apply to All"),
                       [this] { parts_.matcher.applyToAllPictures(); }}},
-         .isAnswer = true});
+         .weight = BarWeight::Answer});
 }
 
 } // namespace pinmora

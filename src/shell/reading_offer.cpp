@@ -62,6 +62,7 @@ void ReadingOffer::offer(const ReadingVerdict &verdict) {
     message.choices = {{choiceOf(verdict), [this] { useOther(); }},
                        {translated("shell", "Keep"), [this] { keep(); }}};
     message.dismissed = [this] { keep(); };
+    message.weight = BarWeight::Offer;
     quietBar_.post(std::move(message));
 }
 
@@ -113,7 +114,7 @@ void ReadingOffer::tellOfKept(const std::vector<std::string> &paths) {
                                      "Their points stay as they are: %1 and %n other.", others),
                           {first}),
          .choices = {},
-         .isAnswer = true});
+         .weight = BarWeight::Answer});
 }
 
 } // namespace pinmora

@@ -87,6 +87,7 @@ void RecoveryOffers::post(const RecoveryOffer &offer) {
             {translated("shell", "Bring Back"), [this, offer] { bringBack(offer); }});
     }
     message.choices.push_back({translated("shell", "Discard"), [this, offer] { discard(offer); }});
+    message.weight = BarWeight::Offer;
     bar_.post(std::move(message));
 }
 
@@ -107,12 +108,14 @@ void RecoveryOffers::discard(const RecoveryOffer &offer) {
         {.subject = subjectOf(offer),
          .head = translated("shell", "Unsaved work"),
          .text = textOf(offer) + " " + translated("shell", "It will be removed when you quit."),
-         .choices = {{translated("shell", "Keep It"), [this, offer] {
+         .choices = {{translated("shell", "Keep It"),
+                      [this, offer] {
                           std::erase_if(unwanted_, [&](const RecoveryOffer &other) {
                               return other.folder.path == offer.folder.path;
                           });
                           post(offer);
-                      }}}});
+                      }}},
+         .weight = BarWeight::Answer});
 }
 
 } // namespace pinmora

@@ -3,12 +3,16 @@
 #include "ui/mount_points.h"
 #include "ui/theme.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QSplitter>
 #include <QStandardPaths>
 #include <QTreeView>
 #include <QUrl>
@@ -39,7 +43,17 @@ void makeRoomy(QFileDialog &dialog) {
         constexpr int typeColumn = 2;
         list->setColumnHidden(typeColumn, true);
         list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-        list->header()->setSectionResizeMode(3, QHeaderView::ResizeToContents);
+        for (const int column : {1, 3}) {
+            list->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+        }
+    }
+    if (auto *splitter = dialog.findChild<QSplitter *>()) {
+        splitter->setSizes({18 * spacing, 87 * spacing});
+    }
+    // The list of what could be typed next would take the click on whatever lies below it.
+    if (auto *typed = dialog.findChild<QLineEdit *>(); typed && typed->completer()) {
+        QObject::connect(&dialog, &QFileDialog::directoryEntered, typed->completer()->popup(),
+                         &QWidget::hide, Qt::QueuedConnection);
     }
     dialog.resize(105 * spacing, 65 * spacing);
 }

@@ -15,7 +15,7 @@ namespace pinmora {
 
 QuietBarWidget::QuietBarWidget(QuietBar &bar, QWidget *parent)
     : QFrame(parent), head_(new QLabel(this)), text_(new ElidedLabel(this)),
-      close_(new QToolButton(this)) {
+      more_(new QLabel(this)), close_(new QToolButton(this)) {
     setRole(this, Role::QuietBar);
     setRole(head_, Role::Strong);
     head_->setTextFormat(Qt::PlainText);
@@ -28,10 +28,13 @@ QuietBarWidget::QuietBarWidget(QuietBar &bar, QWidget *parent)
     for (std::size_t i = 0; i < choices_.size(); ++i) {
         choices_[i] = new QPushButton(this);
         choices_[i]->setAutoDefault(false);
+        choices_[i]->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard where it is
         setRole(choices_[i], Role::Link);
         connect(choices_[i], &QPushButton::clicked, this, [&bar, i] { bar.choose(i); });
         row->addWidget(choices_[i]);
     }
+    setRole(more_, Role::Quiet);
+    row->addWidget(more_);
     close_->setIcon(icon("close"));
     close_->setIconSize(QSize(14, 14));
     close_->setToolTip(tr("Close this message"));
@@ -42,6 +45,9 @@ QuietBarWidget::QuietBarWidget(QuietBar &bar, QWidget *parent)
     row->addWidget(close_);
     bindings_.watch(bar.shown(),
                     [this](const std::optional<BarMessage> &message) { show(message); });
+    bindings_.watch(bar.waiting(), [this](std::size_t count) {
+        more_->setText(count == 0 ? QString() : tr("%n more", nullptr, static_cast<int>(count)));
+    });
 }
 
 void QuietBarWidget::show(const std::optional<BarMessage> &message) {

@@ -31,6 +31,7 @@ private:
     QLabel *head_;
     ElidedLabel *text_;
     std::array<QPushButton *, 2> choices_{};
+    QLabel *more_; ///< how many messages come after this one
     QToolButton *close_;
     Bindings bindings_; ///< goes before what it writes to
 };

@@ -71,6 +71,11 @@ void WorkWindow::changeEvent(QEvent *event) {
         applyTheme(*qApp, appearanceFrom(delegate_.defaults));
     } else if (event->type() == QEvent::PaletteChange) {
         Q_EMIT coloursChanged();
+    } else if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        // Some window managers let the window below a sheet take the keyboard, which it is deaf to.
+        if (QWidget *const sheet = QApplication::activeModalWidget()) {
+            sheet->activateWindow();
+        }
     }
 }
 

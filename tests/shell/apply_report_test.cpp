@@ -43,14 +43,22 @@ private Q_SLOTS:
         desk.addPoint("2024-05-01T10:00:00Z", "47", "8");
         desk.endTurn();
         QuietBar &bar = desk.interface().quietBar;
-        bar.post({.subject = "notice", .head = "A file was left out.", .text = {}, .choices = {}});
+        for (const BarWeight weight : {BarWeight::Note, BarWeight::Offer}) {
+            bar.post({.subject = weight == BarWeight::Note ? "note" : "offer",
+                      .head = {},
+                      .text = "waits",
+                      .choices = {},
+                      .weight = weight});
+        }
         desk.parts().matcher.applyToAllPictures();
         QVERIFY(bar.message());
         QCOMPARE(bar.message()->head, "3 photos have got their positions.");
         bar.choose(0);
         QVERIFY(desk.parts().arrays.pictureArray.selectedObjects() ==
                 (std::vector<image *>{&far, &untimed}));
-        QCOMPARE(bar.message()->subject, "notice"); // it has waited for the answer
+        QCOMPARE(bar.message()->subject, "offer"); // it has waited for the answer
+        bar.dismiss();
+        QCOMPARE(bar.message()->subject, "note");
         bar.dismiss();
         QVERIFY(!bar.message());
 
