@@ -113,6 +113,8 @@ void Photos::takeNamedPhoto(const std::string &path) {
     const auto [folder, name] = splitPath(path);
     if (isPict(name)) {
         makePictEntry(name, folder);
+    } else if (logs_.isGPS(name) && whyNoImage(path) == WhyLeftOut::NotAnImage) {
+        report_.logsNotAsked.push_back(path);
     } else { // perhaps a hidden file, which the whole path does not show
         leaveOutUnknown(path);
     }

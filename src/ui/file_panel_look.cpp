@@ -35,6 +35,33 @@ QList<QUrl> places() {
     return places;
 }
 
+/// Keeps the list of what could be typed away while nothing is typed, as after a folder was
+/// entered: it would take the click on whatever lies below it.
+class NoListForNothing : public QObject {
+public:
+    explicit NoListForNothing(QLineEdit &typed) : QObject(&typed), typed_(typed) {
+        typed.completer()->popup()->installEventFilter(this);
+        connect(&typed, &QLineEdit::textChanged, this, &NoListForNothing::hideForNothing);
+    }
+
+private:
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::Show) {
+            QMetaObject::invokeMethod(this, &NoListForNothing::hideForNothing,
+                                      Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+    void hideForNothing() {
+        if (typed_.text().isEmpty()) {
+            typed_.completer()->popup()->hide();
+        }
+    }
+
+    QLineEdit &typed_;
+};
+
 } // namespace
 
 void makeRoomy(QFileDialog &dialog) {
@@ -50,10 +77,8 @@ void makeRoomy(QFileDialog &dialog) {
     if (auto *splitter = dialog.findChild<QSplitter *>()) {
         splitter->setSizes({18 * spacing, 87 * spacing});
     }
-    // The list of what could be typed next would take the click on whatever lies below it.
     if (auto *typed = dialog.findChild<QLineEdit *>(); typed && typed->completer()) {
-        QObject::connect(&dialog, &QFileDialog::directoryEntered, typed->completer()->popup(),
-                         &QWidget::hide, Qt::QueuedConnection);
+        new NoListForNothing(*typed);
     }
     dialog.resize(105 * spacing, 65 * spacing);
 }

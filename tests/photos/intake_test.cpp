@@ -202,7 +202,7 @@ void IntakeTest::onePath_data() {
     both("pipe.jpg", "not a regular file: /pipe.jpg\n");
     both("text.jpg", "not readable as an image: /text.jpg\n");
     both("", "there is no such file: \n");
-    row("notes.txt", "named /notes.txt\n", unknown + "/notes.txt\n");
+    row("notes.txt", "named /notes.txt\n", "not asked /notes.txt\n");
     row("gone.gpx", "named /gone.gpx\n", "there is no such file: /gone.gpx\n");
 }
 
