@@ -81,6 +81,7 @@ TrackPanel::TrackPanel(Context &context, ArrayController<track> &tracks,
     none_->setMargin(12);
     inside->addWidget(none_);
     inside->addWidget(table_);
+    setFocusProxy(table_);
 
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -32,8 +32,14 @@ TracksPage::TracksPage(Pinmora_AppDelegate &delegate, QWidget *parent) : QWidget
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(frame);
     bindings_.watch(parts.counts.counts, [none, tracks](const Counts &now) {
+        const bool isFirst = now.tracks > 0 && none->isVisible();
         none->setVisible(now.tracks == 0);
         tracks->setVisible(now.tracks > 0);
+        if (isFirst) {
+            // Or the focus would go on to the button that removes them. The table is shown next.
+            QMetaObject::invokeMethod(tracks, qOverload<>(&QWidget::setFocus),
+                                      Qt::QueuedConnection);
+        }
     });
 }
 
