@@ -4,6 +4,7 @@
 #include "platform/defaults.h"
 #include "ui/file_names.h"
 #include "ui/file_panel_look.h"
+#include "ui/folder_dialog.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -76,7 +77,10 @@ OpenPanelDialog::OpenPanelDialog(OpenPanel &panel, WidgetOf widgetOf, QObject *p
 }
 
 QFileDialog *OpenPanelDialog::makeDialog(QWidget *parent) {
-    auto *const dialog = new QFileDialog(parent, QString::fromStdString(panel_.title));
+    const QString title = QString::fromStdString(panel_.title);
+    QFileDialog *const dialog = !panel_.canChooseFiles && panel_.canCreateDirectories
+                                    ? new FolderDialog(parent, title)
+                                    : new QFileDialog(parent, title);
     dress(*dialog);
     connect(dialog, &QFileDialog::rejected, this, [this] { answer({}); });
     connect(dialog, &QFileDialog::accepted, this, [this, dialog] {
