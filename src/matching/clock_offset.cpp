@@ -278,7 +278,7 @@ void ClockOffset::showSelectedTime() {
 
 void ClockOffset::showCorrectedTime(Date corrected) {
     LocalZone zone;
-    const std::string text = textFromDate(corrected, shownTimeFormat, zone);
+    const std::string text = localizedTextFromDate(corrected, shownTimeFormat, zone);
     outlets_.offsetText.text.set(text);
     outlets_.offsetText2.text.set(text);
 }

@@ -61,7 +61,8 @@ void SavePipeline::settle(const Run &run) {
     if (sum.failed > 0 || !sum.notOnDisk.empty()) {
         //: a button: shows the log of what went wrong
         choices.push_back({translated("saving", "Show"), parts_.showLog});
-    } else if (sum.saved > 0) {
+    }
+    if (sum.saved > 0) {
         choices.push_back({translated("saving", "Open Folder"),
                            [&workspace = parts_.workspace, folder = run.folder.native()] {
                                workspace.openFile(folder);

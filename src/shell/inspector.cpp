@@ -124,7 +124,7 @@ void Inspector::showCorrectedTime(const image &photo) {
     std::string text;
     if (hasTrackData() && photo.date() && stored) {
         LocalZone zone;
-        text = textFromDate(*correctedTime(photo, *stored), shownTimeFormat, zone);
+        text = localizedTextFromDate(*correctedTime(photo, *stored), shownTimeFormat, zone);
     }
     matching_.offsetText.text.set(text);
     matching_.offsetText2.text.set(text);

@@ -40,8 +40,8 @@ std::string textOf(const RecoveryOffer &offer) {
     LocalZone zone;
     //: Follows "with".
     const std::string photos = translated("shell", "%n photos", "%n photo", offer.photos);
-    std::string text =
-        filled(whenceText(offer), {textFromDate(offer.time, shownTimeFormat, zone), photos});
+    std::string text = filled(whenceText(offer),
+                              {localizedTextFromDate(offer.time, shownTimeFormat, zone), photos});
     if (!offer.fault.empty()) {
         text += " " + filled(translated("shell", "It cannot be brought back: %1"), {offer.fault});
     }

@@ -40,7 +40,7 @@ void TrueTime::open() {
     }
     LocalZone zone;
     photoName.text.set(photo->image_name().string());
-    cameraSays.text.set(textFromDate(*photo->date(), shownTimeFormat, zone));
+    cameraSays.text.set(localizedTextFromDate(*photo->date(), shownTimeFormat, zone));
     taken.set(zone.wallClockAt(*correctedTime(*photo, *matching_.offsetObj.content())));
     showWords();
     sheet.begin(workingWindow_());

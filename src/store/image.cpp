@@ -103,7 +103,7 @@ std::string image::theDateString() const {
 
 std::string image::time_string() const {
     LocalZone zone;
-    return date() ? textFromDate(*date(), shownTimeFormat, zone) : std::string();
+    return date() ? localizedTextFromDate(*date(), shownTimeFormat, zone) : std::string();
 }
 
 } // namespace pinmora

@@ -20,7 +20,7 @@ QString shortTime(Date date) {
         std::chrono::time_point_cast<std::chrono::microseconds>(std::chrono::system_clock::now());
     const std::string_view format =
         yearOf(date) == yearOf(now) ? "%e %b %H:%M:%S" : "%e %b %Y %H:%M:%S";
-    return QString::fromStdString(textFromDate(date, format, zone)).trimmed();
+    return QString::fromStdString(localizedTextFromDate(date, format, zone)).trimmed();
 }
 
 namespace photo_texts {

@@ -22,7 +22,8 @@ QString withYear(const std::optional<Date> &date) {
         return {};
     }
     LocalZone zone;
-    return QString::fromStdString(textFromDate(*date, "%e %b %Y %H:%M:%S", zone)).trimmed();
+    return QString::fromStdString(localizedTextFromDate(*date, "%e %b %Y %H:%M:%S", zone))
+        .trimmed();
 }
 
 Qt::Alignment alignmentOf(int column) {

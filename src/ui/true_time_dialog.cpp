@@ -67,7 +67,7 @@ void TrueTimeDialog::addTimes() {
     setRole(words, Role::Strong);
     bindings_.show(trueTime_.words, words);
     taken_->setTimeSpec(Qt::UTC);
-    taken_->setLocale(QLocale::c()); // month names as everywhere
+    taken_->setLocale(QLocale::system()); // month names as everywhere
     taken_->setDisplayFormat(QStringLiteral("d MMM yyyy HH:mm:ss"));
     taken_->setAccessibleName(tr("When the photo was taken"));
     int row = 0;
