@@ -6,10 +6,9 @@
 #include "ui/roles.h"
 #include "ui/theme.h"
 
-#include <QCloseEvent>
+#include <QEvent>
 #include <QFile>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
@@ -19,7 +18,7 @@ namespace pinmora {
 
 LogWindow::LogWindow(Window &window, const LogFile &log, const Workspace &workspace,
                      QWidget *parent)
-    : QWidget(parent, Qt::Window), window_(window), log_(log), text_(new QPlainTextEdit) {
+    : SideWindow(window, parent), log_(log), text_(new QPlainTextEdit) {
     setWindowTitle(tr("Pinmora - Log"));
     resize(100 * spacing, 52 * spacing);
     auto *column = new QVBoxLayout(this);
@@ -43,18 +42,8 @@ LogWindow::LogWindow(Window &window, const LogFile &log, const Workspace &worksp
     column->addWidget(text_, 1);
     column->addLayout(row);
     setTabOrder(text_, folder);
-    bindings_.watch(window.visible, [this](bool visible) {
-        if (visible) {
-            read();
-        }
-        setVisible(visible);
-    });
-    bindings_.keep(window.fronted.connect([this] {
-        read();
-        setWindowState(windowState() & ~Qt::WindowMinimized);
-        raise();
-        activateWindow();
-    }));
+    bindings_.keep(window.fronted.connect([this] { read(); }));
+    follow();
 }
 
 /// Where a person reads on stays where it is, unless that is the end.
@@ -70,23 +59,15 @@ void LogWindow::read() {
     bar->setValue(place < 0 ? bar->maximum() : place);
 }
 
+void LogWindow::showEvent(QShowEvent *event) {
+    read();
+    SideWindow::showEvent(event);
+}
+
 void LogWindow::changeEvent(QEvent *event) {
-    QWidget::changeEvent(event);
+    SideWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         read();
-    }
-}
-
-void LogWindow::closeEvent(QCloseEvent *event) {
-    event->ignore(); // what closes it is the outlet
-    window_.close();
-}
-
-void LogWindow::keyPressEvent(QKeyEvent *event) {
-    if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close)) {
-        window_.close();
-    } else {
-        QWidget::keyPressEvent(event);
     }
 }
 

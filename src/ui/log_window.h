@@ -1,9 +1,6 @@
 #pragma once
 
-#include "outlets/window.h"
-#include "ui/bindings.h"
-
-#include <QWidget>
+#include "ui/side_window.h"
 
 class QPlainTextEdit;
 
@@ -15,7 +12,7 @@ struct Workspace;
 
 /// The window that shows what has gone wrong, the newest at the end. It reads the log anew each
 /// time a person turns to it.
-class LogWindow : public QWidget {
+class LogWindow : public SideWindow {
     Q_OBJECT
 
 public:
@@ -24,17 +21,14 @@ public:
               QWidget *parent = nullptr);
 
 protected:
-    void closeEvent(QCloseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
     void read();
 
-    Window &window_;
     const LogFile &log_;
     QPlainTextEdit *text_;
-    Bindings bindings_;
 };
 
 } // namespace pinmora

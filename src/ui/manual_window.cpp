@@ -4,10 +4,8 @@
 #include "ui/roles.h"
 #include "ui/theme.h"
 
-#include <QCloseEvent>
 #include <QDir>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -40,8 +38,8 @@ QUrl urlOf(const QListWidgetItem *item) {
 } // namespace
 
 ManualWindow::ManualWindow(Window &window, QWidget *parent)
-    : QWidget(parent, Qt::Window), window_(window), contents_(new QListWidget),
-      page_(new ManualPage), words_(new QLineEdit), found_(new QLabel) {
+    : SideWindow(window, parent), contents_(new QListWidget), page_(new ManualPage),
+      words_(new QLineEdit), found_(new QLabel) {
     setWindowTitle(tr("Pinmora - Manual"));
     resize(118 * spacing, 84 * spacing);
     auto *const reading = new QHBoxLayout;
@@ -54,12 +52,7 @@ ManualWindow::ManualWindow(Window &window, QWidget *parent)
     column->addLayout(makeBar());
     column->addLayout(reading, 1);
     listPages();
-    bindings_.watch(window.visible, [this](bool visible) { setVisible(visible); });
-    bindings_.keep(window.fronted.connect([this] {
-        setWindowState(windowState() & ~Qt::WindowMinimized);
-        raise();
-        activateWindow();
-    }));
+    follow();
 }
 
 void ManualWindow::listPages() {
@@ -142,19 +135,6 @@ void ManualWindow::find(bool backwards) {
         isThere = page_->find(words_->text(), how);
     }
     found_->setText(isThere ? QString() : tr("Not on this page"));
-}
-
-void ManualWindow::closeEvent(QCloseEvent *event) {
-    event->ignore(); // what closes it is the outlet
-    window_.close();
-}
-
-void ManualWindow::keyPressEvent(QKeyEvent *event) {
-    if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close)) {
-        window_.close();
-    } else {
-        QWidget::keyPressEvent(event);
-    }
 }
 
 } // namespace pinmora

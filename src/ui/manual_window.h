@@ -1,13 +1,12 @@
 #pragma once
 
-#include "outlets/window.h"
-#include "ui/bindings.h"
-
-#include <QWidget>
+#include "ui/side_window.h"
 
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QListWidget;
+class QUrl;
 
 namespace pinmora {
 
@@ -15,16 +14,12 @@ class ManualPage;
 
 /// The window with the manual: its pages by title at the side, and the page that is read. All of it
 /// comes with the program; nothing is fetched.
-class ManualWindow : public QWidget {
+class ManualWindow : public SideWindow {
     Q_OBJECT
 
 public:
     /// The outlet must outlive the window.
     explicit ManualWindow(Window &window, QWidget *parent = nullptr);
-
-protected:
-    void closeEvent(QCloseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void listPages();
@@ -33,12 +28,10 @@ private:
     /// Goes to the next place of the words looked for, over the page's end to its begin.
     void find(bool backwards);
 
-    Window &window_;
     QListWidget *contents_;
     ManualPage *page_;
     QLineEdit *words_;
     QLabel *found_;
-    Bindings bindings_;
 };
 
 } // namespace pinmora

@@ -8,9 +8,7 @@
 #include "update/update_test.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -19,7 +17,7 @@
 namespace pinmora {
 
 UpdateWindow::UpdateWindow(updateTest &update, QWidget *parent)
-    : QWidget(parent, Qt::Window), update_(update) {
+    : SideWindow(update.theWindow, parent), update_(update) {
     resize(58 * spacing, 27 * spacing);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(3 * spacing, 3 * spacing, 3 * spacing, 2 * spacing);
@@ -29,6 +27,9 @@ UpdateWindow::UpdateWindow(updateTest &update, QWidget *parent)
     const WidgetOf widgetOf = [this](const Window &) -> QWidget * { return this; };
     new DownloadDialog(update.doDownload, widgetOf, this);
     new SavePanelDialog(update.savePanel, widgetOf, this);
+    bindings_.watch(update.theWindow.title, [this](const std::string &title) {
+        setWindowTitle(QString::fromStdString(title));
+    });
     follow();
 }
 
@@ -82,29 +83,8 @@ QLayout *UpdateWindow::makeButtons() {
     return row;
 }
 
-void UpdateWindow::follow() {
-    bindings_.watch(update_.theWindow.title, [this](const std::string &title) {
-        setWindowTitle(QString::fromStdString(title));
-    });
-    bindings_.watch(update_.theWindow.visible, [this](bool visible) { setVisible(visible); });
-    bindings_.keep(update_.theWindow.fronted.connect([this] {
-        setWindowState(windowState() & ~Qt::WindowMinimized);
-        raise();
-        activateWindow();
-    }));
-}
-
-void UpdateWindow::closeEvent(QCloseEvent *event) {
-    event->ignore(); // what closes it is the outlet
+void UpdateWindow::closeAsked() {
     update_.closeButton.press();
-}
-
-void UpdateWindow::keyPressEvent(QKeyEvent *event) {
-    if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close)) {
-        update_.closeButton.press();
-    } else {
-        QWidget::keyPressEvent(event);
-    }
 }
 
 } // namespace pinmora

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "ui/bindings.h"
-
-#include <QWidget>
+#include "ui/side_window.h"
 
 class QLayout;
 
@@ -12,7 +10,7 @@ class updateTest;
 
 /// The window of the update check: what it has found, and what can be done about it. It brings its
 /// own sheets along.
-class UpdateWindow : public QWidget {
+class UpdateWindow : public SideWindow {
     Q_OBJECT
 
 public:
@@ -20,16 +18,13 @@ public:
     explicit UpdateWindow(updateTest &update, QWidget *parent = nullptr);
 
 protected:
-    void closeEvent(QCloseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    void closeAsked() override;
 
 private:
     QLayout *makeTexts();
     QLayout *makeButtons();
-    void follow();
 
     updateTest &update_;
-    Bindings bindings_;
 };
 
 } // namespace pinmora
