@@ -85,7 +85,7 @@ LogList::Outcome loadLogs(MemoryLibrary &library, const LogList &logs,
                           const Surroundings &surroundings) {
     const bool tolerant =
         options.reading == LogsChoice::Tolerant ||
-        (options.reading == LogsChoice::Auto && surroundings.logReading == "tolerant");
+        (options.reading == LogsChoice::Auto && surroundings.logReading == LogReading::Tolerant);
     const LogReading inForce = tolerant ? LogReading::Tolerant : LogReading::Exact;
     LogList::Outcome outcome = logs.load(library.gps, inForce, surroundings);
     if (options.reading == LogsChoice::Auto && !tolerant &&

@@ -3,6 +3,7 @@
 #include "shown_text.h"
 #include "tag_job.h"
 
+#include "gps/reading_setting.h"
 #include "places/place_settings.h"
 #include "platform/defaults.h"
 #include "platform/program_language.h"
@@ -76,7 +77,7 @@ int tagPhotos(const Options &options, const std::filesystem::path &resources) {
     const Report report =
         runTagJob(options, {.resources = resources,
                             .placeService = withPlaces ? service : std::function<PlaceService()>(),
-                            .logReading = defaults.text("logReading"),
+                            .logReading = logReadingFrom(defaults),
                             .tool = toolSettingsFrom(defaults),
                             .tell = [&](const std::string &line) { console.tell(line); },
                             .progress = [&](const std::string &text) { console.progress(text); },

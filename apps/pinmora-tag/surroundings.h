@@ -1,11 +1,11 @@
 #pragma once
 
+#include "gps/log_reading.h"
 #include "places/place_service.h"
 #include "saving/tool_settings.h"
 
 #include <filesystem>
 #include <functional>
-#include <optional>
 #include <string>
 
 namespace pinmora::tag {
@@ -15,7 +15,7 @@ struct Surroundings {
     std::filesystem::path resources; ///< the program's resource folder
     /// Where place names are asked for; empty when they are not to be looked up.
     std::function<PlaceService()> placeService;
-    std::optional<std::string> logReading;         ///< the person's setting: "exact" or "tolerant"
+    LogReading logReading = LogReading::Exact;     ///< the person's setting
     ToolSettings tool;                             ///< the person's settings
     std::function<void(const std::string &)> tell; ///< one line for the person, without line end
     std::function<void(const std::string &)> progress; ///< how far the work has come

@@ -1,5 +1,6 @@
 #include "program.h"
 
+#include "map/map_settings.h"
 #include "shell/subsystems.h"
 
 #include <QApplication>
@@ -10,6 +11,9 @@
 namespace pinmora::app {
 namespace {
 
+// The server knows nothing of the settings, and their room nothing of the server.
+static_assert(noTiles == LocalServer::noTiles);
+
 PixelSize screenSize() {
     const QScreen *const screen = QGuiApplication::primaryScreen();
     const QSize size = screen ? screen->size() * screen->devicePixelRatio() : QSize(1920, 1080);
@@ -19,10 +23,12 @@ PixelSize screenSize() {
 } // namespace
 
 Program::Program(const std::filesystem::path &resourceFolder, MapPane::MakePage makePage)
-    : services_({.tileServer = Defaults().text("tileServer").value_or("")}),
+    : services_({}),
       delegate_(resourceFolder, screenSize(),
                 {.address = [this] { return services_.address(); },
-                 .placeNamespace = LocalServer::placeNamespace}) {
+                 .placeNamespace = LocalServer::placeNamespace,
+                 .setTileServer =
+                     [this](const std::string &setting) { services_.setTileServer(setting); }}) {
     // The windows decide, after the person has been asked.
     QApplication::setQuitOnLastWindowClosed(false);
     delegate_.awakeFromNib();

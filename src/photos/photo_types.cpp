@@ -1,6 +1,7 @@
 #include "photos/photo_types.h"
 
 #include "photos/file_names.h"
+#include "platform/defaults.h"
 
 #include <algorithm>
 #include <array>
@@ -63,6 +64,10 @@ bool contains(const auto &types, std::string_view extension) {
 }
 
 } // namespace
+
+bool takesMorePhotoTypes(const Defaults &defaults) {
+    return defaults.text(morePhotoTypesKey) == "1";
+}
 
 const std::vector<std::string> &PhotoTypes::imageTypes() const {
     static const std::vector<std::string> types = bothCases();

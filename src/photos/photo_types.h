@@ -7,6 +7,12 @@
 
 namespace pinmora {
 
+class Defaults;
+
+/// The setting that gives a person more types: "1".
+inline constexpr std::string_view morePhotoTypesKey = "morePhotoTypes";
+bool takesMorePhotoTypes(const Defaults &defaults);
+
 /// Which files are photos, by the extensions of their names.
 ///
 /// The fixed table holds each extension in lower and in upper case and is looked up exactly as

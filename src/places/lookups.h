@@ -33,6 +33,7 @@ public:
 
     void lookUp(image &photo);
     void setEnabled(bool enabled);
+    void serviceChanged() { queue_.serviceChanged(); }
 
 private:
     using Names = std::array<Text, 3>;

@@ -17,4 +17,8 @@ void PlaceNames::setEnabled(bool enabled) {
     lookups_->setEnabled(enabled);
 }
 
+void PlaceNames::serviceChanged() {
+    lookups_->serviceChanged();
+}
+
 } // namespace pinmora

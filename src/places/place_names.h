@@ -20,7 +20,7 @@ class Context;
 /// the position that asked for them. Failures are not told: the names stay as they were.
 class PlaceNames : public PlaceNameLookup {
 public:
-    /// Asked before the first request; may start the service.
+    /// Asked before the first request, and again when it may be another one; may start the service.
     using FindService = std::function<PlaceService()>;
 
     /// The context must outlive it, and have its undo manager already if it is to have one.
@@ -34,6 +34,8 @@ public:
 
     /// Off: nothing is asked for, and what has not been answered yet is dropped.
     void setEnabled(bool enabled);
+    /// The service is another one now, for all that has not been asked yet.
+    void serviceChanged();
 
     /// How many photos' names have not arrived yet.
     Observable<std::size_t> awaited{0};

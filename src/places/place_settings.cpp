@@ -11,9 +11,9 @@ bool looksUpPlaces(const Defaults &defaults) {
 PlaceService placeServiceFrom(const Defaults &defaults,
                               const std::function<std::string()> &builtInAddress,
                               std::string_view builtInNamespace) {
-    PlaceService service{.address = defaults.text("placeServer").value_or(""),
-                         .host = defaults.text("placeServerHost").value_or(""),
-                         .nameSpace = defaults.text("placeServerNamespace").value_or("")};
+    PlaceService service{.address = defaults.text(placeServerKey).value_or(""),
+                         .host = defaults.text(placeHostKey).value_or(""),
+                         .nameSpace = defaults.text(placeNamespaceKey).value_or("")};
     if (service.address.empty()) {
         service = {.address = builtInAddress(), .host = "", .nameSpace = ""};
     }

@@ -63,7 +63,9 @@ bool RequestQueue::hasService() {
         service_ = findService_();
         url_ = placeUrl(service_);
         if (url_) {
-            network_ = std::make_unique<QNetworkAccessManager>();
+            if (!network_) { // requests to an earlier service may be under way on it
+                network_ = std::make_unique<QNetworkAccessManager>();
+            }
             chooseProxy(*network_, *url_);
         }
     }

@@ -38,6 +38,8 @@ public:
     Number add(PositionTexts position);
     void cancel(Number number);
     void cancelAll();
+    /// What is sent from now on goes to the service that is found then.
+    void serviceChanged() { url_.reset(); }
 
 private:
     void turn();

@@ -3,6 +3,8 @@
 #include <QSettings>
 #include <QStringList>
 
+#include <utility>
+
 namespace pinmora {
 
 namespace {
@@ -31,12 +33,29 @@ std::optional<std::string> Defaults::text(std::string_view key) const {
 }
 
 void Defaults::setText(std::string_view key, std::string_view value) {
+    const bool isAnother = text(key) != value;
     settings_->setValue(toQt(key), toQt(value));
+    if (isAnother) {
+        changes_.post(key);
+    }
+}
+
+void Defaults::remove(std::string_view key) {
+    const bool wasThere = settings_->contains(toQt(key));
+    settings_->remove(toQt(key));
+    if (wasThere) {
+        changes_.post(key);
+    }
 }
 
 bool Defaults::synchronize() {
     settings_->sync();
     return settings_->status() == QSettings::NoError;
+}
+
+NotificationCentre::Observation Defaults::onChange(std::string_view key,
+                                                   std::function<void()> told) {
+    return changes_.addObserver(key, [told = std::move(told)](const Notification &) { told(); });
 }
 
 } // namespace pinmora

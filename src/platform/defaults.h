@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/notification_centre.h"
+
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,11 +24,18 @@ public:
 
     std::optional<std::string> text(std::string_view key) const;
     void setText(std::string_view key, std::string_view value);
+    /// The key is then as if it had never been set.
+    void remove(std::string_view key);
     /// Writes to disk; false when that failed.
     bool synchronize();
 
+    /// Calls after the text of a key has become another one, or has come or gone.
+    [[nodiscard]] NotificationCentre::Observation onChange(std::string_view key,
+                                                           std::function<void()> told);
+
 private:
     std::unique_ptr<QSettings> settings_;
+    NotificationCentre changes_; ///< by key
 };
 
 } // namespace pinmora

@@ -22,8 +22,8 @@ std::optional<ToolLane> laneNamed(std::string_view name) {
 
 ToolSettings toolSettingsFrom(const Defaults &defaults) {
     ToolSettings settings;
-    settings.lane = laneNamed(defaults.text("toolLane").value_or("")).value_or(settings.lane);
-    const auto seconds = plainDecimal(defaults.text("toolPatience").value_or(""));
+    settings.lane = laneNamed(defaults.text(toolLaneKey).value_or("")).value_or(settings.lane);
+    const auto seconds = plainDecimal(defaults.text(toolPatienceKey).value_or(""));
     if (seconds && *seconds > 0) {
         constexpr double longest = 365.0 * 24 * 60 * 60;
         settings.patience = std::chrono::ceil<std::chrono::milliseconds>(

@@ -14,6 +14,9 @@ enum class ToolLane {
     Shared,  ///< as many processes as cores, kept open and handed one photo after another
 };
 
+inline constexpr std::string_view toolLaneKey = "toolLane";         ///< setting: a lane's name
+inline constexpr std::string_view toolPatienceKey = "toolPatience"; ///< setting: seconds
+
 /// "process" or "shared".
 std::string_view laneName(ToolLane lane);
 std::optional<ToolLane> laneNamed(std::string_view name);
@@ -24,7 +27,7 @@ struct ToolSettings {
     std::chrono::milliseconds patience{std::chrono::minutes{2}};
 };
 
-/// By the settings "toolLane" and "toolPatience" (seconds); what they do not say, or say wrongly,
+/// By the settings; what they do not say, or say wrongly,
 /// is as above.
 ToolSettings toolSettingsFrom(const Defaults &defaults);
 

@@ -8,6 +8,7 @@
 
 #include <charconv>
 #include <map>
+#include <mutex>
 #include <utility>
 
 namespace pinmora {
@@ -34,13 +35,31 @@ int bodyRefusal(const httplib::Request &request) {
     return request.has_header("Content-Encoding") ? unsupported : 0;
 }
 
+/// Where tiles come from: told by the program, asked for by the server's threads.
+class TileSetting {
+public:
+    void set(const std::string &setting) {
+        const std::scoped_lock lock(mutex_);
+        address_ = tileAddress(setting);
+    }
+    std::string get() const {
+        const std::scoped_lock lock(mutex_);
+        return address_;
+    }
+
+private:
+    mutable std::mutex mutex_;
+    std::string address_;
+};
+
 } // namespace
 
-/// The server with all it serves, made before it starts and unchanged since.
+/// The server with all it serves, made before it starts; only the tiles may change.
 struct LocalServer::Running {
     explicit Running(const LocalServerOptions &options)
         : server([this](const httplib::Request &request) { return refusal(request); }) {
-        addPage(options);
+        tiles.set(options.tileServer);
+        addPage();
         routes["/maps/search"] = answerSearch;
         routes["/maps/names"] = answerNames;
         server.set_default_headers({{"Cache-Control", "no-store"},
@@ -56,17 +75,18 @@ struct LocalServer::Running {
         isServing = port != 0 && server.start();
     }
 
-    void addPage(const LocalServerOptions &options) {
+    void addPage() {
         for (auto &[name, content] : bundledMapFiles()) {
             if (name == "index.html") {
                 // Its words are asked for with each answer: the program may not have its language
                 // yet.
-                routes["/maps/index3.php"] = [page = std::move(content), type = contentType(name),
-                                              tiles = tileAddress(options.tileServer)](
-                                                 const httplib::Request &,
-                                                 httplib::Response &response) {
-                    response.set_content(mapPage(page, tiles, pageWords()), type);
-                    response.set_header("Content-Security-Policy", contentSecurityPolicy(tiles));
+                routes["/maps/index3.php"] = [this, page = std::move(content),
+                                              type =
+                                                  contentType(name)](const httplib::Request &,
+                                                                     httplib::Response &response) {
+                    const std::string address = tiles.get();
+                    response.set_content(mapPage(page, address, pageWords()), type);
+                    response.set_header("Content-Security-Policy", contentSecurityPolicy(address));
                 };
                 continue;
             }
@@ -98,6 +118,7 @@ struct LocalServer::Running {
     }
 
     std::map<std::string, httplib::Server::Handler> routes; ///< of GET and HEAD, by path
+    TileSetting tiles;
     int port = 0;
     bool isServing = false;
     HttpServer server; ///< the last to come and the first to go
@@ -113,6 +134,13 @@ std::string LocalServer::address() {
     }
     return running_->isServing ? "http://127.0.0.1:" + std::to_string(running_->port)
                                : std::string();
+}
+
+void LocalServer::setTileServer(const std::string &tileServer) {
+    options_.tileServer = tileServer;
+    if (running_) {
+        running_->tiles.set(tileServer);
+    }
 }
 
 } // namespace pinmora

@@ -2,12 +2,13 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace pinmora {
 
 struct LocalServerOptions {
     /// Where the map page gets its tiles: an address with {z}, {x} and {y}; "": OpenStreetMap's;
-    /// "none": the bundled map only.
+    /// LocalServer::noTiles: the bundled map only.
     std::string tileServer;
 };
 
@@ -27,6 +28,10 @@ public:
     /// "http://127.0.0.1:PORT"; starts the server at the first call, with a port that is free. ""
     /// when there is none.
     std::string address();
+    /// Where the map page gets its tiles when it is loaded next, as in the options.
+    void setTileServer(const std::string &tileServer);
+
+    static constexpr std::string_view noTiles = "none";
 
     /// The URI of the place-name operation's names.
     static constexpr const char *placeNamespace = "urn:pinmora:places/";

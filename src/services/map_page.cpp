@@ -1,6 +1,7 @@
 #include "services/map_page.h"
 
 #include "services/escaped_text.h"
+#include "services/local_server.h"
 
 #include <algorithm>
 #include <array>
@@ -40,7 +41,7 @@ std::string tileAddress(const std::string &setting) {
     if (setting.empty()) {
         return "https://tile.openstreetmap.org/{z}/{x}/{y}.png";
     }
-    return setting == "none" ? std::string() : setting;
+    return setting == LocalServer::noTiles ? std::string() : setting;
 }
 
 std::string mapPage(std::string_view page, std::string_view tileAddress, std::string_view words) {

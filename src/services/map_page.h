@@ -6,7 +6,8 @@
 
 namespace pinmora {
 
-/// The address that a "tileServer" setting means: "" OpenStreetMap's, "none" no tiles at all ("").
+/// The address that a "tileServer" setting means: "" OpenStreetMap's, LocalServer::noTiles no tiles
+/// at all ("").
 std::string tileAddress(const std::string &setting);
 
 /// The map page with the address of its tiles and its words (pageWords()) in the places that are

@@ -174,7 +174,7 @@ void IntakeNotes::loadMoreTypes() {
                         [this](const std::string &path) { return types_.isMore(path); });
     passedOver_.files = std::move(rest);
     types_.setMorePhotoTypes(true);
-    defaults_.setText("morePhotoTypes", "1");
+    defaults_.setText(morePhotoTypesKey, "1");
     defaults_.synchronize();
     loadToo(chosen);
 }

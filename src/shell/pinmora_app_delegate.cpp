@@ -1,9 +1,9 @@
 #include "shell/pinmora_app_delegate.h"
 
-#include "gps/log_reading.h"
+#include "gps/reading_setting.h"
+#include "map/map_settings.h"
 #include "persistence/context.h"
 #include "places/place_settings.h"
-#include "platform/number_text.h"
 #include "shell/subsystems.h"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ void Pinmora_AppDelegate::awakeFromNib() {
     if (!std::exchange(firstLoad_, false)) {
         return;
     }
-    photoTypes.setMorePhotoTypes(defaults.text("morePhotoTypes") == "1");
+    photoTypes.setMorePhotoTypes(takesMorePhotoTypes(defaults));
     loadMapPages();
     observeNotifications();
     subsystems_ = std::make_unique<Subsystems>(*this, resourceFolder_, screen_);
@@ -34,11 +34,10 @@ void Pinmora_AppDelegate::awakeFromNib() {
     }
     interface.saveFlags = {};
     setMissingDefaults();
-    if (defaults.text("logReading") == policyOf(LogReading::Tolerant).name) {
-        subsystems_->gps.setReading(LogReading::Tolerant);
-    }
+    observeSettings();
+    subsystems_->gps.setReading(logReadingFrom(defaults));
     subsystems_->versionCheck.start();
-    subsystems_->wizard.setStartWindow(leadingInt(defaults.text("useWizard").value_or("")));
+    subsystems_->wizard.setStartWindow(startsInWizard(defaults) ? 1 : 0);
     subsystems_->inspector.tableSelectionChanged();
     subsystems_->fileBrowser.setUp();
     subsystems_->recoveryOffers.post();
@@ -47,7 +46,11 @@ void Pinmora_AppDelegate::awakeFromNib() {
 /// From the server that the settings name, else from the built-in one. Without a server, the map
 /// views stay empty.
 void Pinmora_AppDelegate::loadMapPages() {
-    const std::string chosen = defaults.text("mapServer").value_or("");
+    services_.setTileServer(defaults.text(tileServerKey).value_or(""));
+    std::string chosen = defaults.text(mapServerKey).value_or("");
+    while (chosen.ends_with('/')) {
+        chosen.pop_back();
+    }
     const std::string server = chosen.empty() ? services_.address() : chosen;
     if (server.empty()) {
         return;
@@ -81,13 +84,30 @@ void Pinmora_AppDelegate::observeNotifications() {
     });
 }
 
+/// What is chosen while the program runs holds from then on.
+void Pinmora_AppDelegate::observeSettings() {
+    const auto observe = [this](std::string_view key, std::function<void()> told) {
+        observations_.push_back(defaults.onChange(key, std::move(told)));
+    };
+    observe(morePhotoTypesKey,
+            [this] { photoTypes.setMorePhotoTypes(takesMorePhotoTypes(defaults)); });
+    for (const std::string_view key : {tileServerKey, mapServerKey}) {
+        observe(key, [this] { loadMapPages(); });
+    }
+    observe(lookUpPlacesKey,
+            [this] { subsystems_->placeNames.setEnabled(looksUpPlaces(defaults)); });
+    for (const std::string_view key : {placeServerKey, placeHostKey, placeNamespaceKey}) {
+        observe(key, [this] { subsystems_->placeNames.serviceChanged(); });
+    }
+}
+
 PlaceService Pinmora_AppDelegate::placeService() const {
     return placeServiceFrom(defaults, services_.address, services_.placeNamespace);
 }
 
 void Pinmora_AppDelegate::setMissingDefaults() {
-    for (const auto &[key, value] : {std::pair("useWizard", "1"), std::pair("versionCheck", "0"),
-                                     std::pair("morePhotoTypes", "0")}) {
+    for (const auto &[key, value] : {std::pair(useWizardKey, "1"), std::pair(versionCheckKey, "0"),
+                                     std::pair(morePhotoTypesKey, "0")}) {
         if (!defaults.text(key)) {
             defaults.setText(key, value);
             defaults.synchronize();

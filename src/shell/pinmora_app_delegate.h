@@ -26,6 +26,8 @@ struct BuiltInServices {
     /// Base URL of the map page and the place names, started at the first call; "" without any.
     std::function<std::string()> address = [] { return std::string(); };
     std::string placeNamespace{}; ///< of the place names
+    /// Where the map page gets its tiles when it is loaded next, by the setting.
+    std::function<void(const std::string &)> setTileServer = [](const std::string &) {};
 };
 
 /// The one controller: it owns the library and all subsystems, wires them, and answers for the
@@ -42,8 +44,7 @@ public:
     /// The one-time set-up: opens the library and shows the window. Later calls do nothing.
     void awakeFromNib();
 
-    /// Where place names are asked for, by the settings "placeServer", "placeServerHost" and
-    /// "placeServerNamespace", else the built-in service.
+    /// Where place names are asked for, by the settings, else the built-in service.
     PlaceService placeService() const;
 
     TerminateReply applicationShouldTerminate();
@@ -63,6 +64,7 @@ public:
 private:
     void loadMapPages();
     void observeNotifications();
+    void observeSettings();
     void setMissingDefaults();
     bool somePhotoHasChanges();
 

@@ -2,6 +2,7 @@
 
 #include "gps/gps.h"
 #include "gps/gps_intake.h"
+#include "gps/reading_setting.h"
 #include "outlets/quiet_bar.h"
 #include "persistence/context.h"
 #include "photos/photo_intake.h"
@@ -33,6 +34,7 @@ ReadingOffer::ReadingOffer(Context &context, Gps &gps, GpsIntake &gpsIntake,
           }
       }) {
     context_.addObserver(*this, {.entity = &track::description(), .values = false});
+    settingChanged_ = defaults.onChange(logReadingKey, [this] { followSetting(); });
     connections_.push_back(comparison_.judged.connect(
         [this](const std::optional<ReadingVerdict> &verdict) { tell(verdict); }));
     connections_.push_back(gpsIntake.loaded.connect(
@@ -66,6 +68,15 @@ void ReadingOffer::offer(const ReadingVerdict &verdict) {
     quietBar_.post(std::move(message));
 }
 
+/// An offer is made of the reading in force, and goes with it.
+void ReadingOffer::followSetting() {
+    const LogReading wanted = logReadingFrom(defaults_);
+    if (wanted != gps_.reading()) {
+        gps_.setReading(wanted);
+        comparison_.compare();
+    }
+}
+
 void ReadingOffer::keep() {
     isOffered_ = false;
     comparison_.keep();
@@ -82,9 +93,9 @@ void ReadingOffer::useOther() {
     }
     isOffered_ = false;
     const LogReading better = otherThan(gps_.reading());
-    defaults_.setText("logReading", policyOf(better).name);
-    defaults_.synchronize();
     gps_.setReading(better);
+    defaults_.setText(logReadingKey, policyOf(better).name);
+    defaults_.synchronize();
     std::vector<std::string> kept;
     {
         const ScopedFlag running(loadRunning_);

@@ -4,6 +4,7 @@
 #include "outlets/signal.h"
 #include "persistence/change_observer.h"
 #include "platform/end_of_turn.h"
+#include "platform/notification_centre.h"
 #include "shell/log_comparison.h"
 
 #include <optional>
@@ -26,7 +27,8 @@ class offset;
 /// offers it on the quiet bar where it leaves out less or places more of the photos.
 ///
 /// When the offer is taken, the other reading is in force, also for logs to come, and every log of
-/// the library is read again with it as one step of undo.
+/// the library is read again with it as one step of undo. A reading that a person chooses in the
+/// settings is in force for logs to come.
 class ReadingOffer : private ChangeObserver {
 public:
     /// All must outlive it. While `loadRunning` nothing is offered or read; it is set while logs
@@ -56,6 +58,7 @@ private:
     void offer(const ReadingVerdict &verdict);
     void keep();
     void useOther();
+    void followSetting();
     void tellOfKept(const std::vector<std::string> &paths);
     /// A track has gone: perhaps that of a log which an offer is about.
     void didDelete(Record &) override { lost_.ask(); }
@@ -69,6 +72,7 @@ private:
     bool isOffered_ = false;
     LogComparison comparison_;
     EndOfTurn lost_;
+    NotificationCentre::Observation settingChanged_;
     std::vector<Connection> connections_;
 };
 

@@ -2,16 +2,9 @@
 
 #include "platform/defaults.h"
 
-#include <string_view>
 #include <utility>
 
 namespace pinmora {
-namespace {
-
-constexpr std::string_view addressKey = "versionInfoURL";
-
-} // namespace
-
 VersionCheck::VersionCheck(Defaults &defaults, BuildSettings build)
     : defaults_(defaults), build_(std::move(build)) {}
 
@@ -19,11 +12,11 @@ VersionCheck::~VersionCheck() = default;
 
 ProgDict VersionCheck::getProgDict() const {
     return {{"progName", "Pinmora"},
-            {"progPlist", defaults_.text(addressKey).value_or(build_.versionInfoUrl)}};
+            {"progPlist", defaults_.text(versionInfoUrlKey).value_or(build_.versionInfoUrl)}};
 }
 
 void VersionCheck::start() {
-    if (defaults_.text(versionCheckKey).value_or("0") == "0") {
+    if (checksVersionAtStart(defaults_)) {
         loadUpdateNib();
         update_->newVersion(getProgDict());
     }

@@ -10,6 +10,9 @@ namespace pinmora {
 
 class Defaults;
 
+/// The setting with the address of the version information, in place of that of the build.
+inline constexpr std::string_view versionInfoUrlKey = "versionInfoURL";
+
 /// When the program asks for newer versions: at start, unless a person has turned that off, and by
 /// command. The window and what is behind it are made when the first of these needs them.
 class VersionCheck {
@@ -20,13 +23,13 @@ public:
     VersionCheck(const VersionCheck &) = delete;
     VersionCheck &operator=(const VersionCheck &) = delete;
 
-    /// What a start does: looks for a newer version if "versionCheck" is "0" or missing.
+    /// What a start does: looks for a newer version unless a person has turned that off.
     void start();
     /// What the menu's command does.
     void checkNewVersion();
 
-    /// The program's name, and the address of its version information: that of the setting
-    /// "versionInfoURL", also where it is empty, else that of the build.
+    /// The program's name, and the address of its version information: that of the
+    /// setting, also where it is empty, else that of the build.
     ProgDict getProgDict() const;
     const BuildSettings &build() const { return build_; }
 

@@ -15,6 +15,10 @@ constexpr std::array stepOfPage{welcomeStep, photosStep, gpsStep,   clockStep,
 
 } // namespace
 
+bool startsInWizard(const Defaults &defaults) {
+    return leadingInt(defaults.text(useWizardKey).value_or("")) == 1;
+}
+
 Wizard::Wizard(WizardOutlets &outlets, WizardDetails &details, Surroundings surroundings)
     : outlets_(outlets), details_(details), surroundings_(std::move(surroundings)) {
     connections_.push_back(
@@ -22,6 +26,9 @@ Wizard::Wizard(WizardOutlets &outlets, WizardDetails &details, Surroundings surr
             didSelectTabViewItem(leadingInt(identifier));
             markSteps();
         }));
+    settingChanged_ = surroundings_.defaults.onChange(useWizardKey, [this] {
+        outlets_.dontShowWizardButton.on.set(!startsInWizard(surroundings_.defaults));
+    });
     connectButtons();
     show(WizardPage::Welcome);
     validateMenu();
@@ -83,8 +90,8 @@ void Wizard::validateMenu() {
 
 /// What the box itself says does not count: each click flips what is stored.
 void Wizard::dontShowWizardAtStart() {
-    const std::string stored = surroundings_.defaults.text("useWizard").value_or("");
-    surroundings_.defaults.setText("useWizard", leadingInt(stored) != 0 ? "0" : "1");
+    const std::string stored = surroundings_.defaults.text(useWizardKey).value_or("");
+    surroundings_.defaults.setText(useWizardKey, leadingInt(stored) != 0 ? "0" : "1");
     surroundings_.defaults.synchronize();
 }
 

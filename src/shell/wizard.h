@@ -15,6 +15,10 @@
 
 namespace pinmora {
 
+/// The setting that says with which window the program begins: "1" for the wizard.
+inline constexpr std::string_view useWizardKey = "useWizard";
+bool startsInWizard(const Defaults &defaults);
+
 /// A step of the list at the left of the wizard.
 struct WizardStep {
     Observable<bool> reached{false}; ///< a click goes there
@@ -107,6 +111,7 @@ private:
     Surroundings surroundings_;
     int wizardRouteNumber_ = 0;
     std::vector<Connection> connections_;
+    NotificationCentre::Observation settingChanged_;
 };
 
 } // namespace pinmora

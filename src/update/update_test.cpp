@@ -22,6 +22,10 @@ Date now() {
 
 } // namespace
 
+bool checksVersionAtStart(const Defaults &defaults) {
+    return defaults.text(versionCheckKey).value_or("0") == "0";
+}
+
 updateTest::updateTest(Defaults &defaults, std::string bundleVersion,
                        std::chrono::milliseconds timeout)
     : doDownload(theWindow, timeout), defaults_(defaults), bundleVersion_(std::move(bundleVersion)),
@@ -40,7 +44,9 @@ void updateTest::awakeFromNib() {
         defaults_.setText(versionCheckKey, "0");
         defaults_.synchronize();
     }
-    noCheck.on.set(defaults_.text(versionCheckKey) != "0");
+    const auto follow = [this] { noCheck.on.set(!checksVersionAtStart(defaults_)); };
+    follow();
+    settingChanged_ = defaults_.onChange(versionCheckKey, follow);
 }
 
 void updateTest::checkBoxChange() {

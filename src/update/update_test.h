@@ -3,6 +3,7 @@
 #include "outlets/controls.h"
 #include "outlets/save_panel.h"
 #include "outlets/window.h"
+#include "platform/notification_centre.h"
 #include "platform/url_connection.h"
 #include "update/prog_dict.h"
 #include "update/version_download.h"
@@ -19,6 +20,8 @@ class Defaults;
 
 /// The setting that says whether a start looks for a newer version: "0" does, "1" does not.
 inline constexpr std::string_view versionCheckKey = "versionCheck";
+/// By that setting; it does where nothing is set.
+bool checksVersionAtStart(const Defaults &defaults);
 
 /// How long a request may go without a byte before it has failed.
 inline constexpr std::chrono::milliseconds updateTimeout{60'000};
@@ -79,6 +82,7 @@ private:
     const std::chrono::milliseconds timeout_;
     std::string receivedData_;
     ProgDict theProgDict_;
+    NotificationCentre::Observation settingChanged_;
     bool menuCheck_ = false; ///< a check that a person asked for is under way
     std::unique_ptr<UrlConnection> theConnection_;
     std::vector<Connection> connections_;

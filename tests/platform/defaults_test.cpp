@@ -44,6 +44,24 @@ private Q_SLOTS:
         QCOMPARE(defaults.text("title").value(), "one, two");
     }
 
+    void changesAreTold() {
+        Defaults defaults;
+        int told = 0;
+        {
+            const auto observation = defaults.onChange("key", [&told] { ++told; });
+            defaults.setText("key", "a");
+            defaults.setText("key", "a"); // no change
+            defaults.setText("other", "b");
+            QCOMPARE(told, 1);
+            defaults.remove("key");
+            defaults.remove("key");
+            QCOMPARE(told, 2);
+            QVERIFY(!defaults.text("key"));
+        }
+        defaults.setText("key", "c");
+        QCOMPARE(told, 2);
+    }
+
     void unwritablePlaceIsReported() {
         QDir{home_.filePath(QStringLiteral("Pinmora"))}.removeRecursively();
         QFile obstacle(

@@ -109,6 +109,7 @@ private Q_SLOTS:
     void theWayBackIsOffered();
     void theOfferIsUsedWhileAnotherLogIsOnTrial();
     void unfitTextComesFirst();
+    void anOfferGoesWithTheReadingItWasMadeOf();
     void whatIsKeptIsNotOfferedAgain();
     void logsThatHaveGoneAreNotOffered();
     void theEventLoopBringsIt();
@@ -181,6 +182,20 @@ void ReadingOfferTest::theWayBackIsOffered() {
     desk.bar.choose(0);
     QCOMPARE(tracksIn(desk.context), "1/a.gpx/exact/2");
     QCOMPARE(desk.defaults.text("logReading"), "exact");
+}
+
+/// A person has chosen the other reading in the settings.
+void ReadingOfferTest::anOfferGoesWithTheReadingItWasMadeOf() {
+    OfferDesk desk;
+    desk.defaults.setText("logReading", "exact");
+    desk.loadLog("a.gpx", tenToEleven);
+    desk.loadPhoto("p.jpg", "13:01:00");
+    QVERIFY(!desk.said().empty());
+    desk.defaults.setText("logReading", "tolerant");
+    QCOMPARE(desk.said(), "");
+    QCOMPARE(tracksIn(desk.context), "1/a.gpx/exact/2");
+    desk.loadLog("b.gpx", tenToEleven);
+    QCOMPARE(tracksIn(desk.context), "1/a.gpx/exact/2 2/b.gpx/tolerant/2");
 }
 
 void ReadingOfferTest::theOfferIsUsedWhileAnotherLogIsOnTrial() {
