@@ -955,6 +955,93 @@
     </message>
 </context>
 <context>
+    <name>pinmora::GeneralPreferences</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Begin with the wizard</source>
+        <translation>Mit dem Assistenten beginnen</translation>
+    </message>
+    <message>
+        <source>From the next start on, the wizard comes up first, one question at a time; else the main window does.</source>
+        <translation>Ab dem nächsten Start kommt zuerst der Assistent, der eine Frage nach der anderen stellt; sonst kommt das Hauptfenster.</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Wie der Desktop</translation>
+    </message>
+    <message>
+        <source>Light or dark, as the desktop is now.</source>
+        <translation>Hell oder dunkel, wie der Desktop gerade ist.</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark writing on a light ground, at all times.</source>
+        <translation>Dunkle Schrift auf hellem Grund, zu jeder Zeit.</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light writing on a dark ground, at all times.</source>
+        <translation>Helle Schrift auf dunklem Grund, zu jeder Zeit.</translation>
+    </message>
+    <message>
+        <source>Newer versions</source>
+        <translation>Neuere Versionen</translation>
+    </message>
+    <message>
+        <source>Look for a newer version at start</source>
+        <translation>Beim Start nach einer neueren Version suchen</translation>
+    </message>
+    <message>
+        <source>Once a day, a start asks the address below, which learns that a Pinmora asks, and from which network address; nothing is fetched unless you say so.</source>
+        <translation>Einmal am Tag fragt ein Start bei der Adresse unten nach, die dabei erfährt, dass ein Pinmora fragt, und von welcher Netzadresse aus; geladen wird nur, was Sie wollen.</translation>
+    </message>
+    <message>
+        <source>The makers’ address</source>
+        <translation>Adresse der Hersteller</translation>
+    </message>
+    <message>
+        <source>This Pinmora was built without one: nobody is asked.</source>
+        <translation>Dieses Pinmora wurde ohne eine gebaut: Niemand wird gefragt.</translation>
+    </message>
+    <message>
+        <source>Pinmora’s makers are asked, at %1.</source>
+        <translation>Gefragt werden die Hersteller von Pinmora unter %1.</translation>
+    </message>
+    <message>
+        <source>Another address</source>
+        <translation>Eine andere Adresse</translation>
+    </message>
+    <message>
+        <source>The server at this address is asked in their place.</source>
+        <translation>An ihrer Stelle wird der Server unter dieser Adresse gefragt.</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Who is asked for the newest version</source>
+        <translation>Wer nach der neuesten Version gefragt wird</translation>
+    </message>
+</context>
+<context>
     <name>pinmora::KnownPosition</name>
     <message>
         <source>Latitude</source>
@@ -998,6 +1085,37 @@
     <message>
         <source>No photos</source>
         <translation>Keine Fotos</translation>
+    </message>
+</context>
+<context>
+    <name>pinmora::LogPreferences</name>
+    <message>
+        <source>GPS Logs</source>
+        <translation>GPS-Logs</translation>
+    </message>
+    <message>
+        <source>How logs are read</source>
+        <translation>Wie Logs gelesen werden</translation>
+    </message>
+    <message>
+        <source>Exactly</source>
+        <translation>Genau</translation>
+    </message>
+    <message>
+        <source>Takes whole-second times, and reads those of a GPX file as clock time, as they stand.</source>
+        <translation>Nimmt Zeiten in ganzen Sekunden und liest die einer GPX-Datei als Ortszeit, so wie sie dastehen.</translation>
+    </message>
+    <message>
+        <source>Tolerantly</source>
+        <translation>Tolerant</translation>
+    </message>
+    <message>
+        <source>Takes times as universal time, with fractions and zones, and copes with what modern receivers and phones write.</source>
+        <translation>Nimmt Zeiten als Weltzeit, mit Bruchteilen und Zonen, und kommt mit dem zurecht, was heutige Empfänger und Telefone schreiben.</translation>
+    </message>
+    <message>
+        <source>Holds for logs that you load from now on; those in the list stay as they were read.</source>
+        <translation>Gilt für Logs, die Sie ab jetzt laden; die in der Liste bleiben so, wie sie gelesen wurden.</translation>
     </message>
 </context>
 <context>
@@ -1093,6 +1211,65 @@
     <message>
         <source>The map could not be loaded. Photos can still be placed by coordinates and by logs.</source>
         <translation>Die Karte konnte nicht geladen werden. Fotos lassen sich trotzdem nach Koordinaten und nach Logs platzieren.</translation>
+    </message>
+</context>
+<context>
+    <name>pinmora::MapPreferences</name>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Tiles</source>
+        <translation>Kacheln</translation>
+    </message>
+    <message>
+        <source>Streets and names everywhere; OpenStreetMap learns which part of the map you look at, and from which network address.</source>
+        <translation>Straßen und Namen überall; OpenStreetMap erfährt, welchen Teil der Karte Sie ansehen, und von welcher Netzadresse aus.</translation>
+    </message>
+    <message>
+        <source>No tiles</source>
+        <translation>Keine Kacheln</translation>
+    </message>
+    <message>
+        <source>The map is Pinmora’s own, with coasts, borders and places, and nothing is fetched.</source>
+        <translation>Die Karte ist die von Pinmora, mit Küsten, Grenzen und Orten; geladen wird nichts.</translation>
+    </message>
+    <message>
+        <source>Another tile server</source>
+        <translation>Ein anderer Kachelserver</translation>
+    </message>
+    <message>
+        <source>The server at this address learns which part of the map you look at, and from which network address.</source>
+        <translation>Der Server unter dieser Adresse erfährt, welchen Teil der Karte Sie ansehen, und von welcher Netzadresse aus.</translation>
+    </message>
+    <message>
+        <source>Address of the tiles</source>
+        <translation>Adresse der Kacheln</translation>
+    </message>
+    <message>
+        <source>Page of the map</source>
+        <translation>Seite der Karte</translation>
+    </message>
+    <message>
+        <source>Pinmora’s own</source>
+        <translation>Die von Pinmora</translation>
+    </message>
+    <message>
+        <source>It is served on this machine, and no other can reach it.</source>
+        <translation>Sie kommt von diesem Rechner, und kein anderer erreicht sie.</translation>
+    </message>
+    <message>
+        <source>A page from another server</source>
+        <translation>Eine Seite von einem anderen Server</translation>
+    </message>
+    <message>
+        <source>It comes from this server with tiles of its own, and is told the positions of your photos and tracks so that it can draw them.</source>
+        <translation>Sie kommt mit eigenen Kacheln von diesem Server und erfährt die Positionen Ihrer Fotos und Tracks, damit sie sie zeichnen kann.</translation>
+    </message>
+    <message>
+        <source>Address of the server</source>
+        <translation>Adresse des Servers</translation>
     </message>
 </context>
 <context>
@@ -1386,10 +1563,92 @@
     </message>
 </context>
 <context>
+    <name>pinmora::PlacePreferences</name>
+    <message>
+        <source>Place Names</source>
+        <translation>Ortsnamen</translation>
+    </message>
+    <message>
+        <source>Look up place names</source>
+        <translation>Ortsnamen suchen</translation>
+    </message>
+    <message>
+        <source>Each new position brings city, province or state, and country along; else you type them yourself.</source>
+        <translation>Jede neue Position bringt Stadt, Provinz oder Bundesland und Land mit; sonst tippen Sie sie selbst.</translation>
+    </message>
+    <message>
+        <source>Who is asked</source>
+        <translation>Wer gefragt wird</translation>
+    </message>
+    <message>
+        <source>Pinmora’s gazetteer</source>
+        <translation>Das Ortsverzeichnis von Pinmora</translation>
+    </message>
+    <message>
+        <source>It lies on this machine, with 171,000 places: no position leaves it.</source>
+        <translation>Es liegt mit 171.000 Orten auf diesem Rechner: Keine Position verlässt ihn.</translation>
+    </message>
+    <message>
+        <source>A place-name service (SOAP)</source>
+        <translation>Ein Dienst für Ortsnamen (SOAP)</translation>
+    </message>
+    <message>
+        <source>The position of each photo is sent to this server, which learns your network address as well.</source>
+        <translation>Die Position jedes Fotos geht an diesen Server, der auch Ihre Netzadresse erfährt.</translation>
+    </message>
+    <message>
+        <source>Address of the service</source>
+        <translation>Adresse des Dienstes</translation>
+    </message>
+    <message>
+        <source>Host name that it expects</source>
+        <translation>Servername, den er erwartet</translation>
+    </message>
+    <message>
+        <source>that of the address</source>
+        <translation>der in der Adresse</translation>
+    </message>
+    <message>
+        <source>Stands in the head of each request, where it is not that of the address.</source>
+        <translation>Steht im Kopf jeder Anfrage, wenn es nicht der in der Adresse ist.</translation>
+    </message>
+    <message>
+        <source>Namespace of its names</source>
+        <translation>Namensraum seiner Namen</translation>
+    </message>
+    <message>
+        <source>Stands in each request; it ends in a slash.</source>
+        <translation>Steht in jeder Anfrage; er endet mit einem Schrägstrich.</translation>
+    </message>
+    <message>
+        <source>Names of new positions</source>
+        <translation>Namen neuer Positionen</translation>
+    </message>
+</context>
+<context>
     <name>pinmora::PositionTool</name>
     <message>
         <source>Set From This Position</source>
         <translation>Nach dieser Position stellen</translation>
+    </message>
+</context>
+<context>
+    <name>pinmora::PreferencesWindow</name>
+    <message>
+        <source>Pinmora - Preferences</source>
+        <translation>Pinmora - Einstellungen</translation>
+    </message>
+    <message>
+        <source>Pages of the preferences</source>
+        <translation>Seiten der Einstellungen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>This is not stored yet. Correct it, or press Escape in the field to keep what was set before.</source>
+        <translation>Das ist noch nicht gespeichert. Berichtigen Sie es, oder drücken Sie im Feld Escape, um zu behalten, was vorher galt.</translation>
     </message>
 </context>
 <context>
@@ -1547,6 +1806,65 @@
     <message>
         <source>Begins no further photo; the copies that are made stay</source>
         <translation>Beginnt kein weiteres Foto; fertige Kopien bleiben</translation>
+    </message>
+</context>
+<context>
+    <name>pinmora::SavingPreferences</name>
+    <message>
+        <source>Photos and Saving</source>
+        <translation>Fotos und Speichern</translation>
+    </message>
+    <message>
+        <source>Photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Load more types of photos</source>
+        <translation>Weitere Arten von Fotos laden</translation>
+    </message>
+    <message>
+        <source>HEIC, PNG, WebP and further raw formats are taken for photos as well, from the next load on.</source>
+        <translation>Vom nächsten Laden an gelten auch HEIC, PNG, WebP und weitere Rohformate als Fotos.</translation>
+    </message>
+    <message>
+        <source>Writing positions with ExifTool</source>
+        <translation>Positionen schreiben mit ExifTool</translation>
+    </message>
+    <message>
+        <source>Start it for each photo</source>
+        <translation>Für jedes Foto starten</translation>
+    </message>
+    <message>
+        <source>Keep it open</source>
+        <translation>Offen halten</translation>
+    </message>
+    <message>
+        <source>ExifTool stays open while photos are saved, which is many times faster.</source>
+        <translation>ExifTool bleibt offen, solange Fotos gespeichert werden; das geht um ein Vielfaches schneller.</translation>
+    </message>
+    <message>
+        <source>Both hold from the next time that you save photos.</source>
+        <translation>Beides gilt, wenn Sie das nächste Mal Fotos speichern.</translation>
+    </message>
+    <message>
+        <source>End it after a silence of</source>
+        <translation>Beenden, wenn es schweigt, nach</translation>
+    </message>
+    <message>
+        <source>When ExifTool has not written for so long, it is ended, and the copy of that photo stays without its position.</source>
+        <translation>Wenn ExifTool so lange nichts geschrieben hat, wird es beendet, und die Kopie dieses Fotos bleibt ohne Position.</translation>
+    </message>
+    <message>
+        <source>Seconds of silence after which ExifTool is ended</source>
+        <translation>Sekunden Stille, nach denen ExifTool beendet wird</translation>
+    </message>
+    <message>
+        <source>seconds</source>
+        <translation>Sekunden</translation>
+    </message>
+    <message>
+        <source>ExifTool is begun anew for every photo, as it is at first.</source>
+        <translation>ExifTool wird für jedes Foto neu gestartet, so wie es anfangs eingestellt ist.</translation>
     </message>
 </context>
 <context>
@@ -2955,6 +3273,22 @@
         <source>First correct what you typed, or press Escape in it:</source>
         <translation>Korrigieren Sie zuerst Ihre Eingabe, oder drücken Sie darin Esc:</translation>
     </message>
+    <message>
+        <source>An address is needed that begins with http:// or https:// and goes on with the name of a server.</source>
+        <translation>Nötig ist eine Adresse, die mit http:// oder https:// beginnt und mit dem Namen eines Servers weitergeht.</translation>
+    </message>
+    <message>
+        <source>%1 is missing: the address needs {z}, {x} and {y}, where zoom, column and row of a tile go.</source>
+        <translation>%1 fehlt: Die Adresse braucht {z}, {x} und {y}, wo Zoomstufe, Spalte und Zeile einer Kachel hingehören.</translation>
+    </message>
+    <message>
+        <source>The name of a server is needed, without http:// and without blanks, or nothing.</source>
+        <translation>Nötig ist der Name eines Servers, ohne http:// und ohne Leerzeichen, oder nichts.</translation>
+    </message>
+    <message>
+        <source>A name that ends in a slash is needed, without blanks, or nothing.</source>
+        <translation>Nötig ist ein Name, der mit einem Schrägstrich endet, ohne Leerzeichen, oder nichts.</translation>
+    </message>
 </context>
 <context>
     <name>store</name>
@@ -3827,6 +4161,14 @@ oder etwas Genanntes war nicht zu lesen; 2 falscher Aufruf.</translation>
         <source>How Pinmora is used</source>
         <translation>Wie Pinmora benutzt wird</translation>
     </message>
+    <message>
+        <source>Pr&amp;eferences…</source>
+        <translation>&amp;Einstellungen…</translation>
+    </message>
+    <message>
+        <source>What Pinmora does by itself, and whom it asks</source>
+        <translation>Was Pinmora von selbst tut, und wen es fragt</translation>
+    </message>
 </context>
 <context>
     <name>update</name>
@@ -3837,10 +4179,6 @@ oder etwas Genanntes war nicht zu lesen; 2 falscher Aufruf.</translation>
     <message>
         <source>Checking...</source>
         <translation>Wird geprüft...</translation>
-    </message>
-    <message>
-        <source>No address for version information is set. The setting &quot;versionInfoURL&quot; takes one.</source>
-        <translation>Es ist keine Adresse für Versionsangaben eingestellt. Die Einstellung „versionInfoURL“ nimmt eine auf.</translation>
     </message>
     <message>
         <source>The address of the version information is not one on the web.</source>
@@ -3917,6 +4255,10 @@ oder etwas Genanntes war nicht zu lesen; 2 falscher Aufruf.</translation>
     <message>
         <source>Error writing to disk!</source>
         <translation>Fehler beim Schreiben auf den Datenträger!</translation>
+    </message>
+    <message>
+        <source>No address for version information is set. The preferences take one.</source>
+        <translation>Für die Versionsangaben ist keine Adresse eingestellt. Die Einstellungen nehmen eine an.</translation>
     </message>
 </context>
 </TS>

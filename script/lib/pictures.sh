@@ -3,7 +3,7 @@
 # shellcheck shell=bash disable=SC2034,SC2154
 groups=(
     wizard-welcome wizard-clock wizard-save main-window details-dark clock-proposal true-time cameras missing
-    reading
+    reading preferences
 )
 
 # shift_clock FOLDER HOURS: sets the cameras' clocks to another time.
@@ -106,4 +106,11 @@ reading() {
     rm "$folder/ship.nmea"
     TZ=Europe/Zurich start light 0 "$folder"
     take reading main 1280x120+0+0
+}
+
+preferences() {
+    start light 0
+    keys ctrl+comma
+    keys Down
+    take preferences sheet
 }

@@ -123,6 +123,10 @@ TerminateReply Pinmora_AppDelegate::applicationShouldTerminate() {
         subsystems_->savePipeline.quitWhenDone();
         return TerminateReply::Cancel;
     }
+    if (!subsystems_->preferences.takeOver()) {
+        subsystems_->preferencesWindow.makeKeyAndOrderFront(); // it shows what is not stored
+        return TerminateReply::Cancel;
+    }
     Context &context = library.managedObjectContext();
     if (!context.commitEditing()) {
         return TerminateReply::Cancel;

@@ -148,7 +148,7 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
                  .congrats2 = matching.congrats2,
                  .savePhotosButton = saveOutlets.savePhotosButton},
                 counts),
-      versionCheck(owner.defaults) {
+      versionCheck(owner.defaults), preferences(owner.defaults) {
     gps.setImportJournal(&unsavedWork.recorder());
     placeNames.setEnabled(looksUpPlaces(owner.defaults));
     owner.library.managedObjectModel().setPlaceNames(&placeNames);

@@ -38,6 +38,7 @@
 #include "shell/offset_in_force.h"
 #include "shell/old_position_notice.h"
 #include "shell/photo_order.h"
+#include "shell/preferences.h"
 #include "shell/preview.h"
 #include "shell/reading_offer.h"
 #include "shell/recovery_offers.h"
@@ -126,9 +127,11 @@ struct Subsystems {
     Wizard wizard;
     WizardEnd wizardEnd;
     VersionCheck versionCheck;
+    Preferences preferences;
 
     Window logWindow;    ///< shows the log file
     Window manualWindow; ///< shows the manual
+    Window preferencesWindow;
 
 private:
     std::vector<Date> timesOfTurn() const;

@@ -48,6 +48,9 @@ struct Table {
                   QT_TRANSLATE_NOOP("ui", "Redo")},
         ActionRow{SelectAll, MenuName::Edit, QT_TRANSLATE_NOOP("ui", "Select &All Photos"),
                   "Ctrl+A", "", QT_TRANSLATE_NOOP("ui", "Select all photos that are seen"), true},
+        ActionRow{ShowPreferences, MenuName::Edit, QT_TRANSLATE_NOOP("ui", "Pr&eferences…"),
+                  "Ctrl+,", "",
+                  QT_TRANSLATE_NOOP("ui", "What Pinmora does by itself, and whom it asks"), true},
 
         ActionRow{FullSize, MenuName::Photo, QT_TRANSLATE_NOOP("ui", "&Full Size"), "Ctrl+F",
                   "full-size",

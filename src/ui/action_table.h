@@ -30,6 +30,7 @@ enum class ActionName {
     Undo,
     Redo,
     SelectAll,
+    ShowPreferences,
     FullSize,
     Rename,
     OriginalNames,

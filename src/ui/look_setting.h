@@ -1,18 +1,15 @@
 #pragma once
 
-#include "ui/theme.h"
-
-class QObject;
+#include "shell/appearance.h"
+#include "shell/preference.h"
 
 namespace pinmora {
 
 class Actions;
-class Defaults;
+class Bindings;
 
-/// The look that a person has chosen ("appearance": "light", "dark", else the desktop's).
-Appearance appearanceFrom(const Defaults &defaults);
-
-/// Lets the actions choose the look. The settings must outlive `owner`, with which the ties end.
-void connectLooks(const Actions &actions, Defaults &defaults, QObject *owner);
+/// Lets the actions choose the look, and has the program look as chosen. The ties end with
+/// `bindings`.
+void connectLooks(const Actions &actions, Preference<Appearance> &appearance, Bindings &bindings);
 
 } // namespace pinmora

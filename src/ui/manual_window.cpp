@@ -57,13 +57,14 @@ ManualWindow::ManualWindow(Window &window, QWidget *parent)
 
 void ManualWindow::listPages() {
     contents_->setAccessibleName(tr("Contents of the manual"));
-    contents_->setSpacing(smallGap - 1);
+    contents_->setSpacing(1);
+    setRole(contents_, Role::Pages);
     for (const QString &file : QDir(folder()).entryList({QStringLiteral("*.html")})) {
         const QString path = folder() + QLatin1Char('/') + file;
         auto *const item = new QListWidgetItem(titleOf(path), contents_);
         item->setData(Qt::UserRole, QUrl(QStringLiteral("qrc") + path));
     }
-    contents_->setFixedWidth(contents_->sizeHintForColumn(0) + 5 * spacing);
+    contents_->setFixedWidth(contents_->sizeHintForColumn(0) + 3 * spacing);
     connect(contents_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem *item) {
         if (item && urlOf(item) != page_->source().adjusted(QUrl::RemoveFragment)) {
             page_->setSource(urlOf(item));

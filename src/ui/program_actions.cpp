@@ -1,7 +1,5 @@
 #include "ui/program_actions.h"
 
-#include "places/place_settings.h"
-#include "platform/defaults.h"
 #include "shell/pinmora_app_delegate.h"
 #include "shell/subsystems.h"
 #include "ui/help_actions.h"
@@ -34,7 +32,7 @@ ProgramActions::ProgramActions(Pinmora_AppDelegate &delegate, Surroundings surro
     connectClock();
     connectViews();
     connectPlaceNames();
-    connectLooks(actions_, delegate.defaults, this);
+    connectLooks(actions_, parts_.preferences.appearance, bindings_);
     connectHelpActions(actions_, parts_.versionCheck, delegate.interface.workspace);
     followOutlets();
     followCounts();
@@ -97,6 +95,8 @@ void ProgramActions::connectViews() {
     using enum ActionName;
     on(ShowPosition, [this] { delegate_.interface.mainTabs.selectedIdentifier.set("1"); });
     on(ShowDetails, [this] { delegate_.interface.mainTabs.selectedIdentifier.set("2"); });
+    actions_[ShowPreferences]->setMenuRole(QAction::PreferencesRole);
+    on(ShowPreferences, [this] { parts_.preferencesWindow.makeKeyAndOrderFront(); });
     on(Manual, [this] { parts_.manualWindow.makeKeyAndOrderFront(); });
     on(ShowLog, [this] { parts_.logWindow.makeKeyAndOrderFront(); });
     on(About, [this] { tellAbout(); });
@@ -186,12 +186,9 @@ void ProgramActions::enableSave() {
 
 void ProgramActions::connectPlaceNames() {
     QAction *const action = actions_[ActionName::LookUpPlaces];
-    action->setChecked(looksUpPlaces(delegate_.defaults));
-    connect(action, &QAction::toggled, this, [this](bool on) {
-        delegate_.defaults.setText(lookUpPlacesKey, on ? "1" : "0");
-        delegate_.defaults.synchronize();
-        parts_.placeNames.setEnabled(on);
-    });
+    Preference<bool> &looksUp = parts_.preferences.looksUpPlaces;
+    bindings_.watch(looksUp.value(), [action](bool on) { action->setChecked(on); });
+    connect(action, &QAction::toggled, this, [&looksUp](bool on) { looksUp.choose(on); });
 }
 
 } // namespace pinmora

@@ -10,6 +10,7 @@
 #include "ui/manual_window.h"
 #include "ui/missing_dialog.h"
 #include "ui/open_panel_dialog.h"
+#include "ui/preferences/preferences_window.h"
 #include "ui/progress_dialog.h"
 #include "ui/quit_dialog.h"
 #include "ui/remove_all_dialog.h"
@@ -105,6 +106,14 @@ void ProgramSheets::addWindows() {
     bindings_.watch(parts_.manualWindow.visible, [this](bool visible) {
         if (visible && !manual_) {
             manual_ = std::make_unique<ManualWindow>(parts_.manualWindow);
+        }
+    });
+    bindings_.watch(parts_.preferencesWindow.visible, [this](bool visible) {
+        if (visible && !preferences_) {
+            preferences_ = std::make_unique<PreferencesWindow>(
+                parts_.preferencesWindow, parts_.preferences,
+                parts_.versionCheck.build().versionInfoUrl,
+                [this] { return widgetOf_(delegate_.interface.workingWindow()); });
         }
     });
     bindings_.watch(parts_.versionCheck.testUpdate, [this](updateTest *update) {

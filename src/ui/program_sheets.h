@@ -14,6 +14,7 @@ class FullViewWindow;
 class LogWindow;
 class ManualWindow;
 class Pinmora_AppDelegate;
+class PreferencesWindow;
 class UpdateWindow;
 struct Subsystems;
 
@@ -40,6 +41,7 @@ private:
     std::unique_ptr<FullViewWindow> fullView_;
     std::unique_ptr<LogWindow> log_;
     std::unique_ptr<ManualWindow> manual_;
+    std::unique_ptr<PreferencesWindow> preferences_;
     std::unique_ptr<UpdateWindow> update_;
     Bindings bindings_; ///< goes before what it writes to
 };

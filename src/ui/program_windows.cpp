@@ -1,7 +1,6 @@
 #include "ui/program_windows.h"
 
 #include "shell/pinmora_app_delegate.h"
-#include "ui/look_setting.h"
 #include "ui/main_window.h"
 #include "ui/program_sheets.h"
 #include "ui/theme.h"

@@ -47,6 +47,8 @@ const char *nameOf(Role role) {
         return "dropOver";
     case Role::Card:
         return "card";
+    case Role::Pages:
+        return "pages";
     case Role::Steps:
         return "steps";
     case Role::Step:

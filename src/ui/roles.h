@@ -25,6 +25,7 @@ enum class Role {
     Dashed,   ///< a frame into which things may be dropped
     DropOver, ///< the same, while they are over it
     Card,     ///< a button as large as a card, with labels of its own
+    Pages,    ///< a list of pages at the side of them
     Steps,    ///< the frame of the wizard's steps
     Step,     ///< a button in it
     StepDone, ///< the number of a step that has been reached

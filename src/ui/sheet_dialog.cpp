@@ -2,6 +2,7 @@
 
 #include "ui/sheet_redraw.h"
 #include "ui/theme.h"
+#include "ui/window_frame.h"
 
 #include <QElapsedTimer>
 #include <QHBoxLayout>
@@ -69,8 +70,7 @@ void SheetDialog::fit() {
         {minimumWidth(), column_->totalMinimumSize().width(), column_->totalSizeHint().width()});
     const int height = column_->hasHeightForWidth() ? column_->totalHeightForWidth(width)
                                                     : column_->totalSizeHint().height();
-    constexpr int frame = 38; // of a usual window manager
-    const int room = screen()->availableGeometry().height() - frame;
+    const int room = screen()->availableGeometry().height() - usualFrame.height();
     resize(width, std::min(height, std::max(room, column_->totalMinimumSize().height())));
 }
 

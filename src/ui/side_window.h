@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 namespace pinmora {
 
 /// A window beside the one that is worked in. It is shown as its outlet has it; its close button
@@ -13,8 +15,11 @@ class SideWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// The outlet must outlive the window.
-    explicit SideWindow(Window &window, QWidget *parent = nullptr);
+    /// The window over which it is to come up; null for none.
+    using Over = std::function<QWidget *()>;
+
+    /// The outlet must outlive the window. Without `over` the desktop places it.
+    explicit SideWindow(Window &window, QWidget *parent = nullptr, Over over = nullptr);
 
 protected:
     /// Shows it as the outlet has it, from now on. Once only, when it is complete.
@@ -27,6 +32,11 @@ protected:
 
     Window &window_;
     Bindings bindings_;
+
+private:
+    void comeUp();
+
+    const Over over_;
 };
 
 } // namespace pinmora

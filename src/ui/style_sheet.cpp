@@ -147,6 +147,10 @@ QFrame[role="dropOver"] { background: @accentVeil; border: 2px dashed @accent;
     border-radius: 10px; }
 QAbstractItemView { background: @content; border: none; selection-background-color: @accentGround;
     selection-color: @text; gridline-color: @line; outline: none; }
+QListView[role="pages"]::item { padding: 5px 8px; border: 1px solid transparent;
+    border-radius: 4px; }
+QListView[role="pages"]::item:selected { background: @accentGround; color: @text; }
+QListView[role="pages"]::item:selected:focus { border-color: @accent; }
 QTableView::item { padding: 0 5px; border-bottom: 1px solid @line; }
 QTableView::item:selected { background: @accentGround; color: @text; }
 QHeaderView { background: @content; border: none; }

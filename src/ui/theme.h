@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shell/appearance.h"
+
 #include <QColor>
 
 #include <initializer_list>
@@ -36,9 +38,6 @@ QColor mixed(const QColor &a, const QColor &b, float shareOfB);
 double contrast(const QColor &a, const QColor &b);
 /// The colour, moved towards black or white as far as it takes for 4.5 to 1 on all of the grounds.
 QColor readable(QColor ink, std::initializer_list<QColor> grounds);
-
-/// How the program looks: as the desktop does, or one of the two.
-enum class Appearance { System, Light, Dark };
 
 /// Gives the application style, palette and style sheet. The accent is the desktop's where it sets
 /// one. To be called again when the desktop's look has changed (QEvent::ThemeChange).

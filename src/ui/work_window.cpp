@@ -5,9 +5,10 @@
 #include "shell/subsystems.h"
 #include "ui/busy_state.h"
 #include "ui/file_names.h"
-#include "ui/look_setting.h"
 #include "ui/photo_drag.h"
 #include "ui/stored_bytes.h"
+#include "ui/theme.h"
+#include "ui/window_frame.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -82,8 +83,7 @@ void WorkWindow::changeEvent(QEvent *event) {
 void WorkWindow::restoreGeometryOr(QSize first) {
     const QByteArray geometry = storedBytes(delegate_.defaults, geometryKey_);
     if (geometry.isEmpty() || !restoreGeometry(geometry)) {
-        constexpr QSize frame(2, 38); // of a usual window manager: ours is known only later
-        resize(first.boundedTo(screen()->availableSize() - frame));
+        resize(first.boundedTo(screen()->availableSize() - usualFrame));
     }
 }
 

@@ -73,9 +73,8 @@ void updateTest::newVersion(const ProgDict &description) {
     theProgDict_ = description;
     if (textIn(theProgDict_, "progPlist").empty()) {
         if (menuCheck_) {
-            showFailure(translated("update",
-                                   "No address for version information is set. The setting "
-                                   "\"versionInfoURL\" takes one."));
+            showFailure(translated("update", "No address for version information is set. The "
+                                             "preferences take one."));
         }
         return;
     }
