@@ -16,7 +16,8 @@ namespace {
 /// Loads the photos and notes the logs; says which files could not be used. True: all could.
 bool loadPhotos(MemoryLibrary &library, LogList &logs, const Options &options,
                 const Surroundings &surroundings) {
-    const PhotoTypes types;
+    PhotoTypes types;
+    types.setMorePhotoTypes(surroundings.morePhotoTypes);
     Photos photos(library.context, logs, types);
     const Connection counting = photos.photoLoaded.connect([&](std::size_t count) {
         surroundings.progress(

@@ -4,6 +4,7 @@
 #include "tag_job.h"
 
 #include "gps/reading_setting.h"
+#include "photos/photo_types.h"
 #include "places/place_settings.h"
 #include "platform/defaults.h"
 #include "platform/program_language.h"
@@ -77,6 +78,7 @@ int tagPhotos(const Options &options, const std::filesystem::path &resources) {
     const Report report =
         runTagJob(options, {.resources = resources,
                             .placeService = withPlaces ? service : std::function<PlaceService()>(),
+                            .morePhotoTypes = takesMorePhotoTypes(defaults),
                             .logReading = logReadingFrom(defaults),
                             .tool = toolSettingsFrom(defaults),
                             .tell = [&](const std::string &line) { console.tell(line); },

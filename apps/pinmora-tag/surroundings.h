@@ -15,6 +15,7 @@ struct Surroundings {
     std::filesystem::path resources; ///< the program's resource folder
     /// Where place names are asked for; empty when they are not to be looked up.
     std::function<PlaceService()> placeService;
+    bool morePhotoTypes = false;                   ///< the person's setting
     LogReading logReading = LogReading::Exact;     ///< the person's setting
     ToolSettings tool;                             ///< the person's settings
     std::function<void(const std::string &)> tell; ///< one line for the person, without line end

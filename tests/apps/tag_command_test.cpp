@@ -147,14 +147,16 @@ private Q_SLOTS:
 
     void looksNoPlacesUp() {
         auto [options, settings] = test::fetch<QStringList, QByteArray>();
-        const QByteArray config = qgetenv("XDG_CONFIG_HOME");
-        QVERIFY(QDir(folder->path()).mkdir(u"Pinmora"_s));
-        write(u"Pinmora/Pinmora.ini"_s, "[General]\n" + settings + '\n');
-        qputenv("XDG_CONFIG_HOME", folder->path().toUtf8());
-        const Run result = run(options << u"--dry-run"_s << outing);
-        qputenv("XDG_CONFIG_HOME", config);
+        const Run result = runWith(settings, options << u"--dry-run"_s << outing);
         QCOMPARE(result.statuses(), QStringList{u"matched"_s});
         QCOMPARE(result.photo(u"IMG_0412.JPG"_s)[u"city"], QJsonValue(QString()));
+    }
+
+    void takesMoreTypesWhereTheWindowDoes() {
+        const QString photo = folder->filePath(u"phone.Jpg"_s);
+        QVERIFY(QFile::copy(outing + u"/IMG_0412.JPG"_s, photo));
+        QVERIFY(run({photo}).statuses().isEmpty());
+        QCOMPARE(runWith("morePhotoTypes=1", {photo}).statuses(), QStringList{u"saved"_s});
     }
 
     void withoutLogsPhotosAreSavedAsTheyAre() {
@@ -238,6 +240,16 @@ private:
         return {outcome.end == ProcessOutcome::End::Exited ? outcome.code : -1,
                 QJsonDocument::fromJson(QByteArray::fromStdString(outcome.output)).object(),
                 QString::fromStdString(outcome.errors)};
+    }
+
+    Run runWith(const QByteArray &settings, const QStringList &arguments) {
+        const QByteArray config = qgetenv("XDG_CONFIG_HOME");
+        QDir(folder->path()).mkdir(u"Pinmora"_s);
+        write(u"Pinmora/Pinmora.ini"_s, "[General]\n" + settings + '\n');
+        qputenv("XDG_CONFIG_HOME", folder->path().toUtf8());
+        Run result = run(arguments);
+        qputenv("XDG_CONFIG_HOME", config);
+        return result;
     }
 
     QString write(const QString &name, const QByteArray &bytes) {
