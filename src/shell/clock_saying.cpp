@@ -37,7 +37,7 @@ void ClockSaying::say() {
     heading.text.set(camera.empty()
                          ? translated("shell", "Camera clock")
                          : filled(translated("shell", "Camera clock · %1"), {modelName(camera)}));
-    words.text.set(camera.empty() ? offsetSentence(apart) : offsetSentenceOf(camera, apart));
+    words.text.set(offsetSentenceOf(camera, apart));
 }
 
 } // namespace pinmora

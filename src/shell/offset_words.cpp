@@ -115,6 +115,9 @@ std::string offsetSentence(seconds offset) {
 }
 
 std::string offsetSentenceOf(std::string_view camera, seconds offset) {
+    if (camera.empty()) {
+        return offsetSentence(offset);
+    }
     if (offset.count() == 0) {
         return filled(translated("shell", "%1: its clock was right"), {cameraName(camera)});
     }

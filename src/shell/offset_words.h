@@ -13,7 +13,7 @@ std::string durationWords(std::chrono::seconds duration);
 
 /// "The camera was 3 min 12 s slow.", "The camera was 2 h fast.", "The camera’s clock was right."
 std::string offsetSentence(std::chrono::seconds offset);
-/// The same of one of several cameras: "Canon EOS 5D: 3 min 12 s slow".
+/// The same of one of several cameras: "Canon EOS 5D: 3 min 12 s slow"; "" is the common clock.
 std::string offsetSentenceOf(std::string_view camera, std::chrono::seconds offset);
 
 /// "+2 h 00 min", "−3 min 12 s": short, with its sign.

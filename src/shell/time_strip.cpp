@@ -219,6 +219,14 @@ std::string TimeStrip::turnWords() const {
     return before.count() == 0 ? by : by + " → " + shortOffset(before + turn->by);
 }
 
+std::chrono::seconds TimeStrip::clock() const {
+    return clockOffset_.clock(clockOffset_.cameraInHand());
+}
+
+std::string TimeStrip::clockWords() const {
+    return offsetSentenceOf(clockOffset_.cameraInHand(), clock());
+}
+
 void TimeStrip::step(std::chrono::seconds by) {
     clockOffset_.turning.set(ClockTurn{.by = by, .camera = clockOffset_.cameraInHand()});
     clockOffset_.endTurn();

@@ -78,7 +78,10 @@ public:
     /// "+1 h 02 min 10 s → +2 h 00 min 10 s": the turn, and the offset that comes of it where it is
     /// another; "" when nothing is being turned.
     std::string turnWords() const;
-    /// Turns the clock that the controls show, as one step of undo.
+    /// The clock that the controls show, while nothing is being turned, and the same in words.
+    std::chrono::seconds clock() const;
+    std::string clockWords() const;
+    /// Turns it, as one step of undo.
     void step(std::chrono::seconds by);
 
     /// Whether one photo is selected, which tells when it was taken, and there are points.

@@ -6,16 +6,31 @@
 #include "ui/roles.h"
 #include "ui/theme.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QToolButton>
 
 namespace pinmora {
+namespace {
+
+/// Screen readers speak what comes up in this role.
+QAccessibleInterface *accessibleBar(const QString &, QObject *object) {
+    auto *const bar = qobject_cast<QuietBarWidget *>(object);
+    return bar ? new QAccessibleWidget(bar, QAccessible::AlertMessage) : nullptr;
+}
+
+void makeBarsAccessible() {
+    static const bool isDone = (QAccessible::installFactory(accessibleBar), true);
+    static_cast<void>(isDone);
+}
+
+} // namespace
 
 QuietBarWidget::QuietBarWidget(QuietBar &bar, QWidget *parent)
     : QFrame(parent), head_(new QLabel(this)), text_(new ElidedLabel(this)),
-      more_(new QLabel(this)), close_(new QToolButton(this)) {
+      more_(new QLabel(this)) {
+    makeBarsAccessible();
     setRole(this, Role::QuietBar);
     setRole(head_, Role::Strong);
     head_->setTextFormat(Qt::PlainText);
@@ -35,6 +50,7 @@ QuietBarWidget::QuietBarWidget(QuietBar &bar, QWidget *parent)
     }
     setRole(more_, Role::Quiet);
     row->addWidget(more_);
+    close_ = new QToolButton(this); // after the choices, for the keyboard, too
     close_->setIcon(icon("close"));
     close_->setIconSize(QSize(14, 14));
     close_->setToolTip(tr("Close this message"));

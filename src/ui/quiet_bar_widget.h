@@ -32,7 +32,7 @@ private:
     ElidedLabel *text_;
     std::array<QPushButton *, 2> choices_{};
     QLabel *more_; ///< how many messages come after this one
-    QToolButton *close_;
+    QToolButton *close_ = nullptr;
     Bindings bindings_; ///< goes before what it writes to
 };
 

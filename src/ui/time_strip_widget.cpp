@@ -4,13 +4,16 @@
 #include "store/image.h"
 #include "ui/photo_texts.h"
 #include "ui/theme.h"
+#include "ui/time_strip_accessible.h"
 
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QLocale>
 #include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace pinmora {
 namespace {
@@ -22,6 +25,7 @@ constexpr int lowWindow = 620;
 
 TimeStripWidget::TimeStripWidget(TimeStrip &strip, QWidget *parent)
     : QWidget(parent), strip_(strip) {
+    makeTimeStripsAccessible();
     setObjectName(QStringLiteral("timeStrip"));
     setAccessibleName(tr("Time strip"));
     setFocusPolicy(Qt::StrongFocus);
@@ -112,6 +116,11 @@ void TimeStripWidget::describe() {
                                   QLocale().toString(static_cast<qlonglong>(far)));
     if (text != accessibleDescription()) {
         setAccessibleDescription(text);
+    }
+    const std::chrono::seconds clock = strip_.clock();
+    if (std::exchange(clockTold_, clock) != clock) {
+        QAccessibleValueChangeEvent changed(this, static_cast<qlonglong>(clock.count()));
+        QAccessible::updateAccessibility(&changed);
     }
 }
 

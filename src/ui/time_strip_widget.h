@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include <chrono>
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -24,6 +25,7 @@ public:
     /// Whether it is to be seen once there is something on it.
     void setOffered(bool offered);
     const TimeAxis &axis() const { return axis_; }
+    TimeStrip &strip() const { return strip_; }
     /// All of it, or, with photos far away from the tracks, the tracks.
     void showTracks();
     void showAll();
@@ -87,6 +89,7 @@ private:
     bool fitsAll_ = false; ///< and is all of it
     std::size_t photosFitted_ = 0;
     std::size_t barsFitted_ = 0;
+    std::chrono::seconds clockTold_{0}; ///< to assistive technology
     Hand hand_ = Hand::Idle;
     QPointF pressed_;
     QPointF pointer_;

@@ -4,6 +4,7 @@
 #include "ui/time_axis.h"
 #include "ui/window_desk.h"
 
+#include <QAccessible>
 #include <QWheelEvent>
 
 using namespace pinmora;
@@ -168,6 +169,18 @@ private Q_SLOTS:
         desk.action(ActionName::Undo)->trigger();
         desk.settle();
         QCOMPARE(desk.clock().count(), 61);
+    }
+
+    /// To assistive technology it is a slider, whose value is the clock.
+    void theClockIsHeard() {
+        StripDesk desk;
+        desk.key(Qt::Key_Right, Qt::ShiftModifier);
+        QAccessibleInterface *const heard = QAccessible::queryAccessibleInterface(desk.strip());
+        QCOMPARE(heard->role(), QAccessible::Slider);
+        QCOMPARE(heard->text(QAccessible::Value), QStringLiteral("The camera was 1 min slow."));
+        heard->valueInterface()->setCurrentValue(-3600);
+        desk.settle();
+        QCOMPARE(desk.clock().count(), -3600);
     }
 
     void theWheelZoomsAndPans() {
