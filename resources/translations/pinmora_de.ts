@@ -697,49 +697,8 @@
         <translation>%1, Sekunden</translation>
     </message>
     <message>
-        <source>N</source>
-        <extracomment>the letters of the four winds, as positions are written</extracomment>
-        <translation>N</translation>
-    </message>
-    <message>
-        <source>E</source>
-        <translation>E</translation>
-    </message>
-    <message>
-        <source>S</source>
-        <translation>S</translation>
-    </message>
-    <message>
-        <source>W</source>
-        <translation>W</translation>
-    </message>
-    <message>
-        <source>north</source>
-        <translation>Nord</translation>
-    </message>
-    <message>
-        <source>east</source>
-        <translation>Ost</translation>
-    </message>
-    <message>
-        <source>south</source>
-        <translation>Süd</translation>
-    </message>
-    <message>
-        <source>west</source>
-        <translation>West</translation>
-    </message>
-    <message>
         <source>%1, hemisphere</source>
         <translation>%1, Halbkugel</translation>
-    </message>
-    <message>
-        <source>North or south of the equator</source>
-        <translation>Nördlich oder südlich des Äquators</translation>
-    </message>
-    <message>
-        <source>East or west of Greenwich</source>
-        <translation>Östlich oder westlich von Greenwich</translation>
     </message>
     <message>
         <source>Latitude</source>
@@ -748,6 +707,10 @@
     <message>
         <source>Longitude</source>
         <translation>Länge</translation>
+    </message>
+    <message>
+        <source>%1, hemisphere, by the seconds</source>
+        <translation>%1, Halbkugel, bei den Sekunden</translation>
     </message>
 </context>
 <context>
@@ -779,6 +742,10 @@
     <message>
         <source>Double-click to see it at full size</source>
         <translation>Doppelklicken, um es in voller Größe zu sehen</translation>
+    </message>
+    <message>
+        <source>The selected photo</source>
+        <translation>Das ausgewählte Foto</translation>
     </message>
 </context>
 <context>
@@ -946,6 +913,10 @@
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
 </context>
 <context>
     <name>pinmora::FullViewWindow</name>
@@ -1039,6 +1010,50 @@
     <message>
         <source>Who is asked for the newest version</source>
         <translation>Wer nach der neuesten Version gefragt wird</translation>
+    </message>
+</context>
+<context>
+    <name>pinmora::HemisphereBox</name>
+    <message>
+        <source>N</source>
+        <extracomment>the letters of the four winds, as positions are written</extracomment>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>north</source>
+        <translation>Nord</translation>
+    </message>
+    <message>
+        <source>east</source>
+        <translation>Ost</translation>
+    </message>
+    <message>
+        <source>south</source>
+        <translation>Süd</translation>
+    </message>
+    <message>
+        <source>west</source>
+        <translation>West</translation>
+    </message>
+    <message>
+        <source>North or south of the equator</source>
+        <translation>Nördlich oder südlich des Äquators</translation>
+    </message>
+    <message>
+        <source>East or west of Greenwich</source>
+        <translation>Östlich oder westlich von Greenwich</translation>
     </message>
 </context>
 <context>

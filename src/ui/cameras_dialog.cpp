@@ -2,6 +2,7 @@
 
 #include "shell/cameras.h"
 #include "ui/camera_row.h"
+#include "ui/scrolled_focus.h"
 #include "ui/theme.h"
 
 #include <QFrame>
@@ -33,6 +34,8 @@ CamerasDialog::CamerasDialog(Cameras &cameras, Editing &editing, WidgetOf widget
     list_->setContentsMargins(0, 0, 0, 0);
     list_->setSpacing(0);
     area_->setWidget(content);
+    area_->setAccessibleName(tr("Cameras"));
+    focusWhileScrollable(*area_);
     area_->setWidgetResizable(true);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setRole(area_, Role::Framed);

@@ -111,6 +111,7 @@ void ClockPanel::addActions(QVBoxLayout &column) {
     bindings_.tie(outlets_.offsetButton, set);
     bindings_.keep(outlets_.offsetButton.enabled.onChange([this](bool) { showTimes(); }));
     auto *unfold = new QToolButton;
+    unfold->setObjectName(QStringLiteral("more"));
     unfold->setText(tr("More"));
     unfold->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     unfold->setArrowType(Qt::RightArrow);

@@ -3,10 +3,10 @@
 #include "coords/coordinate_fields.h"
 #include "ui/field_bindings.h"
 #include "ui/field_edit.h"
+#include "ui/hemisphere_box.h"
 #include "ui/roles.h"
 #include "ui/theme.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -51,6 +51,9 @@ CoordinatePanel::CoordinatePanel(CoordinateFields &fields, Button &addRemoveMark
 
     setRole(problem_, Role::Problem);
     problem_->setWordWrap(true);
+    QSizePolicy policy = problem_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // or the map would jump with each slip
+    problem_->setSizePolicy(policy);
     grid->addWidget(problem_, 3, 0, 1, 3);
     grid->setRowStretch(4, 1);
     grid->setColumnStretch(3, 1);
@@ -87,8 +90,13 @@ void CoordinatePanel::addParts(QGridLayout &grid, int row, Show show) {
     for (AxisFields *axis : {&fields_.lat, &fields_.lon}) {
         auto *parts = new QHBoxLayout;
         parts->setSpacing(narrowGap);
-        show == Show::Minutes ? addMinutes(*parts, *axis) : addSeconds(*parts, *axis);
-        addHemisphere(*parts, *axis);
+        if (show == Show::Minutes) {
+            addMinutes(*parts, *axis);
+            addHemisphere(*parts, *axis, tr("%1, hemisphere").arg(nameOf(*axis)));
+        } else {
+            addSeconds(*parts, *axis);
+            addHemisphere(*parts, *axis, tr("%1, hemisphere, by the seconds").arg(nameOf(*axis)));
+        }
         grid.addLayout(parts, row, column++);
     }
 }
@@ -117,22 +125,9 @@ void CoordinatePanel::addSeconds(QHBoxLayout &row, AxisFields &axis) {
     row.addWidget(signOf(QStringLiteral("″")));
 }
 
-void CoordinatePanel::addHemisphere(QHBoxLayout &row, AxisFields &axis) {
-    auto *hemisphere = new QComboBox;
-    const bool isLatitude = &axis.kind() == &latitudeKind;
-    //: the letters of the four winds, as positions are written
-    hemisphere->addItem(isLatitude ? tr("N") : tr("E"), 0);
-    hemisphere->addItem(isLatitude ? tr("S") : tr("W"), 1);
-    hemisphere->setItemData(0, isLatitude ? tr("north") : tr("east"), Qt::AccessibleTextRole);
-    hemisphere->setItemData(1, isLatitude ? tr("south") : tr("west"), Qt::AccessibleTextRole);
-    hemisphere->setAccessibleName(tr("%1, hemisphere").arg(nameOf(axis)));
-    hemisphere->setToolTip(isLatitude ? tr("North or south of the equator")
-                                      : tr("East or west of Greenwich"));
-    hemisphere->setStyleSheet(QStringLiteral("QComboBox { padding: 3px 0 3px 5px; }"
-                                             "QComboBox::drop-down { width: 14px; }"
-                                             "QComboBox::down-arrow { width: 10px; }"));
-    hemisphere->setFixedWidth(hemisphere->fontMetrics().horizontalAdvance(u'W') + 3 * spacing +
-                              smallGap);
+void CoordinatePanel::addHemisphere(QHBoxLayout &row, AxisFields &axis, const QString &name) {
+    auto *hemisphere = new HemisphereBox(&axis.kind() == &latitudeKind);
+    hemisphere->setAccessibleName(name);
     tie(bindings_, axis.hemisphere, hemisphere);
     row.addWidget(hemisphere);
 }
@@ -158,6 +153,7 @@ void CoordinatePanel::showProblems() {
         }
     }
     problem_->setText(QString::fromStdString(first));
+    problem_->setVisible(!first.empty());
 }
 
 } // namespace pinmora

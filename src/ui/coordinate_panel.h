@@ -31,7 +31,7 @@ private:
     void addParts(QGridLayout &grid, int row, Show show);
     void addMinutes(QHBoxLayout &row, AxisFields &axis);
     void addSeconds(QHBoxLayout &row, AxisFields &axis);
-    void addHemisphere(QHBoxLayout &row, AxisFields &axis);
+    void addHemisphere(QHBoxLayout &row, AxisFields &axis, const QString &name);
     FieldEdit *addField(CoordinateField &field, const QString &widest, const QString &name);
     void showProblems();
 

@@ -133,11 +133,15 @@ void DetailsTab::addAltitude(QGridLayout &grid, DetailField &field) {
     row->addWidget(new QLabel(tr("m")));
     row->addStretch();
     grid.addLayout(row, grid.rowCount() - 1, 3);
-    auto *problem = new QLabel;
+    auto *problem = new QLabel(this);
     setRole(problem, Role::Problem);
+    QSizePolicy policy = problem->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // nothing is to jump
+    problem->setSizePolicy(policy);
     grid.addWidget(problem, grid.rowCount(), 1, 1, 3, Qt::AlignRight);
     bindings_.watch(field.problem, [problem](const std::string &why) {
         problem->setText(QString::fromStdString(why));
+        problem->setVisible(!why.empty());
     });
 }
 

@@ -1,6 +1,7 @@
 #include "ui/error_dialog.h"
 
 #include "outlets/error_sheet.h"
+#include "ui/scrolled_focus.h"
 #include "ui/theme.h"
 
 #include <QLabel>
@@ -49,6 +50,8 @@ ErrorDialog::ErrorDialog(ErrorSheet &errors, WidgetOf widgetOf, QWidget *owner)
     text->setTextFormat(Qt::PlainText);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto *message = new Message(text);
+    message->setAccessibleName(tr("Message"));
+    focusWhileScrollable(*message);
     column()->addWidget(message);
     bindings_.watch(errors.errorText.text, [this, text, message](const std::string &words) {
         text->setText(QString::fromStdString(words));

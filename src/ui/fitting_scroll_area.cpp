@@ -30,6 +30,7 @@ FittingScrollArea::FittingScrollArea(const QList<QWidget *> &widgets, QWidget *p
         widget->installEventFilter(this);
     }
     setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus); // what takes the focus in it comes into sight
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setWidget(content);

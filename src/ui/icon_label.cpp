@@ -5,8 +5,7 @@
 namespace pinmora {
 
 IconLabel::IconLabel(const QIcon &picture, int side, QWidget *parent)
-    : QLabel(parent), icon_(picture), side_(side) {
-    setAlignment(Qt::AlignCenter);
+    : QWidget(parent), icon_(picture), side_(side) {
     setMinimumWidth(side);
     setFixedHeight(side);
 }

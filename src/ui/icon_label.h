@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QIcon>
-#include <QLabel>
+#include <QWidget>
 
 namespace pinmora {
 
-/// A picture that is always in the colours in force.
-class IconLabel : public QLabel {
+/// A picture that is always in the colours in force. It says nothing that the words beside it do
+/// not: assistive technology hears no label.
+class IconLabel : public QWidget {
 public:
     /// `side` is in device-independent pixels.
     IconLabel(const QIcon &picture, int side, QWidget *parent = nullptr);

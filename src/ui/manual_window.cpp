@@ -39,7 +39,7 @@ QUrl urlOf(const QListWidgetItem *item) {
 
 ManualWindow::ManualWindow(Window &window, QWidget *parent)
     : SideWindow(window, parent), contents_(new QListWidget), page_(new ManualPage),
-      words_(new QLineEdit), found_(new QLabel) {
+      words_(new QLineEdit), found_(new QLabel(tr("Not on this page"), this)) {
     setWindowTitle(tr("Pinmora - Manual"));
     resize(118 * spacing, 84 * spacing);
     auto *const reading = new QHBoxLayout;
@@ -78,7 +78,7 @@ void ManualWindow::listPages() {
 
 /// A link or a step back has led to another page.
 void ManualWindow::markPage(const QUrl &source) {
-    found_->clear();
+    found_->hide();
     const QUrl page = source.adjusted(QUrl::RemoveFragment);
     for (int row = 0; row < contents_->count(); ++row) {
         if (urlOf(contents_->item(row)) == page) {
@@ -105,8 +105,9 @@ QLayout *ManualWindow::makeBar() {
     words_->setClearButtonEnabled(true);
     words_->setFixedWidth(28 * spacing);
     setRole(found_, Role::Quiet);
+    found_->hide();
     connect(words_, &QLineEdit::returnPressed, this, [this] { find(false); });
-    connect(words_, &QLineEdit::textEdited, this, [this] { found_->clear(); });
+    connect(words_, &QLineEdit::textEdited, found_, &QWidget::hide);
     connect(new QShortcut(QKeySequence::FindNext, this), &QShortcut::activated, this,
             [this] { find(false); });
     connect(new QShortcut(QKeySequence::FindPrevious, this), &QShortcut::activated, this,
@@ -135,7 +136,7 @@ void ManualWindow::find(bool backwards) {
         page_->moveCursor(backwards ? QTextCursor::End : QTextCursor::Start);
         isThere = page_->find(words_->text(), how);
     }
-    found_->setText(isThere ? QString() : tr("Not on this page"));
+    found_->setVisible(!isThere);
 }
 
 } // namespace pinmora

@@ -62,7 +62,8 @@ QuietBarWidget::QuietBarWidget(QuietBar &bar, QWidget *parent)
     bindings_.watch(bar.shown(),
                     [this](const std::optional<BarMessage> &message) { show(message); });
     bindings_.watch(bar.waiting(), [this](std::size_t count) {
-        more_->setText(count == 0 ? QString() : tr("%n more", nullptr, static_cast<int>(count)));
+        more_->setText(tr("%n more", nullptr, static_cast<int>(count)));
+        more_->setVisible(count > 0);
     });
 }
 

@@ -74,12 +74,13 @@ void TrueTimeDialog::addTimes() {
     const auto add = [&](const QString &what, QWidget *widget) {
         auto *label = new QLabel(what);
         setRole(label, Role::Quiet);
+        label->setBuddy(widget);
         grid->addWidget(label, row, 0);
         grid->addWidget(widget, row++, 1, Qt::AlignLeft);
     };
     add(tr("The camera says"), says);
     add(tr("True time"), taken_);
-    add(QString(), words);
+    grid->addWidget(words, row, 1, Qt::AlignLeft);
     grid->setColumnStretch(1, 1);
     column()->addLayout(grid);
     bindings_.watch(trueTime_.taken,

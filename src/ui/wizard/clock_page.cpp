@@ -35,6 +35,7 @@ ClockPage::ClockPage(WizardOutlets &outlets, QWidget *parent) : QScrollArea(pare
     }
     column->addStretch();
     setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus); // the cards come into sight when they take it
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWidget(content);

@@ -4,6 +4,7 @@
 #include "ui/elided_label.h"
 #include "ui/picture_view.h"
 #include "ui/roles.h"
+#include "ui/scrolled_focus.h"
 #include "ui/theme.h"
 
 #include <QGridLayout>
@@ -26,6 +27,8 @@ DetailsColumn::DetailsColumn(const Parts &parts, QWidget *parent)
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFixedWidth(columnWidth);
+    setAccessibleName(tr("The selected photo"));
+    focusWhileScrollable(*this);
     auto *const content = new QWidget;
     column_ = new QVBoxLayout(content);
     column_->setContentsMargins(0, 0, 0, 0);
