@@ -7,11 +7,14 @@ mapPage.pointer = (() => {
         '<path class="body" d="M15 38.5C12 31 3 24 3 15a12 12 0 0 1 24 0c0 9-9 16-12 23.5z"/>' +
         '<circle class="eye" cx="15" cy="15" r="4.5"/></svg>';
 
+    const arrows = {ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, -1], ArrowDown: [0, 1]};
+
     const {say, view, positions} = mapPage;
     let marker = null;
     let isDraft = false;
     let shownLabel = "";
     let draggedFrom = null; // where the pin was when the drag under way began
+    let keyedFrom = null; // the same while arrow keys move it, until Enter
 
     function hint() {
         const count = mapPage.photos.countOfSelected();
@@ -24,6 +27,7 @@ mapPage.pointer = (() => {
         const old = marker;
         marker = null; // first: what ends a drag in its midst is no report
         draggedFrom = null;
+        keyedFrom = null;
         old?.remove();
         if (isDraft) {
             isDraft = false;
@@ -39,6 +43,7 @@ mapPage.pointer = (() => {
     /** The pin is where it is to be: a draft becomes the pointer, if there is anything to place. */
     function place() {
         draggedFrom = null;
+        keyedFrom = null;
         if (isDraft && mapPage.photos.countOfSelected() === 0) {
             return;
         }
@@ -50,16 +55,41 @@ mapPage.pointer = (() => {
         const icon = L.divIcon({html: pin, className: "pin", iconSize: [30, 40],
                                 iconAnchor: [15, 39]});
         const one = L.marker([lat, lon], {icon, draggable: true, autoPan: true, keyboard: true});
-        const ifShown = (act) => () => { if (one === marker) { act(); } };
+        const ifShown = (act) => (event) => { if (one === marker) { act(event); } };
         one.on("dragstart", ifShown(() => { draggedFrom = one.getLatLng(); }));
         one.on("dragend", ifShown(place));
         one.on("click", ifShown(() => { if (isDraft) { place(); } }));
-        one.addTo(view.map).getElement().addEventListener("keydown", (event) => {
-            if (event.key === "Enter" && isDraft) {
-                place();
-            }
-        });
+        const element = one.addTo(view.map).getElement();
+        element.addEventListener("keydown", ifShown(keyed));
+        element.addEventListener("blur", ifShown(takeKeysBack));
         return one;
+    }
+
+    /** Arrow keys move the pin by ten pixels, with Shift by one; Enter leaves it there. */
+    function keyed(event) {
+        const step = arrows[event.key];
+        if (step) {
+            event.preventDefault();
+            keyedFrom ??= marker.getLatLng();
+            const {map} = view;
+            const from = map.latLngToContainerPoint(marker.getLatLng());
+            const {lat, lng} = map.containerPointToLatLng(
+                from.add(L.point(step).multiplyBy(event.shiftKey ? 1 : 10)));
+            marker.setLatLng([lat, lng]);
+            view.bringIntoSight(lat, lng);
+        } else if (event.key === "Enter" && (isDraft || keyedFrom)) {
+            place();
+        }
+    }
+
+    /** Whether there was anything to take back. */
+    function takeKeysBack() {
+        if (!keyedFrom) {
+            return false;
+        }
+        marker.setLatLng(keyedFrom);
+        keyedFrom = null;
+        return true;
     }
 
     const isSeen = (lat, lon) => view.map.getBounds().contains([lat, view.nearestCopy(lon)]);
@@ -108,9 +138,16 @@ mapPage.pointer = (() => {
         if (draggedFrom) {
             remove(); // it does not go on following the mouse
         }
+        keyedFrom = null;
         const at = [lat, view.nearestCopy(lon)];
         marker = marker?.setLatLng(at) ?? made(...at);
         describe(label, draft);
+    }
+
+    /** The arrow keys are its own once the page has the keyboard. */
+    function putDraft(lat, lon) {
+        put(lat, lon, "", true);
+        marker.getElement().focus({preventScroll: true});
     }
 
     /** Ends a drag in its midst; whether there was one. */
@@ -154,7 +191,7 @@ mapPage.pointer = (() => {
         isDragged: () => draggedFrom !== null,
         /** Takes back what is being done with the pin; whether there was anything. */
         escape() {
-            if (takeDragBack()) {
+            if (takeDragBack() || takeKeysBack()) {
                 return true;
             }
             if (isDraft) {
@@ -189,14 +226,14 @@ mapPage.pointer = (() => {
             const known = positions.isPosition(lat, lon) && !(lat === 0 && lon === 0 && level === 1);
             if (known && (isSeen(lat, lon) || !mapPage.tracks.areIn(view.seen()))) {
                 view.byProgram(() => view.setView(lat, lon, view.levelFor(level)));
-                put(lat, lon, "", true);
+                putDraft(lat, lon);
                 return;
             }
             if (!known && !mapPage.tracks.box() && !mapPage.photos.box()) {
                 view.showWorld();
             }
             const {lat: middle, lng} = view.map.getCenter();
-            put(middle, lng, "", true);
+            putDraft(middle, lng);
         },
     };
 })();

@@ -125,6 +125,7 @@ void MapPagePlacingTest::aDraftIsPlacedOnce_data() {
     QTest::newRow("a click on the pin") << "pin" << middle;
     QTest::newRow("dragged") << "drag" << QPoint(400, 260);
     QTest::newRow("Enter on the pin") << "enter" << middle;
+    QTest::newRow("moved by keys") << "keys" << QPoint(311, 190);
 }
 
 void MapPagePlacingTest::aDraftIsPlacedOnce() {
@@ -145,7 +146,13 @@ void MapPagePlacingTest::aDraftIsPlacedOnce() {
         desk.holdPin(middle + onPin, there - middle);
         desk.release();
     } else {
-        desk.ask(QStringLiteral("document.querySelector('.pin').focus()"));
+        if (how == QLatin1String("keys")) {
+            desk.key(Qt::Key_Down);
+            desk.key(Qt::Key_Escape);
+            desk.key(Qt::Key_Right);
+            desk.key(Qt::Key_Right, Qt::ShiftModifier);
+            desk.key(Qt::Key_Up);
+        }
         desk.key(Qt::Key_Return);
     }
     QVERIFY(desk.becomes(QStringLiteral("reports.length > 0")));
