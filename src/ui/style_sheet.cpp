@@ -33,10 +33,11 @@ QTabWidget::pane { background: @content; border: 1px solid @line; border-radius:
     border-top-left-radius: 0; top: -1px; }
 QTabBar::tab { background: transparent; color: @quiet; border: 1px solid transparent;
     border-top-left-radius: 6px; border-top-right-radius: 6px; padding: 6px 16px; }
+QTabBar { outline: none; }
 QTabBar::tab:hover { color: @text; }
 QTabBar::tab:selected { background: @content; color: @text; border-color: @line;
     border-bottom-color: @content; }
-QTabBar::tab:selected:focus { color: @accent; }
+QTabBar::tab:selected:focus { color: @accent; border-color: @accent; }
 QSplitter::handle { background: @line; }
 QSplitter::handle:horizontal { width: 1px; }
 QSplitter::handle:vertical { height: 1px; }
@@ -74,9 +75,10 @@ QPushButton:disabled { color: @disabled; background: @window; }
 QPushButton:default, QPushButton[role="default"] { background: @accent; color: @onAccent;
     border-color: @accent; }
 QPushButton:default:hover, QPushButton[role="default"]:hover { background: @accentOver; }
-QPushButton:default:focus, QPushButton[role="default"]:focus { border-color: @text; }
-QPushButton:default:disabled, QPushButton[role="default"]:disabled { background: @accentOff;
-    border-color: @accentOff; color: @content; }
+QPushButton:default:focus, QPushButton[role="default"]:focus { border-color: @text;
+    outline: 1px solid @onAccent; outline-offset: 4px; }
+QPushButton:default:disabled, QPushButton[role="default"]:disabled { background: @accentGround;
+    border-color: @line; color: @disabled; }
 QPushButton[role="link"], QPushButton[role="removal"], QPushButton[role="flat"] {
     background: transparent; border-color: transparent; padding: 3px 7px; }
 QPushButton[role="link"] { color: @accent; }
@@ -115,7 +117,7 @@ QRadioButton::indicator:checked { background: @content; border: 4px solid @accen
     width: 7px; height: 7px; }
 QCheckBox::indicator:disabled, QRadioButton::indicator:disabled { border-color: @line; }
 QCheckBox::indicator:checked:disabled { background: @accentOff; border-color: @accentOff; }
-QCheckBox:focus, QRadioButton:focus { color: @text; }
+QCheckBox:focus, QRadioButton:focus { color: @text; outline: 1px solid @accent; }
 QProgressBar { background: @line; border: none; border-radius: 3px; max-height: 6px;
     color: transparent; }
 QProgressBar::chunk { background: @accent; border-radius: 3px; }
@@ -153,6 +155,8 @@ QListView[role="pages"]::item:selected { background: @accentGround; color: @text
 QListView[role="pages"]::item:selected:focus { border-color: @accent; }
 QTableView::item { padding: 0 5px; border-bottom: 1px solid @line; }
 QTableView::item:selected { background: @accentGround; color: @text; }
+QTableView::item:focus, QListView::item:focus, QTreeView::item:focus {
+    border: 1px solid @accent; }
 QHeaderView { background: @content; border: none; }
 QHeaderView::section { background: @content; color: @quiet; border: none;
     border-bottom: 1px solid @line; padding: 3px 8px; font-weight: normal; }
@@ -191,7 +195,7 @@ QString styleSheetIn(const Colours &c) {
         {"@accentOver", mixed(c.accent, c.dark ? c.text : Qt::black, 0.12F).name()},
         {"@accentOff", mixed(c.accent, c.window, 0.5F).name()},
         {"@onAccent", c.onAccent().name()},
-        {"@disabled", mixed(c.text, c.window, 0.55F).name()},
+        {"@disabled", c.disabledText.name()},
         {"@pressed", mixed(c.window, c.text, 0.14F).name()},
         {"@content", c.content.name()},
         {"@warning", c.warning.name()},
@@ -200,7 +204,7 @@ QString styleSheetIn(const Colours &c) {
         {"@scroll", mixed(c.line, c.text, 0.18F).name()},
         {"@window", c.window.name()},
         {"@quiet", c.quietText.name()},
-        {"@edge", mixed(c.line, c.text, 0.25F).name()},
+        {"@edge", c.edge.name()},
         {"@mark", c.onAccent() == QColor(Qt::white) ? QStringLiteral("mark-white")
                                                     : QStringLiteral("mark-dark")},
         {"@dash", mixed(c.line, c.text, 0.04F).name()},

@@ -13,8 +13,6 @@
 namespace pinmora {
 namespace {
 
-constexpr double textContrast = 4.5; // WCAG 2, level AA
-
 /// Relative luminance of sRGB, by WCAG 2.
 double luminance(const QColor &colour) {
     const auto linear = [](float channel) {
@@ -61,7 +59,7 @@ QPalette paletteIn(const Colours &c) {
     palette.setColor(QPalette::ToolTipText, c.text);
     palette.setColor(QPalette::PlaceholderText, c.quietText);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, mixed(c.text, c.window, 0.55F));
+        palette.setColor(QPalette::Disabled, role, c.disabledText);
     }
     palette.setColor(QPalette::Disabled, QPalette::Highlight, c.line);
     palette.setColor(QPalette::Disabled, QPalette::HighlightedText, c.quietText);
@@ -82,17 +80,17 @@ double contrast(const QColor &a, const QColor &b) {
     return std::max(one, other) / std::min(one, other);
 }
 
-QColor readable(QColor ink, std::initializer_list<QColor> grounds) {
+QColor readable(QColor ink, std::initializer_list<QColor> grounds, double least) {
     const auto lowest = [grounds](const QColor &colour) {
-        double least = 21;
+        double found = 21;
         for (const QColor &ground : grounds) {
-            least = std::min(least, contrast(colour, ground));
+            found = std::min(found, contrast(colour, ground));
         }
-        return least;
+        return found;
     };
     const QColor end = lowest(Qt::black) > lowest(Qt::white) ? Qt::black : Qt::white;
     const QColor start = ink;
-    for (float share = 0; lowest(ink) < textContrast && share < 1; share += 0.02F) {
+    for (float share = 0; lowest(ink) < least && share < 1; share += 0.02F) {
         ink = mixed(start, end, share);
     }
     return ink;
@@ -124,6 +122,9 @@ Colours coloursFor(bool dark, const QColor &desktopAccent) {
                            {c.window, c.content, c.accentGround});
     c.warning = readable(dark ? QColor(0xf0, 0xb2, 0x5a) : QColor(0xb4, 0x53, 0x09),
                          {c.window, c.content, c.accentGround, c.warningGround});
+    c.disabledText = readable(mixed(c.text, c.window, 0.55F), {c.window, c.content, c.accentGround},
+                              shapeContrast);
+    c.edge = readable(mixed(c.line, c.text, 0.25F), {c.window, c.content}, shapeContrast);
     return c;
 }
 

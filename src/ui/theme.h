@@ -17,8 +17,10 @@ struct Colours {
     QColor window;
     QColor content;
     QColor text;
-    QColor quietText; ///< 4.5 to 1 against window and content
+    QColor quietText;    ///< 4.5 to 1 against window and content
+    QColor disabledText; ///< 3 to 1 against window, content and accent ground
     QColor line;
+    QColor edge; ///< of what is ticked; 3 to 1 against window and content
     QColor accent;
     QColor accentGround;
     QColor warning;
@@ -36,8 +38,11 @@ Colours coloursFor(bool dark, const QColor &desktopAccent = QColor());
 QColor mixed(const QColor &a, const QColor &b, float shareOfB);
 /// By the contrast ratio of WCAG 2: from 1 to 21.
 double contrast(const QColor &a, const QColor &b);
-/// The colour, moved towards black or white as far as it takes for 4.5 to 1 on all of the grounds.
-QColor readable(QColor ink, std::initializer_list<QColor> grounds);
+inline constexpr double textContrast = 4.5; ///< WCAG 2, level AA
+inline constexpr double shapeContrast = 3;  ///< the same, for what is not text; and disabled text
+/// The colour, moved towards black or white as far as it takes for that contrast on all of the
+/// grounds.
+QColor readable(QColor ink, std::initializer_list<QColor> grounds, double least = textContrast);
 
 /// Gives the application style, palette and style sheet. The accent is the desktop's where it sets
 /// one. To be called again when the desktop's look has changed (QEvent::ThemeChange).

@@ -74,7 +74,14 @@ void ThemeTest::textCanBeRead() {
             QVERIFY2(contrast(ink, ground) >= 4.5,
                      qPrintable(ink.name() + QStringLiteral(" on ") + ground.name()));
         }
+        QVERIFY(contrast(c.disabledText, ground) >= 3);
+        QVERIFY(contrast(c.edge, ground) >= 3);
     }
+    // Frames of what has the focus.
+    for (const QColor &ground : {c.line, c.accentGround, c.warningGround}) {
+        QVERIFY2(contrast(c.accent, ground) >= 3, qPrintable(ground.name()));
+    }
+    QVERIFY(contrast(c.disabledText, c.accentGround) >= 3);
     QVERIFY(contrast(c.warning, c.warningGround) >= 4.5);
     QVERIFY(contrast(c.text, c.warningGround) >= 4.5);
     QVERIFY(contrast(c.text, c.accentGround) >= 4.5);
