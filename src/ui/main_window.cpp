@@ -4,6 +4,7 @@
 #include "shell/pinmora_app_delegate.h"
 #include "shell/subsystems.h"
 #include "ui/action_table.h"
+#include "ui/area_keys.h"
 #include "ui/clock_panel.h"
 #include "ui/coordinate_panel.h"
 #include "ui/details_tab.h"
@@ -40,14 +41,19 @@ MainWindow::MainWindow(const WorkWindowParts &parts)
     auto *column = new QVBoxLayout(surface);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(new QuietBarWidget(delegate_.interface.quietBar));
+    auto *const bar = new QuietBarWidget(delegate_.interface.quietBar);
+    column->addWidget(bar);
     columns_ = new QSplitter(Qt::Horizontal);
     columns_->setChildrenCollapsible(false);
     column->addWidget(columns_, 1);
     setCentralWidget(surface);
+    areas_ = {bar};
     addLists();
     addTabs();
-    column->addWidget(new TimeStripWidget(subsystems_.timeStrip, surface));
+    strip_ = new TimeStripWidget(subsystems_.timeStrip, surface);
+    column->addWidget(strip_);
+    areas_.push_back(strip_);
+    new AreaKeys(*this, areas_);
     setStatusBar(new LibraryStatus(subsystems_.counts, subsystems_.placeNames.awaited,
                                    delegate_.interface.statusLine));
     addMenus();
@@ -114,15 +120,18 @@ void MainWindow::addLists() {
     lists_->addWidget(tracks);
     lists_->setStretchFactor(0, 1);
     columns_->addWidget(lists_);
+    areas_.insert(areas_.end(), {photos_, tracks});
 }
 
 void MainWindow::addTabs() {
     tabs_ = new QTabWidget;
+    areas_.push_back(tabs_->tabBar());
     tabs_->addTab(makePositionTab(), tr("Position"));
     auto *details = new QWidget;
     details->setLayout(new QVBoxLayout);
     details->layout()->setContentsMargins(0, 0, 0, 0);
     tabs_->addTab(details, tr("Details"));
+    areas_.push_back(details);
     auto *frame = new QWidget;
     auto *column = new QVBoxLayout(frame);
     column->setContentsMargins(spacing + spacing / 2, spacing, spacing + spacing / 2, spacing);
@@ -134,12 +143,22 @@ void MainWindow::addTabs() {
     connect(tabs_, &QTabWidget::currentChanged, this, [this, details, &shown](int index) {
         if (index == 1 && details->layout()->isEmpty()) {
             details->layout()->addWidget(makeDetailsTab());
+            putStripLast();
         }
         shown.selectedIdentifier.set(std::to_string(index + 1));
     });
     bindings_.watch(shown.selectedIdentifier, [this](const std::string &identifier) {
         tabs_->setCurrentIndex(identifier == "2" ? 1 : 0);
     });
+}
+
+/// What is made late is where Tab comes last; the strip stands below it.
+void MainWindow::putStripLast() {
+    QWidget *last = previousInFocusChain();
+    while (last->focusPolicy() == Qt::NoFocus) {
+        last = last->previousInFocusChain();
+    }
+    setTabOrder(last, strip_);
 }
 
 QWidget *MainWindow::makeDetailsTab() {
@@ -154,14 +173,17 @@ QWidget *MainWindow::makePositionTab() {
     auto *page = new QWidget;
     auto *column = new QVBoxLayout(page);
     column->setContentsMargins(spacing, spacing, spacing, spacing);
-    column->addWidget(new MapPane(delegate_.interface.webView1, parts_.makePage), 1);
+    auto *map = new MapPane(delegate_.interface.webView1, parts_.makePage);
+    column->addWidget(map, 1);
+    auto *coordinates =
+        new CoordinatePanel(subsystems_.coordinates, delegate_.interface.addRemoveMarker);
     auto *clock = new ClockPanel(subsystems_.matching, subsystems_.clockSaying, delegate_.editing,
                                  [this] { subsystems_.matcher.guessFromLatLon(); });
-    auto *panels = new FittingScrollArea(
-        {new CoordinatePanel(subsystems_.coordinates, delegate_.interface.addRemoveMarker), clock});
+    auto *panels = new FittingScrollArea({coordinates, clock});
     // Below the coordinates it has their width, and the map needs the height.
     connect(panels, &FittingScrollArea::stackingChanged, clock, &ClockPanel::setLow);
     column->addWidget(panels);
+    areas_.insert(areas_.end(), {map, coordinates, clock});
     return page;
 }
 

@@ -2,6 +2,8 @@
 
 #include "ui/work_window.h"
 
+#include <vector>
+
 class QSplitter;
 class QTabWidget;
 
@@ -24,12 +26,15 @@ private:
     void addTabs();
     QWidget *makePositionTab();
     QWidget *makeDetailsTab();
+    void putStripLast();
     void restoreLayout();
 
     PhotoPanel *photos_ = nullptr;
     QSplitter *columns_ = nullptr;
     QSplitter *lists_ = nullptr;
     QTabWidget *tabs_ = nullptr;
+    QWidget *strip_ = nullptr;
+    std::vector<QWidget *> areas_; ///< that the keyboard goes between, in the order of reading
 };
 
 } // namespace pinmora

@@ -54,6 +54,7 @@ void MapPane::addPage() {
     connect(page_, &MapPage::loadFinished, this, [this](bool ok) {
         if (ok) {
             stack_->setCurrentWidget(page_);
+            takeItsTurn();
         } else {
             say(tr("The map could not be loaded. Photos can still be placed by coordinates and by "
                    "logs."),
@@ -61,6 +62,17 @@ void MapPane::addPage() {
         }
     });
     page_->begin();
+}
+
+/// The page was made long after what stands below it: Tab would come to it last.
+void MapPane::takeItsTurn() {
+    QWidget *before = again_;
+    for (auto *const one : page_->findChildren<QWidget *>()) {
+        if ((one->focusPolicy() & Qt::TabFocus) != 0) {
+            setTabOrder(before, one);
+            before = one;
+        }
+    }
 }
 
 void MapPane::say(const QString &text, bool offersAgain) {

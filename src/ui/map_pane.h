@@ -28,6 +28,7 @@ protected:
 
 private:
     void addPage();
+    void takeItsTurn();
     void say(const QString &text, bool offersAgain = false);
 
     MapView &view_;

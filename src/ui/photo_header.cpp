@@ -64,6 +64,10 @@ PhotoHeader::PhotoHeader(PhotoOrder &order, QMenu &menu, QWidget *parent)
     ordered_ = order.order.onChange([this](const SortOrder &) { viewport()->update(); });
 }
 
+QWidget *PhotoHeader::sortButton() const {
+    return sort_;
+}
+
 void PhotoHeader::sortBySection(int logicalIndex) {
     const Section *const section = sectionAt(logicalIndex);
     if (!section) {

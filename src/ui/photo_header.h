@@ -19,6 +19,8 @@ public:
     /// The order must outlive it. The menu stays the caller's.
     PhotoHeader(PhotoOrder &order, QMenu &menu, QWidget *parent = nullptr);
 
+    QWidget *sortButton() const;
+
 protected:
     void initStyleOptionForIndex(QStyleOptionHeader *option, int section) const override;
     void paintSection(QPainter *painter, const QRect &rect, int section) const override;

@@ -59,6 +59,8 @@ PhotoPanel::PhotoPanel(PhotoPanelParts parts, QWidget *parent)
     onlyWithout_->setCheckable(true);
     connect(onlyWithout_, &QAction::toggled, filter_, &PhotoFilter::setOnlyWithoutPosition);
 
+    // In the order in which the keyboard comes by.
+    QWidget *const heading = makeHeading();
     auto *const place = new QWidget(this);
     empty_ = new EmptyPhotos(parts_.addPhotos, parts_.loadLogs, parts_.trySample, place);
     tablePage_ = makeTablePage();
@@ -70,9 +72,10 @@ PhotoPanel::PhotoPanel(PhotoPanelParts parts, QWidget *parent)
     }
 
     auto *const layout = seamless(this);
-    layout->addWidget(makeHeading());
+    layout->addWidget(heading);
     layout->addWidget(place, 1);
 
+    setTabOrder(table_->sortButton(), table_);
     selection_ = std::make_unique<PhotoSelection>(*table_, *model_, *filter_, parts_.pictureArray,
                                                   parts_.notifications);
     for (const auto change :

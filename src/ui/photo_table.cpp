@@ -25,6 +25,7 @@ PhotoTable::PhotoTable(PhotoFilter &filter, PhotoOrder &order, Thumbnails &thumb
     : QTableView(parent), open_(std::move(open)) {
     auto *const heading = new PhotoHeader(order, sortMenu, this);
     setHorizontalHeader(heading);
+    sort_ = heading->sortButton();
     setModel(&filter);
     setItemDelegate(new PhotoDelegate(thumbnails, this));
     for (const int hidden : {PhotoTableModel::Taken, PhotoTableModel::Altitude,
@@ -114,6 +115,15 @@ void PhotoTable::keyPressEvent(QKeyEvent *event) {
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
         event->modifiers() == Qt::NoModifier && currentIndex().isValid()) {
         open_();
+        event->accept();
+        return;
+    }
+    // The focus has come to a row that is not selected: it would be passed over, and a single photo
+    // could not be selected at all.
+    const bool steps = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (steps && event->modifiers() == Qt::NoModifier && currentIndex().isValid() &&
+        !selectionModel()->hasSelection()) {
+        selectRow(currentIndex().row());
         event->accept();
         return;
     }

@@ -25,6 +25,8 @@ public:
 
     /// Whether it may be too narrow for positions and gaps, which are then left out.
     void setMayBeNarrow(bool yes);
+    /// Stands in the heading.
+    QWidget *sortButton() const { return sort_; }
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -41,6 +43,7 @@ private:
     void fitColumns();
 
     std::function<void()> open_;
+    QWidget *sort_ = nullptr;
     bool mayBeNarrow_ = false;
     std::optional<QPoint> pressed_; ///< on a row, and what that becomes is open
     Connection thumbnailReady_;

@@ -7,8 +7,8 @@
 /// the tool.
 struct SaveDesk : pinmora::Folders, WindowDesk {
     explicit SaveDesk(const std::vector<std::string> &names, const std::string &tool = "exit 0",
-                      QSize size = {1280, 800})
-        : WindowDesk(size, resources) {
+                      QSize size = {1280, 800}, pinmora::MapPane::MakePage makePage = nullptr)
+        : WindowDesk(size, resources, std::move(makePage)) {
         standIn(tool);
         for (const std::string &name : names) {
             Folders::photo(name);

@@ -15,10 +15,11 @@
 /// The program with its windows, driven as a person would.
 struct WindowDesk : Desk {
     explicit WindowDesk(QSize size = {1280, 800},
-                        const std::filesystem::path &resources = PINMORA_SOURCE_DIR "/samples")
+                        const std::filesystem::path &resources = PINMORA_SOURCE_DIR "/samples",
+                        pinmora::MapPane::MakePage makePage = nullptr)
         : Desk(resources) {
         start();
-        windows = std::make_unique<pinmora::ProgramWindows>(delegate, nullptr);
+        windows = std::make_unique<pinmora::ProgramWindows>(delegate, std::move(makePage));
         quitting = delegate.terminate.connect([this] { windows->quit(); });
         turnToFront();
         window->resize(size);

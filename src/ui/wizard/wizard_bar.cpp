@@ -40,15 +40,18 @@ WizardBar::WizardBar(WizardOutlets &outlets, MatchingOutlets &matching, LibraryC
             [&box = outlets.dontShowWizardButton] { box.click(); });
     auto *const back = makeButton(tr("&Back"), Role::Plain, this);
     bindings_.tie(outlets.backButton, back);
-    auto *const next = makeButton(tr("&Next"), Role::Default, this);
-    bindings_.tie(outlets.nextButton, next);
-    setFocusProxy(next);
+    next_ = makeButton(tr("&Next"), Role::Default, this);
+    bindings_.tie(outlets.nextButton, next_);
 
     row->addWidget(dontShow);
     row->addStretch();
     row->addWidget(back);
-    row->addWidget(next);
+    row->addWidget(next_);
     addSave(*row, outlets, matching, counts);
+}
+
+void WizardBar::focusNext() {
+    next_->setFocus(Qt::OtherFocusReason);
 }
 
 /// While there is a log that has not been applied, that comes first.

@@ -5,6 +5,7 @@
 #include <QFrame>
 
 class QHBoxLayout;
+class QPushButton;
 
 namespace pinmora {
 
@@ -22,10 +23,14 @@ public:
     WizardBar(WizardOutlets &outlets, MatchingOutlets &matching, LibraryCounts &counts,
               QWidget *parent = nullptr);
 
+    /// Not as its focus proxy: Tab would pass over what stands before it.
+    void focusNext();
+
 private:
     void addSave(QHBoxLayout &row, WizardOutlets &outlets, MatchingOutlets &matching,
                  LibraryCounts &counts);
 
+    QPushButton *next_ = nullptr;
     Bindings bindings_; ///< goes before what it writes to
 };
 

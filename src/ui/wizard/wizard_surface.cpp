@@ -36,6 +36,7 @@ WizardSurface::WizardSurface(const WorkWindowParts &parts, QWidget *parent)
     addPhotos(parts);
     addMap(parts);
     addDetails(parts);
+    areas_.push_back(details_);
 }
 
 void WizardSurface::addPhotos(const WorkWindowParts &parts) {
@@ -53,6 +54,7 @@ void WizardSurface::addPhotos(const WorkWindowParts &parts) {
                               .fullSize = [&subsystems] { subsystems.inspector.imageFullView(); },
                               .mayBeNarrow = true});
     photos_->addAction(parts.actions[ActionName::RemovePictures]);
+    areas_.push_back(photos_);
     QFrame *const frame = inFrame(photos_, this);
     row_->addWidget(frame);
     bindings_.watch(delegate.interface.webView2.visible, [frame](bool isBesideMap) {
@@ -64,6 +66,7 @@ void WizardSurface::addMap(const WorkWindowParts &parts) {
     MapView &view = parts.delegate.interface.webView2;
     auto *const map = new MapPane(view, parts.makePage);
     map->setMinimumHeight(leastMapHeight);
+    areas_.push_back(map);
     QFrame *const frame = inFrame(map, this);
     row_->addWidget(frame, 1);
     bindings_.watch(view.visible, [frame](bool visible) { frame->setVisible(visible); });

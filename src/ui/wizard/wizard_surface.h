@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class QHBoxLayout;
 
 namespace pinmora {
@@ -21,6 +23,8 @@ public:
 
     PhotoPanel *photos() const { return photos_; }
     DetailsColumn &details() { return *details_; }
+    /// List, map and details, as far as the keyboard goes between them.
+    const std::vector<QWidget *> &areas() const { return areas_; }
 
 private:
     void addPhotos(const WorkWindowParts &parts);
@@ -30,6 +34,7 @@ private:
     QHBoxLayout *row_;
     PhotoPanel *photos_ = nullptr;
     DetailsColumn *details_ = nullptr;
+    std::vector<QWidget *> areas_;
     Bindings bindings_; ///< goes before what it writes to
 };
 

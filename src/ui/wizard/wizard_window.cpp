@@ -3,6 +3,7 @@
 #include "shell/pinmora_app_delegate.h"
 #include "shell/subsystems.h"
 #include "ui/action_table.h"
+#include "ui/area_keys.h"
 #include "ui/drop_highlight.h"
 #include "ui/library_status.h"
 #include "ui/photo_panel.h"
@@ -26,6 +27,9 @@
 #include <QMenuBar>
 #include <QVBoxLayout>
 
+#include <utility>
+#include <vector>
+
 namespace pinmora {
 
 WizardWindow::WizardWindow(const WorkWindowParts &parts)
@@ -36,10 +40,12 @@ WizardWindow::WizardWindow(const WorkWindowParts &parts)
     auto *const column = new QVBoxLayout(surface);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(new QuietBarWidget(delegate_.interface.quietBar));
+    auto *const quiet = new QuietBarWidget(delegate_.interface.quietBar);
+    column->addWidget(quiet);
     auto *const row = new QHBoxLayout;
     row->setSpacing(0);
-    row->addWidget(new StepList(subsystems_.wizardOutlets, subsystems_.wizard));
+    auto *const steps = new StepList(subsystems_.wizardOutlets, subsystems_.wizard);
+    row->addWidget(steps);
     row->addWidget(makeContent(), 1);
     column->addLayout(row, 1);
     bar_ = new WizardBar(subsystems_.wizardOutlets, subsystems_.matching, subsystems_.counts);
@@ -50,6 +56,7 @@ WizardWindow::WizardWindow(const WorkWindowParts &parts)
     setStatusBar(new LibraryStatus(subsystems_.counts, subsystems_.placeNames.awaited,
                                    delegate_.interface.statusLine));
     addMenus();
+    addAreas(quiet, steps);
     restoreGeometryOr({1080, 680});
     bindings_.watch(subsystems_.wizardOutlets.wizardTabs.selectedIdentifier,
                     [this](const std::string &) { showPage(); });
@@ -62,6 +69,23 @@ void WizardWindow::addMenus() {
         return name != ActionName::ShowPosition && name != ActionName::ShowDetails &&
                name != ActionName::OnlyWithoutPosition;
     });
+}
+
+void WizardWindow::addAreas(QWidget *quietBar, QWidget *steps) {
+    std::vector<QWidget *> areas{quietBar, steps};
+    for (const Page &one : pages_) {
+        if (one.tool) {
+            areas.push_back(one.tool);
+        }
+    }
+    for (const Page &one : pages_) {
+        if (one.body != surface_) {
+            areas.push_back(one.body);
+        }
+    }
+    areas.insert(areas.end(), surface_->areas().begin(), surface_->areas().end());
+    areas.insert(areas.end(), {strip_, bar_});
+    new AreaKeys(*this, std::move(areas));
 }
 
 QWidget *WizardWindow::makeContent() {
@@ -82,8 +106,8 @@ QWidget *WizardWindow::makeContent() {
     row->addWidget(words_, 1);
     row->addStretch();
     column->addLayout(row);
-    surface_ = new WizardSurface(parts_, content);
     addTools(*column);
+    surface_ = new WizardSurface(parts_, content); // comes after them for the keyboard, too
     addBodies(*column);
     addDetailTools();
     new DropHighlight(subsystems_.photoIntake.theBorder2, tr("Drop to add photos and logs"),
@@ -143,7 +167,7 @@ void WizardWindow::showPage() {
     } else if (now == WizardPage::OffsetSelect) {
         shown.body->setFocus();
     } else {
-        bar_->setFocus();
+        bar_->focusNext();
     }
 }
 

@@ -31,6 +31,7 @@ private:
     };
 
     void addMenus();
+    void addAreas(QWidget *quietBar, QWidget *steps);
     QWidget *makeContent();
     void addBodies(QVBoxLayout &column);
     void addTools(QVBoxLayout &column);
