@@ -144,12 +144,6 @@ mapPage.pointer = (() => {
         describe(label, draft);
     }
 
-    /** The arrow keys are its own once the page has the keyboard. */
-    function putDraft(lat, lon) {
-        put(lat, lon, "", true);
-        marker.getElement().focus({preventScroll: true});
-    }
-
     /** Ends a drag in its midst; whether there was one. */
     function takeDragBack() {
         if (!draggedFrom) {
@@ -160,6 +154,15 @@ mapPage.pointer = (() => {
     }
 
     const labelOf = (label) => (typeof label === "string" ? label.slice(0, longestLabel) : "");
+
+    // Whoever comes to the page by keyboard while a draft waits comes to the draft. The page does not
+    // take the keyboard by itself; and what Tab leads to is known only after this.
+    addEventListener("focus", () => setTimeout(() => {
+        if (isDraft) {
+            marker.getElement().classList.add("keyed");
+            marker.getElement().focus({preventScroll: true});
+        }
+    }));
 
     view.map.on("moveend", () => {
         if (marker && !draggedFrom) {
@@ -226,14 +229,14 @@ mapPage.pointer = (() => {
             const known = positions.isPosition(lat, lon) && !(lat === 0 && lon === 0 && level === 1);
             if (known && (isSeen(lat, lon) || !mapPage.tracks.areIn(view.seen()))) {
                 view.byProgram(() => view.setView(lat, lon, view.levelFor(level)));
-                putDraft(lat, lon);
+                put(lat, lon, "", true);
                 return;
             }
             if (!known && !mapPage.tracks.box() && !mapPage.photos.box()) {
                 view.showWorld();
             }
             const {lat: middle, lng} = view.map.getCenter();
-            putDraft(middle, lng);
+            put(middle, lng, "", true);
         },
     };
 })();

@@ -146,6 +146,10 @@ void MapPagePlacingTest::aDraftIsPlacedOnce() {
         desk.holdPin(middle + onPin, there - middle);
         desk.release();
     } else {
+        desk.view().clearFocus(); // and whoever comes back
+        desk.view().setFocus(Qt::TabFocusReason);
+        QVERIFY(desk.becomes(
+            QStringLiteral("document.activeElement === document.querySelector('.pin.draft')")));
         if (how == QLatin1String("keys")) {
             desk.key(Qt::Key_Down);
             desk.key(Qt::Key_Escape);
