@@ -6,13 +6,17 @@ namespace pinmora {
 
 IconLabel::IconLabel(const QIcon &picture, int side, QWidget *parent)
     : QWidget(parent), icon_(picture), side_(side) {
-    setMinimumWidth(side);
-    setFixedHeight(side);
+    setMinimumSize(side, side / 2);
+    setMaximumHeight(side);
+}
+
+QSize IconLabel::sizeHint() const {
+    return {side_, side_};
 }
 
 void IconLabel::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    icon_.paint(&painter, QRect((width() - side_) / 2, 0, side_, side_));
+    icon_.paint(&painter, rect());
 }
 
 } // namespace pinmora

@@ -9,8 +9,10 @@ namespace pinmora {
 /// not: assistive technology hears no label.
 class IconLabel : public QWidget {
 public:
-    /// `side` is in device-independent pixels.
+    /// `side` is in device-independent pixels; it gives way where there is little height.
     IconLabel(const QIcon &picture, int side, QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
