@@ -17,6 +17,8 @@
 #include <QStackedLayout>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace pinmora {
 
 namespace {
@@ -50,7 +52,9 @@ ClockPanel::ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, Editing &e
     halves_->setContentsMargins(0, 0, 0, 0);
     halves_->addLayout(clock);
     halves_->addLayout(photo, 1);
-    setLow(false);
+    clock_ = clock;
+    photo_ = photo;
+    arrange();
 
     // A selection may change in the middle of a change of the library.
     bindings_.keep(outlets.pictureArray.selectionChanged.connect([this] { endOfTurn_.ask(); }));
@@ -59,8 +63,26 @@ ClockPanel::ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, Editing &e
 }
 
 void ClockPanel::setLow(bool low) {
-    halves_->setDirection(low ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    halves_->setSpacing(low ? 4 * spacing : smallGap);
+    isLow_ = low;
+    arrange();
+}
+
+QSize ClockPanel::minimumSizeHint() const {
+    return {std::max(clock_->minimumSize().width(), photo_->minimumSize().width()),
+            QWidget::minimumSizeHint().height()};
+}
+
+void ClockPanel::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    arrange();
+}
+
+void ClockPanel::arrange() {
+    constexpr int between = 4 * spacing;
+    const bool isBeside = isLow_ && width() >= clock_->minimumSize().width() + between +
+                                                   photo_->minimumSize().width();
+    halves_->setDirection(isBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    halves_->setSpacing(isBeside ? between : smallGap);
 }
 
 /// A camera's name may be long.

@@ -33,10 +33,16 @@ public:
     ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, Editing &editing,
                const std::function<void()> &find, QWidget *parent = nullptr);
 
-    /// Half as high and twice as wide.
+    /// Half as high and twice as wide, where it has that width.
     void setLow(bool low);
+    /// As narrow as it is when it is not low.
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void arrange();
     QLabel *elided(TextField &field, Role role);
     void addClock(QVBoxLayout &column, ClockSaying &saying, Editing &editing);
     void addTimes(QVBoxLayout &column);
@@ -45,7 +51,10 @@ private:
     void showTimes();
 
     MatchingOutlets &outlets_;
-    QBoxLayout *halves_ = nullptr; ///< the clock, and what it makes of a photo
+    QLayout *clock_;
+    QLayout *photo_; ///< what the clock makes of a photo
+    QBoxLayout *halves_ = nullptr;
+    bool isLow_ = false;
     QLabel *chooseFirst_;
     QWidget *times_;
     QStackedLayout *instead_; ///< one of these two
