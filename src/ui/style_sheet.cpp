@@ -75,8 +75,8 @@ QPushButton:disabled { color: @disabled; background: @window; }
 QPushButton:default, QPushButton[role="default"] { background: @accent; color: @onAccent;
     border-color: @accent; }
 QPushButton:default:hover, QPushButton[role="default"]:hover { background: @accentOver; }
-QPushButton:default:focus, QPushButton[role="default"]:focus { border-color: @text;
-    outline: 1px solid @onAccent; outline-offset: 4px; }
+QPushButton:default:focus, QPushButton[role="default"]:focus {
+    border: 3px double @onAccent; padding: 3px 10px; }
 QPushButton:default:disabled, QPushButton[role="default"]:disabled { background: @accentGround;
     border-color: @line; color: @disabled; }
 QPushButton[role="link"], QPushButton[role="removal"], QPushButton[role="flat"] {
