@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QWidget>
 
@@ -32,6 +33,15 @@ QWidget *entranceOf(QWidget &area) {
     return nullptr;
 }
 
+/// What is scrolled follows Tab by itself, and no other way to the focus.
+void bringIntoSight(QWidget &control) {
+    for (QWidget *around = control.parentWidget(); around; around = around->parentWidget()) {
+        if (auto *const area = qobject_cast<QScrollArea *>(around)) {
+            area->ensureWidgetVisible(&control);
+        }
+    }
+}
+
 } // namespace
 
 AreaKeys::AreaKeys(QWidget &window, std::vector<QWidget *> areas)
@@ -57,6 +67,7 @@ void AreaKeys::go(int step) {
         at = (at + step + count) % count;
         if (QWidget *const entrance = entranceOf(*areas_.at(static_cast<std::size_t>(at)))) {
             entrance->setFocus(Qt::TabFocusReason);
+            bringIntoSight(*entrance);
             return;
         }
     }
