@@ -229,6 +229,7 @@ private Q_SLOTS:
         row("full size", trigger<FullSize>, 0);
         row("log", trigger<ShowLog>, 2);
         row("manual", trigger<ActionName::Manual>, 4);
+        row("preferences", trigger<ShowPreferences>, 8);
         row("version", trigger<CheckVersion>, 3);
         row(
             "about",

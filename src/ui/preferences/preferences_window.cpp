@@ -63,8 +63,12 @@ void PreferencesWindow::addPage(PreferencePage *page) {
 QLayout *PreferencesWindow::makeFoot() {
     unfit_->setWordWrap(true);
     setRole(unfit_, Role::Problem);
+    QSizePolicy policy = unfit_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // the button stays where it is
+    unfit_->setSizePolicy(policy);
+    unfit_->hide();
     for (AddressPreference *const address : preferences_.addresses()) {
-        bindings_.watch(address->field.problem, [this](const std::string &) { unfit_->clear(); });
+        bindings_.watch(address->field.problem, [this](const std::string &) { unfit_->hide(); });
     }
     auto *const close = new QPushButton(tr("Close"));
     connect(close, &QPushButton::clicked, this, [this] { closeAsked(); });
@@ -92,6 +96,7 @@ void PreferencesWindow::turnToUnfit() {
         (*page)->turnToUnfit();
         unfit_->setText(tr("This is not stored yet. Correct it, or press Escape in the field to "
                            "keep what was set before."));
+        unfit_->show();
     }
 }
 
