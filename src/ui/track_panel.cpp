@@ -81,7 +81,6 @@ TrackPanel::TrackPanel(Context &context, ArrayController<track> &tracks,
     none_->setMargin(12);
     inside->addWidget(none_);
     inside->addWidget(table_);
-    setFocusProxy(table_);
 
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -90,6 +89,10 @@ TrackPanel::TrackPanel(Context &context, ArrayController<track> &tracks,
     layout->addWidget(ground, 1);
     connect(model_, &QAbstractItemModel::modelReset, this, [this] { showCounts(); });
     showCounts();
+}
+
+void TrackPanel::focusTable() {
+    table_->setFocus(Qt::OtherFocusReason);
 }
 
 void TrackPanel::showCounts() {

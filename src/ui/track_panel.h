@@ -25,6 +25,9 @@ public:
     TrackPanel(Context &context, ArrayController<track> &tracks, std::function<void()> removeAll,
                QWidget *parent = nullptr);
 
+    /// Not as its focus proxy: Tab would pass over the button above the table.
+    void focusTable();
+
 private:
     void showCounts();
 

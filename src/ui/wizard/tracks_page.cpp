@@ -37,8 +37,7 @@ TracksPage::TracksPage(Pinmora_AppDelegate &delegate, QWidget *parent) : QWidget
         tracks->setVisible(now.tracks > 0);
         if (isFirst) {
             // Or the focus would go on to the button that removes them. The table is shown next.
-            QMetaObject::invokeMethod(tracks, qOverload<>(&QWidget::setFocus),
-                                      Qt::QueuedConnection);
+            QMetaObject::invokeMethod(tracks, &TrackPanel::focusTable, Qt::QueuedConnection);
         }
     });
 }
