@@ -2541,6 +2541,22 @@
         <source>ExifTool could not be started: %1</source>
         <translation>ExifTool konnte nicht gestartet werden: %1</translation>
     </message>
+    <message numerus="yes">
+        <source>The copies got no position.</source>
+        <comment>The copy got no position.</comment>
+        <translation>
+            <numerusform>Die Kopie hat keine Position erhalten.</numerusform>
+            <numerusform>Die Kopien haben keine Position erhalten.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the copies got no position.</source>
+        <comment>%n of the copies got no position.</comment>
+        <translation>
+            <numerusform>%n der Kopien hat keine Position erhalten.</numerusform>
+            <numerusform>%n der Kopien haben keine Position erhalten.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>services</name>

@@ -43,10 +43,6 @@ std::string_view withoutOuterBlanks(std::string_view text) {
                : text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-bool hasPosition(const PhotoSnapshot &photo) {
-    return !photo.lat.empty() && !photo.lon.empty();
-}
-
 bool isSouthOrWest(const PhotoSnapshot &photo) {
     return hasPosition(photo) && (photo.latRef == "S" || photo.lonRef == "W");
 }

@@ -25,4 +25,8 @@ PhotoSnapshot snapshotOf(const image &photo) {
     };
 }
 
+bool hasPosition(const PhotoSnapshot &photo) {
+    return !photo.lat.empty() && !photo.lon.empty();
+}
+
 } // namespace pinmora

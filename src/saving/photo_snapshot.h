@@ -30,4 +30,6 @@ struct PhotoSnapshot {
 
 PhotoSnapshot snapshotOf(const image &photo);
 
+bool hasPosition(const PhotoSnapshot &photo);
+
 } // namespace pinmora

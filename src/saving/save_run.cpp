@@ -56,6 +56,7 @@ SavedPhoto tag(const MetadataTool &tool, std::size_t index, const PhotoSnapshot 
     const ToolResult result =
         tool.write(metadataArguments(photo, layoutOf(photo), copy.path), copy.times);
     SavedPhoto saved{index, copy.path, Status::Saved, result.words};
+    saved.hasPosition = pinmora::hasPosition(photo);
     using End = ToolResult::End;
     if (result.end == End::NotWritten || result.end == End::Doubtful) {
         saved.status = Status::Failed;

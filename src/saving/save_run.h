@@ -25,7 +25,8 @@ struct SavedPhoto {
     std::size_t index = 0;                        ///< among the photos of the run
     std::optional<std::filesystem::path> savedAs; ///< the copy, if there is one
     Status status = Status::Failed;
-    std::string message; ///< why it failed, or a remark of the tool's; else ""
+    std::string message;     ///< why it failed, or a remark of the tool's; else ""
+    bool hasPosition = true; ///< one that was written; what the file had of its own does not count
 };
 
 struct SaveOutcome {

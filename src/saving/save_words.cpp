@@ -39,6 +39,7 @@ SaveSum sumOf(const SaveOutcome &outcome) {
         switch (photo.status) {
         case Status::Saved:
             ++sum.saved;
+            sum.unplaced += photo.hasPosition ? 0 : 1;
             break;
         case Status::Failed:
             ++sum.failed;
@@ -64,6 +65,13 @@ std::string sumText(const SaveSum &sum, const std::filesystem::path &folder) {
     if (sum.skipped > 0) {
         add(translated("saving", "%n were left out: their files are missing.",
                        "%n was left out: its file is missing.", sum.skipped));
+    }
+    if (sum.unplaced > 0) {
+        add(sum.unplaced == sum.saved
+                ? translated("saving", "The copies got no position.", "The copy got no position.",
+                             sum.unplaced)
+                : translated("saving", "%n of the copies got no position.",
+                             "%n of the copies got no position.", sum.unplaced));
     }
     if (!sum.notOnDisk.empty()) {
         add(filled(translated("saving", "The copies may not all be on the disk: %1."),

@@ -17,6 +17,7 @@ inline constexpr const char *saveSubject = "save";
 struct SaveSum {
     std::size_t photos = 0;
     std::size_t saved = 0;
+    std::size_t unplaced = 0; ///< of those saved: the copies have no position
     std::size_t failed = 0;
     std::size_t skipped = 0;
     std::size_t stopped = 0;

@@ -11,7 +11,8 @@ class WordsTest : public QObject {
 
 private Q_SLOTS:
     void sumsUp_data() {
-        QTest::addColumn<QByteArray>("photos"); // a letter each: saved, failed, missing, not begun
+        QTest::addColumn<QByteArray>(
+            "photos"); // a letter each: saved, bare, failed, missing, not begun
         QTest::addColumn<QByteArray>("notOnDisk");
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<bool>("isWhole");
@@ -23,6 +24,8 @@ private Q_SLOTS:
         row("", "No photos were saved: there are none.", true);
         row("s", "1 photo saved in Zermatt.", true);
         row("sss", "3 photos saved in Zermatt.", true);
+        row("sbb", "3 photos saved in Zermatt. 2 of the copies got no position.", true);
+        row("b", "1 photo saved in Zermatt. The copy got no position.", true);
         row("sfs", "2 of 3 saved. 1 could not be written.", false);
         row("ff", "0 of 2 saved. 2 could not be written.", false);
         row("sm", "1 of 2 saved. 1 was left out: its file is missing.", true);
@@ -43,10 +46,12 @@ private Q_SLOTS:
         SaveOutcome outcome;
         outcome.notOnDisk = notOnDisk.toStdString();
         for (const char letter : photos) {
-            outcome.photos.emplace_back().status = letter == 's'   ? Status::Saved
-                                                   : letter == 'f' ? Status::Failed
-                                                   : letter == 'm' ? Status::Skipped
-                                                                   : Status::Stopped;
+            SavedPhoto &photo = outcome.photos.emplace_back();
+            photo.status = letter == 's' || letter == 'b' ? Status::Saved
+                           : letter == 'f'                ? Status::Failed
+                           : letter == 'm'                ? Status::Skipped
+                                                          : Status::Stopped;
+            photo.hasPosition = letter != 'b';
         }
         const SaveSum sum = sumOf(outcome);
         QTEST(QByteArray::fromStdString(sumText(sum, "/home/a/Zermatt")), "text");

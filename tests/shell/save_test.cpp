@@ -78,10 +78,13 @@ void SaveTest::runsEnd_data() {
         QTest::newRow(name) << text(tool) << loses << text(bar) << text(choices) << text(reason)
                             << offered;
     };
-    row("well", tags, false, "3 photos saved in copies.", "Open Folder", "", false);
-    row("tool fails", failsAtSecond, false, "2 of 3 saved. 1 could not be written.",
-        "Show|Open Folder", "Copied, but not tagged: Bad IFD", true);
-    row("original is gone", tags, true, "2 of 3 saved. 1 was left out: its file is missing.",
+    row("well", tags, false, "3 photos saved in copies. The copies got no position.", "Open Folder",
+        "", false);
+    row("tool fails", failsAtSecond, false,
+        "2 of 3 saved. 1 could not be written. The copies got no position.", "Show|Open Folder",
+        "Copied, but not tagged: Bad IFD", true);
+    row("original is gone", tags, true,
+        "2 of 3 saved. 1 was left out: its file is missing. The copies got no position.",
         "Open Folder", "", false);
 }
 
