@@ -62,17 +62,19 @@ std::vector<Date> captureTimes(const std::vector<image *> &photos, const offset 
     return times;
 }
 
-/// Whether the exact reading, which the library holds, places no photo where the tolerant one
-/// would.
-bool tolerantFitsBetter(const MemoryLibrary &library, const LogList &logs,
-                        const std::vector<Date> &photoTimes, const Surroundings &surroundings) {
+/// Compares the exact reading, which the library holds, with the tolerant one. The logs are read a
+/// second time only where that could place more photos.
+ReadingComparison compareWithTolerant(const MemoryLibrary &library, const LogList &logs,
+                                      const std::vector<Date> &photoTimes,
+                                      const Surroundings &surroundings) {
     const std::vector<Date> exact = pointTimes(library.context);
-    if (compareReadings(photoTimes, exact, {}).exact > 0) {
-        return false; // no need to read the logs a second time
+    const ReadingComparison alone = compareReadings(photoTimes, exact, {});
+    if (alone.exact == photoTimes.size()) {
+        return alone;
     }
     MemoryLibrary trial;
     logs.load(trial.gps, LogReading::Tolerant, surroundings);
-    return compareReadings(photoTimes, exact, pointTimes(trial.context)).onlyTolerantPlacesPhotos();
+    return compareReadings(photoTimes, exact, pointTimes(trial.context));
 }
 
 void removeTracks(Context &context) {
@@ -89,12 +91,22 @@ LogList::Outcome loadLogs(MemoryLibrary &library, const LogList &logs,
         (options.reading == LogsChoice::Auto && surroundings.logReading == LogReading::Tolerant);
     const LogReading inForce = tolerant ? LogReading::Tolerant : LogReading::Exact;
     LogList::Outcome outcome = logs.load(library.gps, inForce, surroundings);
-    if (options.reading == LogsChoice::Auto && !tolerant &&
-        tolerantFitsBetter(library, logs, photoTimes, surroundings)) {
+    if (options.reading != LogsChoice::Auto || tolerant) {
+        return outcome;
+    }
+    const ReadingComparison fit = compareWithTolerant(library, logs, photoTimes, surroundings);
+    if (fit.onlyTolerantPlacesPhotos()) {
         removeTracks(library.context);
         outcome = logs.load(library.gps, LogReading::Tolerant, surroundings);
         surroundings.tell(translated("tag", "the logs are read as tolerant: as exact, they place "
                                             "no photo within 5 minutes of a point"));
+    } else if (fit.tolerantPlacesMore()) {
+        //: "exact", "tolerant" and "--logs tolerant" stay as they are
+        surroundings.tell(filled(
+            translated("tag", "the logs are read as exact, which places %1 of %2 photos within 5 "
+                              "minutes of a point; --logs tolerant would place %3"),
+            {std::to_string(fit.exact), std::to_string(photoTimes.size()),
+             std::to_string(fit.tolerant)}));
     }
     return outcome;
 }

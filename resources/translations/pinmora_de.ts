@@ -3659,6 +3659,11 @@ oder etwas Genanntes war nicht zu lesen; 2 falscher Aufruf.</translation>
         <source>not copied</source>
         <translation>nicht kopiert</translation>
     </message>
+    <message>
+        <source>the logs are read as exact, which places %1 of %2 photos within 5 minutes of a point; --logs tolerant would place %3</source>
+        <extracomment>&quot;exact&quot;, &quot;tolerant&quot; and &quot;--logs tolerant&quot; stay as they are</extracomment>
+        <translation>die Logs werden als „exact“ gelesen, was %1 von %2 Fotos näher als 5 Minuten an einen Punkt bringt; --logs tolerant brächte %3 so nahe</translation>
+    </message>
 </context>
 <context>
     <name>ui</name>

@@ -23,6 +23,9 @@ struct ReadingComparison {
     /// reading the logs anew. Where both find something the exact reading stays in force, because
     /// the two may understand the same text as different instants.
     bool onlyTolerantPlacesPhotos() const { return exact == 0 && tolerant > 0; }
+    /// Whether the tolerant reading places more photos. That does not settle it, as a photo may lie
+    /// near a point by accident, but it is worth telling.
+    bool tolerantPlacesMore() const { return tolerant > exact; }
 };
 
 /// Compares two readings of the same logs. `photos` are capture times with the camera's offset

@@ -195,6 +195,25 @@ private Q_SLOTS:
         QVERIFY(both.photo(photo)[u"lat"].toString() != u"47.17"_s);
     }
 
+    /// A photo near the wrong point by accident keeps the exact reading, but not without a word.
+    void saysWhereTolerantWouldPlaceMore() {
+        QByteArray points = "<?xml version=\"1.0\"?>" + tolerantGpx;
+        points.replace("</trkseg>", "<trkpt lat=\"47.2\" lon=\"8.6\"><time>2025-06-14T17:37:00Z"
+                                    "</time></trkpt></trkseg>");
+        const QStringList tagged{write(u"phone.gpx"_s, points), outing + u"/IMG_0412.JPG"_s,
+                                 outing + u"/IMG_0416.JPG"_s, u"--dry-run"_s};
+        const Run automatic = run(tagged);
+        QVERIFY2(automatic.errors.contains(
+                     u"places 1 of 2 photos within 5 minutes of a point; --logs tolerant would "
+                     "place 2"_s),
+                 qPrintable(automatic.errors));
+        QCOMPARE(automatic.exit, 0);
+        QCOMPARE(automatic.photo(u"0412.JPG"_s)[u"lat"].toString(), u"47.2"_s);
+        const Run tolerant = run(QStringList{u"--logs=tolerant"_s} + tagged);
+        QCOMPARE(tolerant.photo(u"0412.JPG"_s)[u"lat"].toString(), u"47.17"_s);
+        QVERIFY(!tolerant.errors.contains(u"--logs"_s));
+    }
+
     void renamesInOrderOfTime() {
         QStringList arguments{u"--name"_s, u"trip"_s};
         for (const QString &number : {u"0418"_s, u"0412"_s, u"0416"_s}) {
