@@ -3320,6 +3320,15 @@
         <source>A name that ends in a slash is needed, without blanks, or nothing.</source>
         <translation>Nötig ist ein Name, der mit einem Schrägstrich endet, ohne Leerzeichen, oder nichts.</translation>
     </message>
+    <message>
+        <source>about %1</source>
+        <extracomment>%1: a span of time, or an offset of the camera&apos;s clock; within a sentence</extracomment>
+        <translation>etwa %1</translation>
+    </message>
+    <message>
+        <source>To make it exact, put one photo where it belongs, or use “Photo Was Taken At…”.</source>
+        <translation>Genauer: ein Foto an seinen Ort setzen, oder „Foto wurde aufgenommen um…“.</translation>
+    </message>
 </context>
 <context>
     <name>store</name>

@@ -34,6 +34,7 @@ std::size_t share(std::size_t photos, std::size_t percent) {
 struct Candidate {
     seconds offset{0};
     std::size_t onTrack = 0;
+    bool isApproximate = false;
 };
 
 /// The best of the multiples of a step, the nearest to none among equals, and the best of the
@@ -215,7 +216,8 @@ std::optional<Candidate> Judge::anyOffset(std::size_t zoneOnTrack) const {
         return std::nullopt;
     }
     const microseconds middle = any_.begin + (any_.end - any_.begin) / 2;
-    const Candidate one = candidate(std::chrono::round<minutes>(middle));
+    Candidate one = candidate(std::chrono::round<minutes>(middle));
+    one.isApproximate = true;
     const bool isClear =
         one.onTrack >= share(counts_.photos(), 80) && one.onTrack >= zoneOnTrack + margin();
     return isClear ? std::optional(one) : std::nullopt;
@@ -249,7 +251,11 @@ std::optional<OffsetProposal> proposeOffset(OffsetEvidence evidence) {
     }
     const Judge judge(std::move(evidence));
     const auto best = judge.verdict();
-    return best ? std::optional(OffsetProposal{best->offset, best->onTrack, photos}) : std::nullopt;
+    return best ? std::optional(OffsetProposal{.offset = best->offset,
+                                               .onTrack = best->onTrack,
+                                               .photos = photos,
+                                               .isApproximate = best->isApproximate})
+                : std::nullopt;
 }
 
 } // namespace pinmora

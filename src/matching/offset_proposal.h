@@ -31,6 +31,7 @@ struct OffsetProposal {
     std::chrono::seconds offset{0}; ///< the whole of it, not a difference to the one in force
     std::size_t onTrack = 0;
     std::size_t photos = 0;
+    bool isApproximate = false; ///< it may be wrong by some minutes
 
     friend bool operator==(const OffsetProposal &, const OffsetProposal &) = default;
 };
@@ -44,7 +45,7 @@ struct OffsetProposal {
 /// clearly, and half and quarter hours must fit the log closely; where a long log leaves several as
 /// good, the zone that the photos' own tags tell decides, if it is among these. Else any offset is
 /// looked at, also one of years; it must beat all hours clearly, and its photos must fit the log so
-/// closely that it is known to some minutes.
+/// closely that it is known to some minutes. Such an offset is an approximate one.
 ///
 /// Photos that have been placed overrule that: an offset under which most of them were where the
 /// track passed at that moment is proposed, to the second, if it puts more than half of the photos

@@ -105,8 +105,25 @@ std::string textOf(const ProposedOffset &proposed) {
             //: %3: the name of a camera
             : translated("shell", "With %1, %n of %2 photos of %3 lie on the track.",
                          "With %1, %n of %2 photos of %3 lie on the track.", proposal.onTrack);
-    return filled(text, {shortOffset(proposal.offset), std::to_string(proposal.photos),
-                         cameraName(proposed.camera)});
+    const std::string words = shortOffset(proposal.offset);
+    return filled(text, {proposal.isApproximate ? aboutWords(words) : words,
+                         std::to_string(proposal.photos), cameraName(proposed.camera)});
+}
+
+/// What is said when the proposal has been taken: what has been set, and what comes next.
+std::string takenHeadOf(const ProposedOffset &taken) {
+    const OffsetProposal &set = taken.proposal;
+    return offsetSentenceOf(taken.camera, set.offset, set.isApproximate) +
+           (taken.camera.empty() ? "" : ".");
+}
+
+std::string takenTextOf(const ProposedOffset &taken) {
+    return taken.proposal.isApproximate
+               //: In quotes: an entry of a menu.
+               ? translated("shell", "To make it exact, put one photo where it belongs, or use "
+                                     "“Photo Was Taken At…”.")
+               : translated("shell", "That is corrected now. Applying the log gives the photos "
+                                     "their positions.");
 }
 
 } // namespace
@@ -198,17 +215,12 @@ void ClockProposal::take(const ProposedOffset &proposed) {
         }
         parts_.clockOffset.setClock(proposed.camera, proposed.proposal.offset);
     }
-    const std::chrono::seconds offset = proposed.proposal.offset;
-    parts_.quietBar.post(
-        {.subject = takenSubject,
-         .head = proposed.camera.empty() ? offsetSentence(offset)
-                                         : offsetSentenceOf(proposed.camera, offset) + ".",
-         .text =
-             translated("shell", "That is corrected now. Applying the log gives the photos their "
-                                 "positions."),
-         .choices = {{translated("shell", "Apply to All"),
-                      [this] { parts_.matcher.applyToAllPictures(); }}},
-         .weight = BarWeight::Answer});
+    parts_.quietBar.post({.subject = takenSubject,
+                          .head = takenHeadOf(proposed),
+                          .text = takenTextOf(proposed),
+                          .choices = {{translated("shell", "Apply to All"),
+                                       [this] { parts_.matcher.applyToAllPictures(); }}},
+                          .weight = BarWeight::Answer});
 }
 
 } // namespace pinmora

@@ -93,6 +93,11 @@ CameraParts partsOf(std::string_view camera) {
     return parts;
 }
 
+std::string sizeWords(seconds offset, bool isApproximate) {
+    const std::string words = durationWords(offset);
+    return isApproximate ? aboutWords(words) : words;
+}
+
 } // namespace
 
 std::string durationWords(seconds duration) {
@@ -105,18 +110,23 @@ std::string durationWords(seconds duration) {
     return words.empty() ? noTime() : words;
 }
 
-std::string offsetSentence(seconds offset) {
+std::string aboutWords(std::string_view span) {
+    //: %1: a span of time, or an offset of the camera's clock; within a sentence
+    return filled(translated("shell", "about %1"), {span});
+}
+
+std::string offsetSentence(seconds offset, bool isApproximate) {
     if (offset.count() == 0) {
         return translated("shell", "The camera’s clock was right.");
     }
     return filled(offset.count() > 0 ? translated("shell", "The camera was %1 slow.")
                                      : translated("shell", "The camera was %1 fast."),
-                  {durationWords(offset)});
+                  {sizeWords(offset, isApproximate)});
 }
 
-std::string offsetSentenceOf(std::string_view camera, seconds offset) {
+std::string offsetSentenceOf(std::string_view camera, seconds offset, bool isApproximate) {
     if (camera.empty()) {
-        return offsetSentence(offset);
+        return offsetSentence(offset, isApproximate);
     }
     if (offset.count() == 0) {
         return filled(translated("shell", "%1: its clock was right"), {cameraName(camera)});
@@ -124,7 +134,7 @@ std::string offsetSentenceOf(std::string_view camera, seconds offset) {
     //: %1: the name of a camera, %2: a span of time; no full stop
     return filled(offset.count() > 0 ? translated("shell", "%1: %2 slow")
                                      : translated("shell", "%1: %2 fast"),
-                  {cameraName(camera), durationWords(offset)});
+                  {cameraName(camera), sizeWords(offset, isApproximate)});
 }
 
 std::string shortOffset(seconds offset) {

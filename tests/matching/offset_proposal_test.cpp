@@ -56,7 +56,8 @@ using Make = std::function<OffsetEvidence()>;
 
 std::string told(const std::optional<OffsetProposal> &proposal) {
     return proposal
-               ? std::to_string(proposal->offset.count()) + " s, " +
+               ? (proposal->isApproximate ? "about " : "") +
+                     std::to_string(proposal->offset.count()) + " s, " +
                      std::to_string(proposal->onTrack) + " of " + std::to_string(proposal->photos)
                : "silent";
 }
@@ -142,7 +143,8 @@ void OffsetProposalTest::proposals_data() {
           std::pair("minutes", seconds(-37min)),
           std::pair("years", seconds(24h * 3000 + 5h + 7min))}) {
         row(
-            name, [by = off] { return outing(by); }, std::to_string(off.count()) + " s, 40 of 40");
+            name, [by = off] { return outing(by); },
+            (off % 15min == 0s ? "" : "about ") + std::to_string(off.count()) + " s, 40 of 40");
     }
     row(
         "right", [] { return outing(0s); }, "silent");

@@ -21,8 +21,16 @@ struct OutingDesk : Desk {
 
     void addPhotos(int hoursFast, const char *camera) {
         for (int minute = 1; minute < 120; minute += 7) {
-            const std::string time = clock("2024:05:01 %1:%2:00", minute + 60 * hoursFast);
-            addPhoto("P", time.c_str()).setCamera(camera);
+            addAt(minute + 60 * hoursFast, camera);
+        }
+        endTurn();
+        parts().clockProposal.finish();
+    }
+    /// Of the beginning and the end of the log, so that the photos fit it closely.
+    void addPhotosOfTheEnds(int minutesFast, const char *camera) {
+        for (int i = 0; i < 8; ++i) {
+            addAt(minutesFast, camera);
+            addAt(116 + minutesFast, camera);
         }
         endTurn();
         parts().clockProposal.finish();
@@ -36,6 +44,9 @@ struct OutingDesk : Desk {
     }
 
 private:
+    void addAt(int minute, const char *camera) {
+        addPhoto("P", clock("2024:05:01 %1:%2:00", minute).c_str()).setCamera(camera);
+    }
     static std::string clock(const char *format, int minute) {
         return QString::fromLatin1(format)
             .arg(10 + minute / 60, 2, 10, QLatin1Char('0'))
@@ -66,6 +77,16 @@ private Q_SLOTS:
         QCOMPARE(desk.said(), "17 photos have got their positions.");
         desk.interface().quietBar.dismiss();
         QCOMPARE(desk.said(), "");
+    }
+
+    void saysWhatIsKnownToSomeMinutesOnly() {
+        OutingDesk desk;
+        desk.addPhotosOfTheEnds(37, "Maker, One");
+        QCOMPARE(desk.said(), "With about −37 min, 16 of 16 photos lie on the track.");
+        desk.interface().quietBar.choose(0);
+        QCOMPARE(desk.said(), "The camera was about 37 min fast.");
+        const auto &taken = desk.interface().quietBar.message();
+        QVERIFY(taken && taken->text.find("To make it exact, put one photo") != std::string::npos);
     }
 
     void oneStepTakesItBack() {
