@@ -3326,6 +3326,19 @@
         <translation>etwa %1</translation>
     </message>
     <message>
+        <source>It had another position before; Undo brings it back.</source>
+        <extracomment>Of the only photo that has been placed.</extracomment>
+        <translation>Vorher hatte es eine andere Position; „Rückgängig“ bringt sie zurück.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them had other positions before; Undo brings them back.</source>
+        <comment>%n of them had another position before; Undo brings it back.</comment>
+        <translation>
+            <numerusform>%n davon hatte vorher eine andere Position; „Rückgängig“ bringt sie zurück.</numerusform>
+            <numerusform>%n davon hatten vorher andere Positionen; „Rückgängig“ bringt sie zurück.</numerusform>
+        </translation>
+    </message>
+    <message>
         <source>To make it exact, put one photo where it belongs, or use “Photo Was Taken At…”.</source>
         <translation>Genauer: ein Foto an seinen Ort setzen, oder „Foto wurde aufgenommen um…“.</translation>
     </message>

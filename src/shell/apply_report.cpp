@@ -23,9 +23,22 @@ std::string placedText(std::size_t placed) {
                                     "%n photo has got its position.", placed);
 }
 
-} // namespace
+/// "" when every photo has its first position, or the one that it had.
+std::string movedText(const ApplyOutcome &outcome) {
+    if (outcome.moved == 0) {
+        return "";
+    }
+    return outcome.placed == 1
+               //: Of the only photo that has been placed.
+               ? translated("shell", "It had another position before; Undo brings it back.")
+               //: Of photos that have been placed.
+               : translated(
+                     "shell", "%n of them had other positions before; Undo brings them back.",
+                     "%n of them had another position before; Undo brings it back.", outcome.moved);
+}
 
-std::string wordsOf(const ApplyOutcome &outcome) {
+/// What a person should look at.
+std::string doubtsText(const ApplyOutcome &outcome) {
     //: Of photos; the start of a sentence.
     const std::string far = translated(
         "shell", "%n were taken more than 5 minutes from any point of the log",
@@ -39,6 +52,14 @@ std::string wordsOf(const ApplyOutcome &outcome) {
         return filled(translated("shell", "%1; %2."), {far, untimed});
     }
     return !outcome.far.empty() ? far + "." : !outcome.untimed.empty() ? untimed + "." : "";
+}
+
+} // namespace
+
+std::string wordsOf(const ApplyOutcome &outcome) {
+    const std::string moved = movedText(outcome);
+    const std::string doubts = doubtsText(outcome);
+    return moved + (moved.empty() || doubts.empty() ? "" : " ") + doubts;
 }
 
 std::string wordsOf(const NeighbourOutcome &outcome) {

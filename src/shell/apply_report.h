@@ -19,8 +19,9 @@ class image;
 struct ApplyOutcome;
 struct NeighbourOutcome;
 
-/// "198 photos have got their positions." and what a person should look at: "2 are far in time
-/// from the log; 1 does not say when it was taken."
+/// What follows "198 photos have got their positions.": how many other positions that has replaced,
+/// and what a person should look at: "2 were taken more than 5 minutes from any point of the log; 1
+/// does not say when it was taken."
 std::string wordsOf(const ApplyOutcome &outcome);
 std::string wordsOf(const NeighbourOutcome &outcome);
 

@@ -192,6 +192,9 @@ private Q_SLOTS:
             heard += outing.matcher.runningApplyToAll() ? "" : "moved";
         });
         outing.context.setEndEditing([&] { return heard += "edited ", true; });
+        std::vector<ApplyOutcome> outcomes;
+        const Connection applied = outing.matcher.applied.connect(
+            [&](const ApplyOutcome &outcome) { outcomes.push_back(outcome); });
         SetKeys keys;
         outing.context.addObserver(keys);
         outing.matcher.applyToAllPictures();
@@ -212,6 +215,9 @@ private Q_SLOTS:
         QVERIFY(outing.outlets.offsetText.text.get().empty());
         QVERIFY(outing.outlets.nextButtonAppliedAll.enabled.get());
         QVERIFY(outing.outlets.congrats2.visible.get());
+        QVERIFY(outcomes.back().placed == 2 && outcomes.back().moved == 1);
+        outing.matcher.applyToAllPictures();
+        QVERIFY(outcomes.back().placed == 2 && outcomes.back().moved == 0);
     }
 
     void theMapIsToldOfOneSelectedPhotoOnly() {

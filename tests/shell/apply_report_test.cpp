@@ -13,21 +13,26 @@ private Q_SLOTS:
     void init() { Desk::clear(); }
 
     void words_data() {
-        const auto row = test::rows<std::size_t, std::size_t, std::string>();
-        row("nothing", 0u, 0u, "");
-        row("one far", 1u, 0u, "1 was taken more than 5 minutes from any point of the log.");
-        row("untimed", 0u, 2u, "2 do not say when they were taken.");
-        row("both", 2u, 1u,
+        const auto row = test::rows<ApplyOutcome, std::string>();
+        const auto some = [](std::size_t count) { return std::vector<std::uint32_t>(count, 1); };
+        row("nothing", {.placed = 5}, "");
+        row("one far", {.placed = 5, .far = some(1)},
+            "1 was taken more than 5 minutes from any point of the log.");
+        row("untimed", {.placed = 5, .untimed = some(2)}, "2 do not say when they were taken.");
+        row("both", {.placed = 5, .far = some(2), .untimed = some(1)},
             "2 were taken more than 5 minutes from any point of the log; 1 does not say when it "
-            "was "
-            "taken.");
+            "was taken.");
+        row("the only one moved", {.placed = 1, .moved = 1},
+            "It had another position before; Undo brings it back.");
+        row("one moved", {.placed = 5, .moved = 1},
+            "1 of them had another position before; Undo brings it back.");
+        row("moved, and one far", {.placed = 5, .moved = 3, .far = some(1)},
+            "3 of them had other positions before; Undo brings them back. 1 was taken more than 5 "
+            "minutes from any point of the log.");
     }
 
     void words() {
-        const auto [far, untimed, text] = test::fetch<std::size_t, std::size_t, std::string>();
-        const ApplyOutcome outcome{.placed = 5,
-                                   .far = std::vector<std::uint32_t>(far, 1),
-                                   .untimed = std::vector<std::uint32_t>(untimed, 2)};
+        const auto [outcome, text] = test::fetch<ApplyOutcome, std::string>();
         QCOMPARE(wordsOf(outcome), text);
     }
 
