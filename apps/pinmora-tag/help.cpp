@@ -37,7 +37,8 @@ constexpr std::array<OptionHelp, 9> optionHelps{{
                               "positions; your setting may say so too")},
     {"--out DIR", QT_TRANSLATE_NOOP("tag", "the folder for the copies; made if it is missing.\n"
                                            "Nothing in it is ever replaced")},
-    {"--dry-run", QT_TRANSLATE_NOOP("tag", "say what would be done, and save nothing")},
+    {"--dry-run", QT_TRANSLATE_NOOP("tag", "say what would be done, and save nothing; needs no\n"
+                                           "--out")},
     {"--json", QT_TRANSLATE_NOOP("tag", "print one JSON document instead of the table")},
 }};
 

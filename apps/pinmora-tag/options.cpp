@@ -161,7 +161,7 @@ std::variant<Options, Usage> parseCommandLine(std::vector<std::string> arguments
     if (result.paths.empty()) {
         return wrongUsage(translated("tag", "which photos? Give their files or a folder"));
     }
-    if (result.out.empty()) {
+    if (result.out.empty() && !result.dryRun) {
         return wrongUsage(translated("tag", "where to? Give a folder with --out"));
     }
     return result;

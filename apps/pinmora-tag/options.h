@@ -18,7 +18,7 @@ enum class LogsChoice { Auto, Exact, Tolerant };
 struct Options {
     std::vector<std::filesystem::path> logs;  ///< --gps
     std::vector<std::filesystem::path> paths; ///< photos, folders of photos, logs
-    std::filesystem::path out;                ///< where the copies go
+    std::filesystem::path out;                ///< where the copies go; "" only in a dry run
     std::chrono::seconds offset{0};           ///< signed; added to the photos' times
     std::optional<std::string> name;          ///< base of the copies' new names
     LogsChoice reading = LogsChoice::Auto;

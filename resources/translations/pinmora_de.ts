@@ -3422,10 +3422,6 @@ Nothing in it is ever replaced</source>
 Nichts darin wird je ersetzt</translation>
     </message>
     <message>
-        <source>say what would be done, and save nothing</source>
-        <translation>nur sagen, was geschähe, und nichts speichern</translation>
-    </message>
-    <message>
         <source>print one JSON document instead of the table</source>
         <translation>ein JSON-Dokument statt der Tabelle ausgeben</translation>
     </message>
@@ -3685,6 +3681,12 @@ oder etwas Genanntes war nicht zu lesen; 2 falscher Aufruf.</translation>
         <source>the logs are read as exact, which places %1 of %2 photos within 5 minutes of a point; --logs tolerant would place %3</source>
         <extracomment>&quot;exact&quot;, &quot;tolerant&quot; and &quot;--logs tolerant&quot; stay as they are</extracomment>
         <translation>die Logs werden als „exact“ gelesen, was %1 von %2 Fotos näher als 5 Minuten an einen Punkt bringt; --logs tolerant brächte %3 so nahe</translation>
+    </message>
+    <message>
+        <source>say what would be done, and save nothing; needs no
+--out</source>
+        <translation>nur sagen, was geschähe, und nichts speichern;
+braucht kein --out</translation>
     </message>
 </context>
 <context>

@@ -115,6 +115,8 @@ private Q_SLOTS:
         QCOMPARE(result.exit, 0);
         QCOMPARE(result.statuses(), QStringList{u"matched"_s});
         QVERIFY(!QFileInfo::exists(out));
+        out.clear(); // as without a folder: nothing says where to
+        QCOMPARE(run({u"--dry-run"_s, outing}).report, result.report);
     }
 
     void writesThePlacesOfNewPositions() {
