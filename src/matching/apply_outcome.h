@@ -9,7 +9,7 @@ namespace pinmora {
 /// What applying the logs to some photos has come to. Photos are told by their serials.
 struct ApplyOutcome {
     std::size_t placed = 0;
-    std::size_t moved = 0;                ///< placed, and the photo had another position before
+    std::size_t moved = 0;                ///< placed, and had another position that was no log's
     std::vector<std::uint32_t> far{};     ///< placed, but no log was running when they were taken
     std::vector<std::uint32_t> untimed{}; ///< the photo does not say when it was taken
 };

@@ -193,12 +193,13 @@ void Matcher::place(image &photo, ApplyOutcome &outcome) {
     if (isTimed && !points_.coverage().covers(*corrected)) {
         outcome.far.push_back(photo.serial());
     }
-    const bool hadPosition = photo.lat_and_lon();
+    const bool hadItsOwn =
+        photo.lat_and_lon() && photo.position_source().view() != PositionSource::log;
     const Text lat = photo.lat();
     const Text lon = photo.lon();
     placeAtWithAltitude(photo, *point, corrected);
     ++outcome.placed;
-    outcome.moved += hadPosition && (photo.lat() != lat || photo.lon() != lon) ? 1 : 0;
+    outcome.moved += hadItsOwn && (photo.lat() != lat || photo.lon() != lon) ? 1 : 0;
 }
 
 /// So that the map shows where the one photo that is looked at has come to.
