@@ -3331,11 +3331,11 @@
         <translation>Vorher hatte es eine andere Position; „Rückgängig“ bringt sie zurück.</translation>
     </message>
     <message numerus="yes">
-        <source>%n of them had other positions before; Undo brings them back.</source>
-        <comment>%n of them had another position before; Undo brings it back.</comment>
+        <source>%n had other positions before; Undo brings them back.</source>
+        <comment>%n had another position before; Undo brings it back.</comment>
         <translation>
-            <numerusform>%n davon hatte vorher eine andere Position; „Rückgängig“ bringt sie zurück.</numerusform>
-            <numerusform>%n davon hatten vorher andere Positionen; „Rückgängig“ bringt sie zurück.</numerusform>
+            <numerusform>%n hatte vorher eine andere Position; „Rückgängig“ bringt sie zurück.</numerusform>
+            <numerusform>%n hatten vorher andere Positionen; „Rückgängig“ bringt sie zurück.</numerusform>
         </translation>
     </message>
     <message>

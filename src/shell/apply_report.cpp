@@ -32,9 +32,8 @@ std::string movedText(const ApplyOutcome &outcome) {
                //: Of the only photo that has been placed.
                ? translated("shell", "It had another position before; Undo brings it back.")
                //: Of photos that have been placed.
-               : translated(
-                     "shell", "%n of them had other positions before; Undo brings them back.",
-                     "%n of them had another position before; Undo brings it back.", outcome.moved);
+               : translated("shell", "%n had other positions before; Undo brings them back.",
+                            "%n had another position before; Undo brings it back.", outcome.moved);
 }
 
 /// What a person should look at.
@@ -59,7 +58,7 @@ std::string doubtsText(const ApplyOutcome &outcome) {
 std::string wordsOf(const ApplyOutcome &outcome) {
     const std::string moved = movedText(outcome);
     const std::string doubts = doubtsText(outcome);
-    return moved + (moved.empty() || doubts.empty() ? "" : " ") + doubts;
+    return doubts + (moved.empty() || doubts.empty() ? "" : " ") + moved;
 }
 
 std::string wordsOf(const NeighbourOutcome &outcome) {

@@ -25,10 +25,11 @@ private Q_SLOTS:
         row("the only one moved", {.placed = 1, .moved = 1},
             "It had another position before; Undo brings it back.");
         row("one moved", {.placed = 5, .moved = 1},
-            "1 of them had another position before; Undo brings it back.");
+            "1 had another position before; Undo brings it back.");
         row("moved, and one far", {.placed = 5, .moved = 3, .far = some(1)},
-            "3 of them had other positions before; Undo brings them back. 1 was taken more than 5 "
-            "minutes from any point of the log.");
+            "1 was taken more than 5 minutes from any point of the log. 3 had other positions "
+            "before; "
+            "Undo brings them back.");
     }
 
     void words() {
