@@ -260,6 +260,10 @@
         <source>Remove Markers</source>
         <translation>Markierungen entfernen</translation>
     </message>
+    <message>
+        <source>Add Markers</source>
+        <translation>Markierungen setzen</translation>
+    </message>
 </context>
 <context>
     <name>matching</name>

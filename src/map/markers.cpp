@@ -12,8 +12,9 @@ namespace {
 
 constexpr std::int32_t worldZoom = 2; ///< where no zoom level is known
 
-void offerAdding(Button &button) {
-    button.title.set(translated("map", "Add Marker"));
+void offerAdding(Button &button, std::size_t photos = 1) {
+    button.title.set(photos <= 1 ? translated("map", "Add Marker")
+                                 : translated("map", "Add Markers"));
     button.tag = 0;
 }
 
@@ -49,6 +50,8 @@ Markers::Markers(Context &context, Outlets outlets, LastPhoto lastPictObjectWith
         outlets.addRemoveMarker.pressed.connect([this] { addMarkerToMapCentre(); }));
     connections_.push_back(
         outlets.addRemoveMarker2.pressed.connect([this] { addMarkerToMapCentre2(); }));
+    connections_.push_back(
+        outlets.pictureArray.selectionChanged.connect([this] { adding.set(false); }));
 }
 
 void Markers::addMarkerToMapCentre() {
@@ -62,6 +65,8 @@ void Markers::addMarkerToMapCentre() {
     }
     offerRemoval(button, photos.size());
     outlets_.webView1.evaluate(newMarkerFor(photos));
+    addedBy_ = &button;
+    adding.set(true);
 }
 
 void Markers::addMarkerToMapCentre2() {
@@ -79,6 +84,22 @@ void Markers::addMarkerToMapCentre2() {
     outlets_.editing.takeOver();
     outlets_.webView2.evaluate(script);
     outlets_.offsetButton2.enabled.set(true);
+    addedBy_ = &button;
+    adding.set(true);
+}
+
+void Markers::giveUpAdding() {
+    if (!adding.get()) {
+        return;
+    }
+    adding.set(false);
+    Button &button = *addedBy_;
+    offerAdding(button, outlets_.pictureArray.selectedObjects().size());
+    const bool isWizards = &button == &outlets_.addRemoveMarker2;
+    if (isWizards) {
+        outlets_.offsetButton2.enabled.set(false);
+    }
+    (isWizards ? outlets_.webView2 : outlets_.webView1).evaluate("removePointer()");
 }
 
 void Markers::removeFrom(const Photos &photos, Button &button) {
@@ -86,6 +107,7 @@ void Markers::removeFrom(const Photos &photos, Button &button) {
     for (image *photo : photos) {
         takePositionAway(*photo);
     }
+    adding.set(false);
     offerAdding(button);
 }
 
@@ -120,6 +142,7 @@ bool Markers::add_remove_marker() {
 }
 
 void Markers::updateMap(const PositionTexts &position) {
+    adding.set(false);
     if (!runningApplyToAll_()) {
         MapView &map = outlets_.inWizard ? outlets_.webView2 : outlets_.webView1;
         map.evaluate(pointerScript(position[0], position[1]));

@@ -4,6 +4,7 @@
 #include "outlets/controls.h"
 #include "outlets/editing.h"
 #include "outlets/map_view.h"
+#include "outlets/observable.h"
 #include "persistence/context.h"
 #include "store/image.h"
 
@@ -41,6 +42,11 @@ public:
     void addMarkerToMapCentre();
     /// A click on the wizard's.
     void addMarkerToMapCentre2();
+    /// Whether a new marker waits on a map for its place; written here alone. Another selection and
+    /// a position end it.
+    Observable<bool> adding;
+    /// Takes the waiting marker back; the button offers it again.
+    void giveUpAdding();
     /// Whether just one photo is selected; the buttons then say what a click does with it.
     bool add_remove_marker();
     /// A photo has got a position: the pointer of the active map goes there, unless positions are
@@ -58,6 +64,7 @@ private:
     Outlets outlets_;
     LastPhoto lastPictObjectWithLatLon_;
     RunningApplyToAll runningApplyToAll_;
+    Button *addedBy_ = nullptr; ///< the button that the waiting marker comes from
     std::vector<Connection> connections_;
 };
 

@@ -4,8 +4,8 @@
 #include "shell/subsystems.h"
 #include "ui/help_actions.h"
 #include "ui/look_setting.h"
+#include "ui/map_escape.h"
 #include "ui/photo_panel.h"
-#include "ui/picking_escape.h"
 #include "ui/undo_keys.h"
 #include "ui/work_window.h"
 
@@ -76,6 +76,8 @@ void ProgramActions::connectPhotos() {
     on(ApplyToUnplaced, [this] { parts_.matcher.applyToPhotosWithoutPosition(); });
     on(PlaceAtNearestPoint, [this] { parts_.neighbours.placeAtNearestPoint(); });
     on(PlaceBetweenNeighbours, [this] { parts_.neighbours.placeBetweenNeighbours(); });
+    new MapEscape(
+        parts_.markers.adding, [this] { parts_.markers.giveUpAdding(); }, this);
 }
 
 void ProgramActions::connectClock() {
@@ -86,7 +88,8 @@ void ProgramActions::connectClock() {
     const auto tick = [this, pick](bool) { pick->setChecked(parts_.pointPicking.armed.get()); };
     bindings_.watch(parts_.pointPicking.armed, tick);
     connect(pick, &QAction::triggered, this, tick);
-    new PickingEscape(parts_.pointPicking, this);
+    new MapEscape(
+        parts_.pointPicking.armed, [this] { parts_.pointPicking.disarm(); }, this);
     bindings_.tie(parts_.trueTime.openButton, actions_[PhotoWasTakenAt]);
     on(ShowCameras, [this] { parts_.cameras.open(); });
 }

@@ -108,6 +108,31 @@ private Q_SLOTS:
         }
     }
 
+    void aWaitingMarkerIsGivenUp() {
+        MapDesk desk;
+        image &photo = desk.addPhoto();
+        image &other = desk.addPhoto();
+        const auto waitsAfter = [&](const std::function<void()> &what) {
+            desk.pictureArray.setSelectedObjects({&photo, &other});
+            desk.addRemoveMarker2.tag = 0;
+            desk.addRemoveMarker2.press();
+            desk.scripts.clear();
+            what();
+            return desk.markers.adding.get();
+        };
+        QVERIFY(waitsAfter([] {}));
+        QVERIFY(!waitsAfter([&] { desk.pictureArray.setSelectedObjects({&other}); }));
+        QVERIFY(!waitsAfter([&] { desk.markers.updateMap({"47", "8"}); }));
+        QVERIFY(!waitsAfter([&] { desk.addRemoveMarker2.press(); }));
+        QVERIFY(!waitsAfter([&] { desk.markers.giveUpAdding(); }));
+        QCOMPARE(desk.scripts, "2:removePointer() ");
+        QCOMPARE(desk.addRemoveMarker2.title.get(), "Add Markers");
+        QCOMPARE(desk.addRemoveMarker2.tag, 0);
+        QVERIFY(!desk.offsetButton2.enabled.get());
+        desk.markers.giveUpAdding(); // a second time takes nothing from the map
+        QCOMPARE(desk.scripts, "2:removePointer() ");
+    }
+
     void buttonsSayWhatAClickDoes() {
         MapDesk desk;
         image &placed = desk.addPhoto("47", "8");

@@ -130,6 +130,9 @@ private Q_SLOTS:
         QTest::keyClick(desk.photoTable(), Qt::Key_Escape);
         QVERIFY(!desk.parts().pointPicking.armed.get());
         QVERIFY(!desk.action(PickTrackPoint)->isChecked());
+        desk.action(ToggleMarker)->trigger();
+        QTest::keyClick(desk.photoTable(), Qt::Key_Escape);
+        QCOMPARE(desk.action(ToggleMarker)->text(), QStringLiteral("Add Marker"));
         desk.action(PlaceAtNearestPoint)->trigger();
         desk.settle();
         QVERIFY(desk.photo(2).lat_and_lon());
