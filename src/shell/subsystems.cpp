@@ -146,7 +146,11 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
       wizardEnd({.nextButtonAppliedAll = matching.nextButtonAppliedAll,
                  .congrats1 = matching.congrats1,
                  .congrats2 = matching.congrats2,
-                 .savePhotosButton = saveOutlets.savePhotosButton},
+                 .savePhotosButton = saveOutlets.savePhotosButton,
+                 .inWizard = owner.interface.inWizard,
+                 .changeName = renamingOutlets.changeName,
+                 .changeName2 = renamingOutlets.changeName2,
+                 .changeName3 = renamingOutlets.changeName3},
                 counts),
       versionCheck(owner.defaults), preferences(owner.defaults) {
     gps.setImportJournal(&unsavedWork.recorder());
@@ -158,8 +162,7 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
     connections_.push_back(
         photoIntake.loaded.connect([this](auto &, auto &) { inspector.tableSelectionChanged(); }));
     connections_.push_back(readingOffer.readAgain.connect([this] { inspector.logsLoaded(); }));
-    connections_.push_back(
-        matching.nextButtonAppliedAll.pressed.connect([this] { savePipeline.updatePicts(); }));
+    connections_.push_back(matching.nextButtonAppliedAll.pressed.connect([this] { savePhotos(); }));
     connections_.push_back(
         clockOffset.turning.onChange([this](const std::optional<ClockTurn> &turn) {
             turnFeed.turned(turn ? std::optional(turn->by) : std::nullopt);
@@ -167,6 +170,11 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
     connections_.push_back(
         counts.counts.onChange([this](const Counts &) { pointPicking.offer(); }));
     connections_.push_back(mapBridge.pointerWanted.connect([this] { inspector.sendPointer(); }));
+}
+
+void Subsystems::savePhotos() {
+    wizardEnd.takeName();
+    savePipeline.updatePicts();
 }
 
 /// Of the photos whose clock is being turned.

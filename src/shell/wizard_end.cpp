@@ -8,10 +8,19 @@ WizardEnd::WizardEnd(const Outlets &outlets, LibraryCounts &counts)
     connections_.push_back(
         outlets.savePhotosButton.enabled.onChange([this](bool) { enableSave(); }));
     connections_.push_back(outlets.congrats1.visible.onChange([this](bool) { enableSave(); }));
+    for (Button *button : {&outlets_.changeName, &outlets_.changeName2, &outlets_.changeName3}) {
+        connections_.push_back(button->pressed.connect([this] { nameWaits_ = false; }));
+    }
     for (Control *control : {&outlets_.congrats1, &outlets_.congrats2}) {
         control->visible.set(false);
     }
     enableSave();
+}
+
+void WizardEnd::takeName() {
+    if (nameWaits_ && outlets_.inWizard) {
+        outlets_.changeName3.press();
+    }
 }
 
 /// What has been applied says nothing of photos and tracks that have come since.

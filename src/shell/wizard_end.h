@@ -7,7 +7,8 @@
 
 namespace pinmora {
 
-/// The end of the wizard: whether its photos can be saved, and that they have got their places.
+/// The end of the wizard: whether its photos can be saved, that they have got their places, and
+/// the name that was typed for them.
 class WizardEnd {
 public:
     struct Outlets {
@@ -15,6 +16,10 @@ public:
         Control &congrats1;
         Control &congrats2;
         Button &savePhotosButton; ///< disabled while a run is under way
+        const bool &inWizard;
+        Button &changeName;
+        Button &changeName2;
+        Button &changeName3; ///< gives the typed name to all photos
     };
 
     /// All must outlive it.
@@ -23,12 +28,18 @@ public:
     WizardEnd &operator=(const WizardEnd &) = delete;
     ~WizardEnd() = default;
 
+    /// The name for all photos has been typed, or taken away again.
+    void nameTyped(bool isThere) { nameWaits_ = isThere; }
+    /// A name that was typed and not given yet is given to all photos: they are to be saved.
+    void takeName();
+
 private:
     void follow(const Counts &counts);
     void enableSave();
 
     const Outlets outlets_;
     Counts counts_;
+    bool nameWaits_ = false;
     std::vector<Connection> connections_;
 };
 

@@ -185,7 +185,11 @@ private Q_SLOTS:
         QVERIFY(!desk.canPress("Rename All"));
         name->setFocus();
         QTest::keyClicks(name, QStringLiteral("zug"));
-        desk.press("Rename All");
+        if (route == Route(byMap)) {
+            desk.press("Rename All");
+        } else if (route == Route(byLatLon)) {
+            QTest::keyClick(name, Qt::Key_Return);
+        } // or Save Photos gives the name
         desk.save();
         QCOMPARE(desk.copyNames().size(), 8U);
         desk.clickPhoto("IMG_0412");

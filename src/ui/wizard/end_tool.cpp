@@ -46,7 +46,10 @@ void EndTool::addNames(QVBoxLayout &column) {
     edit->setMinimumWidth(24 * spacing);
     connect(edit, &QLineEdit::textEdited, this, [this, edit, &name](const QString &text) {
         tellTyped(*edit, name, text, notifications_);
+        parts_.wizardEnd.nameTyped(!text.isEmpty());
     });
+    connect(edit, &QLineEdit::returnPressed, this,
+            [this] { parts_.renamingOutlets.changeName3.press(); });
     bindings_.watch(name.text, [this, edit](const std::string &text) {
         if (edit->text() != QString::fromStdString(text)) {
             edit->setText(QString::fromStdString(text));
