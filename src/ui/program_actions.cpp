@@ -59,6 +59,7 @@ void ProgramActions::connectFiles() {
     on(RemoveGpsData, [this] { delegate_.library.removeAllGPSData(); });
     on(ActionName::SampleOuting, [this] { parts_.sampleOuting.load(); });
     on(Quit, [this] { surroundings_.quit(); });
+    actions_[Quit]->setShortcutContext(Qt::ApplicationShortcut); // windows without the menus, too
 }
 
 void ProgramActions::connectPhotos() {

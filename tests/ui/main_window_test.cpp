@@ -1,5 +1,6 @@
 #include "ui/window_desk.h"
 
+#include "ui/log_window.h"
 #include "ui/map_pane.h"
 
 #include <QDropEvent>
@@ -294,7 +295,14 @@ private Q_SLOTS:
         drop(desk, {outing});
         desk.clickRow(1);
         desk.type("Latitude, decimal degrees", "47");
-        desk.window->close();
+        desk.parts().logWindow.makeKeyAndOrderFront();
+        const QWidgetList all = QApplication::topLevelWidgets();
+        QWidget *const log = *std::find_if(all.begin(), all.end(), [](const QWidget *one) {
+            return qobject_cast<const LogWindow *>(one) != nullptr;
+        });
+        log->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(log));
+        QTest::keyClick(log, Qt::Key_Q, Qt::ControlModifier); // from any window
         QVERIFY(desk.sheet() && desk.window->isVisible());
         QTest::keyClick(desk.sheet(), Qt::Key_Escape);
         QVERIFY(!desk.sheet());
