@@ -1558,16 +1558,16 @@
         <translation>Kamera</translation>
     </message>
     <message>
-        <source>%1, not saved: %2</source>
-        <translation>%1, nicht gespeichert: %2</translation>
-    </message>
-    <message>
         <source>Time from the photo to the nearest point of a track, with the camera clock as it is set</source>
         <translation>Zeit vom Foto zum nächsten Punkt eines Tracks, so wie die Kamerauhr gestellt ist</translation>
     </message>
     <message>
-        <source>&lt;p&gt;&lt;b&gt;Not saved.&lt;/b&gt; %1&lt;/p&gt;&lt;p&gt;%2&lt;/p&gt;</source>
-        <translation>&lt;p&gt;&lt;b&gt;Nicht gespeichert.&lt;/b&gt; %1&lt;/p&gt;&lt;p&gt;%2&lt;/p&gt;</translation>
+        <source>%1, could not be written: %2</source>
+        <translation>%1, konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;&lt;b&gt;Could not be written.&lt;/b&gt; %1&lt;/p&gt;&lt;p&gt;%2&lt;/p&gt;</source>
+        <translation>&lt;p&gt;&lt;b&gt;Konnte nicht geschrieben werden.&lt;/b&gt; %1&lt;/p&gt;&lt;p&gt;%2&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

@@ -170,7 +170,7 @@ QString PhotoTableModel::whyNotSaved(const image &photo) const {
 QString PhotoTableModel::accessibleText(const image &photo) const {
     const QString sentence = photo_texts::sentence(photo, gapOf(photo));
     const QString reason = whyNotSaved(photo);
-    return reason.isEmpty() ? sentence : tr("%1, not saved: %2").arg(sentence, reason);
+    return reason.isEmpty() ? sentence : tr("%1, could not be written: %2").arg(sentence, reason);
 }
 
 QString PhotoTableModel::tooltip(const image &photo, Column column) const {
@@ -189,7 +189,9 @@ QString PhotoTableModel::tooltip(const image &photo, Column column) const {
     }
     const QString path = QString::fromStdString(photo.full_file_path().string()).toHtmlEscaped();
     const QString reason = whyNotSaved(photo).toHtmlEscaped();
-    return reason.isEmpty() ? path : tr("<p><b>Not saved.</b> %1</p><p>%2</p>").arg(reason, path);
+    return reason.isEmpty()
+               ? path
+               : tr("<p><b>Could not be written.</b> %1</p><p>%2</p>").arg(reason, path);
 }
 
 QString PhotoTableModel::textAt(int row, Column column) const {
