@@ -3346,6 +3346,38 @@
         <source>To make it exact, put one photo where it belongs, or use “Photo Was Taken At…”.</source>
         <translation>Genauer: ein Foto an seinen Ort setzen, oder „Foto wurde aufgenommen um…“.</translation>
     </message>
+    <message>
+        <source>Cameras have clocks of their own: GPS &gt; Cameras</source>
+        <translation>Kameras haben eigene Uhren: GPS &gt; Kameras</translation>
+    </message>
+    <message>
+        <source>There are no photos and no logs in “%1”.</source>
+        <translation>In „%1“ sind keine Fotos und keine Logs.</translation>
+    </message>
+    <message numerus="yes">
+        <source>There are no photos and no logs in %n folders.</source>
+        <comment>There are no photos and no logs in %n folder.</comment>
+        <translation>
+            <numerusform>In %n Ordner sind keine Fotos und keine Logs.</numerusform>
+            <numerusform>In %n Ordnern sind keine Fotos und keine Logs.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n cameras have the clocks that you gave them last time.</source>
+        <comment>%n camera has the clock that you gave it last time.</comment>
+        <translation>
+            <numerusform>%n Kamera hat die Uhr, die Sie ihr zuletzt gegeben haben.</numerusform>
+            <numerusform>%n Kameras haben die Uhren, die Sie ihnen zuletzt gegeben haben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, as you set it last time.</source>
+        <translation>%1, wie zuletzt eingestellt.</translation>
+    </message>
+    <message>
+        <source>Cameras…</source>
+        <translation>Kameras…</translation>
+    </message>
 </context>
 <context>
     <name>store</name>

@@ -41,6 +41,8 @@ struct IntakeReport {
     std::vector<std::string> logsNotAsked;
     /// Found in a folder and not entered. Hidden ones are not listed.
     std::vector<std::string> foldersInside;
+    /// Given, or chosen, and with nothing in them that is not hidden.
+    std::vector<std::string> emptyFolders;
     /// Could not be read, or not to their end.
     std::vector<UnreadFolder> unreadFolders;
 };

@@ -8,6 +8,7 @@
 #include "platform/translation.h"
 #include "store/image.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace pinmora {
@@ -69,6 +70,9 @@ void Photos::scanFolder(const std::string &folder, TakeEntry takeEntry) {
     }
     if (listing.error) {
         report_.unreadFolders.push_back({folder, listing.error});
+    } else if (std::all_of(listing.names.begin(), listing.names.end(), isHidden) &&
+               std::all_of(listing.folders.begin(), listing.folders.end(), isHidden)) {
+        report_.emptyFolders.push_back(folder);
     }
 }
 

@@ -68,6 +68,7 @@ void IntakeNotes::tell(const IntakeReport &report, const std::vector<image *> &p
     if (!std::exchange(isChosen_, false)) {
         passedOver_ = {};
         notLoaded_ = {};
+        emptyFolders_.clear();
         serials_.clear();
     }
     gather(report);
@@ -75,6 +76,7 @@ void IntakeNotes::tell(const IntakeReport &report, const std::vector<image *> &p
                    [](const image *photo) { return photo->serial(); });
     tellOfPassedOver();
     tellOfNotLoaded();
+    tellOfEmptyFolders();
     tellOfDoubles();
 }
 
@@ -93,6 +95,7 @@ void IntakeNotes::gather(const IntakeReport &report) {
             notLoaded_.files.push_back(file);
         }
     }
+    append(emptyFolders_, report.emptyFolders);
     append(notLoaded_.folders, report.unreadFolders);
     append(notLoaded_.logs, failedLogsToTell(logs_.reports()));
 }
@@ -135,6 +138,14 @@ void IntakeNotes::tellOfNotLoaded() {
                     .text = notLoadedText(notLoaded_),
                     .choices = {},
                     .dismissed = [this] { notLoaded_ = {}; }});
+}
+
+void IntakeNotes::tellOfEmptyFolders() {
+    postOrWithdraw({.subject = "empty folders",
+                    .head = {},
+                    .text = emptyFoldersText(emptyFolders_),
+                    .choices = {},
+                    .dismissed = [this] { emptyFolders_.clear(); }});
 }
 
 void IntakeNotes::tellOfDoubles() {

@@ -43,6 +43,7 @@ private:
     void tellOfPassedOver();
     std::vector<BarMessage::Choice> choicesForPassedOver();
     void tellOfNotLoaded();
+    void tellOfEmptyFolders();
     void tellOfDoubles();
     void postOrWithdraw(BarMessage message);
     bool isLoadedExtension(std::string_view extension) const;
@@ -59,6 +60,7 @@ private:
     // What the messages on the bar are about; empty once a message has been answered or closed.
     PassedOver passedOver_;
     NotLoaded notLoaded_;
+    std::vector<std::string> emptyFolders_;
     std::vector<std::uint32_t> serials_; ///< of photos with doubles among them, rising
     bool isChosen_ = false;              ///< the load under way was chosen on the bar
     std::vector<Connection> connections_;

@@ -172,6 +172,17 @@ std::string notLoadedText(const NotLoaded &notLoaded) {
     return joined(parts, "; ");
 }
 
+std::string emptyFoldersText(const std::vector<std::string> &folders) {
+    if (folders.size() == 1) {
+        return filled(translated("shell", "There are no photos and no logs in “%1”."),
+                      {splitPath(folders.front()).name});
+    }
+    return folders.empty()
+               ? ""
+               : translated("shell", "There are no photos and no logs in %n folders.",
+                            "There are no photos and no logs in %n folder.", folders.size());
+}
+
 std::vector<LogReport> failedLogsToTell(const std::vector<LogReport> &logs) {
     std::vector<LogReport> failed;
     std::copy_if(logs.begin(), logs.end(), std::back_inserter(failed),

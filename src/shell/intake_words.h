@@ -31,6 +31,9 @@ struct NotLoaded {
 /// that is the only one. "" when nothing is to be told.
 std::string notLoadedText(const NotLoaded &notLoaded);
 
+/// "There are no photos and no logs in “100CANON”." "" when there are no such folders.
+std::string emptyFoldersText(const std::vector<std::string> &folders);
+
 /// The failed ones of the logs of one load; none when it is one whose message on the error sheet
 /// gives the file's name, as nothing is left to be told then.
 std::vector<LogReport> failedLogsToTell(const std::vector<LogReport> &logs);

@@ -146,6 +146,10 @@ void IntakeNotesTest::whatIsSaid_data() {
     row("not to be read", {"f/a.jpg", "n.md"}, {"f", "n.md", "gone.jpg"},
         "Not loaded:|n.md: neither a photo nor a GPS log by its name; gone.jpg: there is no such "
         "file\n");
+    row("an empty folder", {"f/.DS_Store", "a.jpg"}, {"f", "a.jpg"},
+        "|There are no photos and no logs in “f”.\n");
+    row("two empty folders", {"f/.DS_Store", "g/.x.jpg"}, {"f", "g"},
+        "|There are no photos and no logs in 2 folders.\n");
     row("the same twice", {"a.jpg", "f/b.jpg"}, {"a.jpg", "f", "a.jpg"},
         "1 of 3 photos was there already.|It is in the list more than once now.|Remove Doubles\n");
 }
