@@ -10,6 +10,7 @@
 #include "ui/details_tab.h"
 #include "ui/fitting_scroll_area.h"
 #include "ui/library_status.h"
+#include "ui/lists_splitter.h"
 #include "ui/photo_panel.h"
 #include "ui/quiet_bar_widget.h"
 #include "ui/stored_bytes.h"
@@ -30,6 +31,8 @@ namespace {
 
 constexpr std::string_view columnsKey = "windowColumns";
 constexpr std::string_view listsKey = "windowLists";
+
+constexpr int photosRoom = 45 * spacing; ///< height for six photos or so
 
 } // namespace
 
@@ -114,11 +117,7 @@ void MainWindow::addLists() {
     auto *tracks = new TrackPanel(delegate_.library.managedObjectContext(),
                                   subsystems_.arrays.gpsTrackArrayController,
                                   [this] { delegate_.library.removeAllGPSData(); });
-    lists_ = new QSplitter(Qt::Vertical);
-    lists_->setChildrenCollapsible(false);
-    lists_->addWidget(photos_);
-    lists_->addWidget(tracks);
-    lists_->setStretchFactor(0, 1);
+    lists_ = new ListsSplitter(photos_, photosRoom, tracks);
     columns_->addWidget(lists_);
     areas_.insert(areas_.end(), {photos_, tracks});
 }
@@ -192,8 +191,10 @@ void MainWindow::restoreLayout() {
     if (!columns_->restoreState(storedBytes(delegate_.defaults, columnsKey))) {
         columns_->setSizes({width() * 13 / 32, width() * 19 / 32});
     }
-    if (!lists_->restoreState(storedBytes(delegate_.defaults, listsKey))) {
-        lists_->setSizes({440, 170});
+    if (lists_->restoreState(storedBytes(delegate_.defaults, listsKey))) {
+        lists_->keepHeights();
+    } else {
+        lists_->setLowerHeight(170);
     }
 }
 

@@ -9,6 +9,8 @@ class QTabWidget;
 
 namespace pinmora {
 
+class ListsSplitter;
+
 /// The main window: everything on one surface, tied to the controller's outlets.
 class MainWindow : public WorkWindow {
     Q_OBJECT
@@ -31,7 +33,7 @@ private:
 
     PhotoPanel *photos_ = nullptr;
     QSplitter *columns_ = nullptr;
-    QSplitter *lists_ = nullptr;
+    ListsSplitter *lists_ = nullptr;
     QTabWidget *tabs_ = nullptr;
     QWidget *strip_ = nullptr;
     std::vector<QWidget *> areas_; ///< that the keyboard goes between, in the order of reading

@@ -140,7 +140,7 @@ QVariant PhotoTableModel::data(const QModelIndex &index, int role) const {
         return column == Name ? whyNotSaved(*photo) : QString();
     case SecondLine:
         return column == Position ? photo_texts::altitudeAndPlace(*photo)
-                                  : photo_texts::taken(*photo);
+                                  : photo_texts::takenInLengths(*photo);
     case FilePath:
         return QByteArray::fromStdString(photo->full_file_path().string());
     case IsFar:

@@ -13,14 +13,24 @@
 
 namespace pinmora {
 
+namespace {
+
+QString timeWithoutYear(Date date) {
+    LocalZone zone;
+    return QString::fromStdString(localizedTextFromDate(date, "%e %b %H:%M:%S", zone)).trimmed();
+}
+
+} // namespace
+
 QString shortTime(Date date) {
     LocalZone zone;
     const auto yearOf = [&zone](Date one) { return textFromDate(one, "%Y", zone); };
     const auto now =
         std::chrono::time_point_cast<std::chrono::microseconds>(std::chrono::system_clock::now());
-    const std::string_view format =
-        yearOf(date) == yearOf(now) ? "%e %b %H:%M:%S" : "%e %b %Y %H:%M:%S";
-    return QString::fromStdString(localizedTextFromDate(date, format, zone)).trimmed();
+    return yearOf(date) == yearOf(now)
+               ? timeWithoutYear(date)
+               : QString::fromStdString(localizedTextFromDate(date, "%e %b %Y %H:%M:%S", zone))
+                     .trimmed();
 }
 
 namespace photo_texts {
@@ -50,6 +60,12 @@ QString name(const image &photo) {
 
 QString taken(const image &photo) {
     return photo.captureTime() ? shortTime(*photo.date()) : QString();
+}
+
+QString takenInLengths(const image &photo) {
+    constexpr QChar shorterOneFollows(0x9c); // to whatever elides a text
+    return photo.captureTime() ? taken(photo) + shorterOneFollows + timeWithoutYear(*photo.date())
+                               : QString();
 }
 
 QString position(const image &photo) {

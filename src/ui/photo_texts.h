@@ -24,6 +24,9 @@ namespace photo_texts {
 QString name(const image &photo);
 /// shortTime() of the capture time.
 QString taken(const image &photo);
+/// The same, and without its year for where there is no room for it, as QFontMetrics::elidedText()
+/// has it.
+QString takenInLengths(const image &photo);
 /// "47.38250, 8.54170"
 QString position(const image &photo);
 /// "412 m"

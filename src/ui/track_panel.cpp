@@ -39,6 +39,9 @@ QTableView *makeTable(TrackTableModel &model, QWidget *parent) {
     for (const int narrow : {TrackTableModel::Number, TrackTableModel::Points}) {
         heading->setSectionResizeMode(narrow, QHeaderView::Interactive);
     }
+    // As high as two rows, and no higher: where there is little room the photos need it.
+    table->setMinimumHeight(heading->sizeHint().height() +
+                            2 * table->verticalHeader()->defaultSectionSize());
     heading->resizeSection(TrackTableModel::Number, 7 * spacing);
     heading->resizeSection(TrackTableModel::Points, 10 * spacing);
     return table;
