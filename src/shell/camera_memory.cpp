@@ -79,19 +79,25 @@ void CameraMemory::bringIn(offset &stored) {
         return;
     }
     CameraOffsets all = stored.cameraOffsets();
+    CameraOffsets added;
     for (const image *photo : context_.records<image>()) {
         const std::string_view camera = photo->camera().view();
         const ClockParts *const parts = remembered.find(camera);
         if (parts && !all.find(camera)) {
             all.set(camera, *parts);
+            added.set(camera, *parts);
             broughtIn_.emplace(camera);
         }
     }
-    if (all.all() != stored.cameraOffsets().all()) {
+    if (added.all().empty()) {
+        return;
+    }
+    {
         const UnregisteredChanges programsOwn(context_);
         known_ = all;
         stored.setCamera_offsets(all.text());
     }
+    brought.emit(added);
 }
 
 } // namespace pinmora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "outlets/object_controller.h"
+#include "outlets/signal.h"
 #include "persistence/change_observer.h"
 #include "persistence/undo_observer.h"
 #include "platform/end_of_turn.h"
@@ -31,6 +32,9 @@ public:
     ~CameraMemory() override;
     CameraMemory(const CameraMemory &) = delete;
     CameraMemory &operator=(const CameraMemory &) = delete;
+
+    /// These clocks have been brought in.
+    Signal<const CameraOffsets &> brought;
 
 private:
     void didChange(Record &record, std::string_view key) override;

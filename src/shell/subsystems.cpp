@@ -4,6 +4,7 @@
 #include "places/place_settings.h"
 #include "platform/application_support.h"
 #include "shell/pinmora_app_delegate.h"
+#include "shell/remembered_clocks.h"
 #include "store/offset.h"
 #include "store/start_records.h"
 
@@ -35,6 +36,8 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
       cameras(owner.library.managedObjectContext(), matching.offsetObj, clockOffset,
               owner.interface.workingWindow),
       clockSaying(owner.library.managedObjectContext(), matching, clockOffset),
+      clockLine(owner.library.managedObjectContext(), matching.offsetObj, arrays.pictureArray,
+                clockSaying),
       trueTime(matching, matcher, owner.interface.workingWindow),
       coordinates(owner.library.managedObjectContext(), owner.interface.degreeObj,
                   arrays.pictureArray, owner.editing),
@@ -166,6 +169,10 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
     connections_.push_back(
         clockOffset.turning.onChange([this](const std::optional<ClockTurn> &turn) {
             turnFeed.turned(turn ? std::optional(turn->by) : std::nullopt);
+        }));
+    connections_.push_back(
+        cameraMemory.brought.connect([this, &owner](const CameraOffsets &clocks) {
+            owner.interface.quietBar.post(rememberedClocksNote(clocks, [this] { cameras.open(); }));
         }));
     connections_.push_back(
         counts.counts.onChange([this](const Counts &) { pointPicking.offer(); }));

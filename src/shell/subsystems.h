@@ -28,6 +28,7 @@
 #include "shell/apply_report.h"
 #include "shell/camera_memory.h"
 #include "shell/cameras.h"
+#include "shell/clock_line.h"
 #include "shell/clock_proposal.h"
 #include "shell/clock_saying.h"
 #include "shell/detail_fields.h"
@@ -86,6 +87,7 @@ struct Subsystems {
     CameraMemory cameraMemory;
     Cameras cameras;
     ClockSaying clockSaying;
+    ClockLine clockLine;
     TrueTime trueTime;
     CoordinateFields coordinates;
     DetailFields details;

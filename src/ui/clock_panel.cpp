@@ -2,6 +2,7 @@
 
 #include "matching/matching_outlets.h"
 #include "platform/translation.h"
+#include "shell/clock_line.h"
 #include "shell/clock_saying.h"
 #include "store/image.h"
 #include "ui/elided_label.h"
@@ -31,15 +32,15 @@ QLabel *labelOf(Role role, const QString &text = {}) {
 
 } // namespace
 
-ClockPanel::ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, Editing &editing,
-                       const std::function<void()> &find, QWidget *parent)
+ClockPanel::ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, ClockLine &line,
+                       Editing &editing, const std::function<void()> &find, QWidget *parent)
     : QWidget(parent), outlets_(outlets),
       chooseFirst_(labelOf(Role::Quiet, tr("Choose a photo first."))), times_(new QWidget),
       instead_(new QStackedLayout), taken_(new QLabel), corrected_(labelOf(Role::Strong)),
       endOfTurn_([this] { showTimes(); }) {
     auto *clock = new QVBoxLayout;
     clock->setSpacing(smallGap);
-    addClock(*clock, saying, editing);
+    addClock(*clock, saying, line, editing);
     clock->addStretch();
     auto *photo = new QVBoxLayout;
     photo->setSpacing(smallGap);
@@ -95,14 +96,15 @@ QLabel *ClockPanel::elided(TextField &field, Role role) {
     return label;
 }
 
-void ClockPanel::addClock(QVBoxLayout &column, ClockSaying &saying, Editing &editing) {
+void ClockPanel::addClock(QVBoxLayout &column, ClockSaying &saying, ClockLine &line,
+                          Editing &editing) {
     column.addWidget(elided(saying.heading, Role::Heading));
     column.addWidget(new OffsetSteppers({.sign = outlets_.plusMinus,
                                          .hours = outlets_.stepperHour,
                                          .minutes = outlets_.stepperMin,
                                          .seconds = outlets_.stepperSec},
                                         editing));
-    column.addWidget(elided(saying.words, Role::Quiet));
+    column.addWidget(elided(line.words, Role::Quiet));
 }
 
 void ClockPanel::addTimes(QVBoxLayout &column) {

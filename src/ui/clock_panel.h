@@ -16,6 +16,7 @@ class QVBoxLayout;
 namespace pinmora {
 
 class ClockSaying;
+class ClockLine;
 class Editing;
 enum class Role;
 struct MatchingOutlets;
@@ -28,9 +29,9 @@ class ClockPanel : public QWidget {
     Q_OBJECT
 
 public:
-    /// Outlets, saying and `editing` must outlive the panel. `find` looks for the track point
-    /// nearest to the known position (Matcher::guessFromLatLon).
-    ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, Editing &editing,
+    /// Outlets, saying, line and `editing` must outlive the panel. `find` looks for the track
+    /// point nearest to the known position (Matcher::guessFromLatLon).
+    ClockPanel(MatchingOutlets &outlets, ClockSaying &saying, ClockLine &line, Editing &editing,
                const std::function<void()> &find, QWidget *parent = nullptr);
 
     /// Half as high and twice as wide, where it has that width.
@@ -44,7 +45,7 @@ protected:
 private:
     void arrange();
     QLabel *elided(TextField &field, Role role);
-    void addClock(QVBoxLayout &column, ClockSaying &saying, Editing &editing);
+    void addClock(QVBoxLayout &column, ClockSaying &saying, ClockLine &line, Editing &editing);
     void addTimes(QVBoxLayout &column);
     void addActions(QVBoxLayout &column);
     QWidget *makeMore(const std::function<void()> &find);

@@ -176,8 +176,9 @@ QWidget *MainWindow::makePositionTab() {
     column->addWidget(map, 1);
     auto *coordinates =
         new CoordinatePanel(subsystems_.coordinates, delegate_.interface.addRemoveMarker);
-    auto *clock = new ClockPanel(subsystems_.matching, subsystems_.clockSaying, delegate_.editing,
-                                 [this] { subsystems_.matcher.guessFromLatLon(); });
+    auto *clock =
+        new ClockPanel(subsystems_.matching, subsystems_.clockSaying, subsystems_.clockLine,
+                       delegate_.editing, [this] { subsystems_.matcher.guessFromLatLon(); });
     auto *panels = new FittingScrollArea({coordinates, clock});
     // Below the coordinates it has their width, and the map needs the height.
     connect(panels, &FittingScrollArea::stackingChanged, clock, &ClockPanel::setLow);

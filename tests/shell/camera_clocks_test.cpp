@@ -42,6 +42,7 @@ struct ClockDesk : Desk {
         return QString::fromStdString(delegate.defaults.text(cameraOffsetsKey).value_or(""));
     }
     seconds clock(const char *camera) { return parts().clockOffset.clock(camera); }
+    QString saysBelow() { return QString::fromStdString(parts().clockLine.words.text.get()); }
     QString says() { return QString::fromStdString(parts().clockSaying.words.text.get()); }
 };
 
@@ -190,6 +191,13 @@ private Q_SLOTS:
         desk.addPhotoOf(canon);
         QCOMPARE(desk.clock(canon), seconds(192s));
         QCOMPARE(desk.clock(nikon), seconds(0));
+        QCOMPARE(desk.saysBelow(),
+                 QStringLiteral("Cameras have clocks of their own: GPS > Cameras"));
+        QuietBar &bar = desk.delegate.interface.quietBar;
+        QCOMPARE(bar.message()->text,
+                 std::string("Canon EOS 5D: 3 min 12 s slow, as you set it last time."));
+        bar.choose(0);
+        QVERIFY(desk.parts().cameras.sheet.isUp());
         desk.addPhotoOf(nikon);
         QCOMPARE(desk.clock(nikon), seconds(-1h));
         desk.undo(); // nothing but the photo

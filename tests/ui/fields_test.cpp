@@ -2,6 +2,7 @@
 #include "matching/desk.h"
 #include "outlets/editing.h"
 #include "outlets/image_well.h"
+#include "shell/clock_line.h"
 #include "shell/clock_saying.h"
 #include "shell/detail_fields.h"
 #include "ui/clock_panel.h"
@@ -33,7 +34,7 @@ struct Panels : Desk {
         auto *column = new QVBoxLayout(&widget);
         column->addWidget(new CoordinatePanel(coordinates, addRemoveMarker));
         column->addWidget(
-            new ClockPanel(outlets, saying, editing, [this] { matcher.guessFromLatLon(); }));
+            new ClockPanel(outlets, saying, line, editing, [this] { matcher.guessFromLatLon(); }));
         column->addWidget(new DetailsTab({.details = details,
                                           .picture = well,
                                           .pictureLoading = loading,
@@ -62,6 +63,7 @@ struct Panels : Desk {
 
     Editing editing;
     ClockSaying saying{context, outlets, clockOffset};
+    ClockLine line{context, outlets.offsetObj, outlets.pictureArray, saying};
     CoordinateFields coordinates{context, degreeObj, pictureArray, editing};
     DetailFields details{context, pictureArray, editing};
     ImageWell well;
