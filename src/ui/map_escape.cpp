@@ -1,5 +1,7 @@
 #include "ui/map_escape.h"
 
+#include "ui/work_window.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 
@@ -21,6 +23,10 @@ bool MapEscape::eventFilter(QObject *, QEvent *event) {
     if (event->type() != QEvent::KeyPress ||
         static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape ||
         QApplication::activeModalWidget() || QApplication::activePopupWidget()) {
+        return false;
+    }
+    if (const QWidget *const active = QApplication::activeWindow();
+        active && !qobject_cast<const WorkWindow *>(active)) {
         return false;
     }
     giveUp_();

@@ -8,8 +8,8 @@
 
 namespace pinmora {
 
-/// While a click on the map is waited for, Escape gives that up, wherever the keyboard is. A sheet
-/// or a menu that is up has the key first.
+/// While a click on the map is waited for, Escape gives that up, wherever the keyboard is in the
+/// window worked in. A sheet or a menu that is up has the key first.
 class MapEscape : public QObject {
     Q_OBJECT
 
