@@ -52,6 +52,16 @@ Markers::Markers(Context &context, Outlets outlets, LastPhoto lastPictObjectWith
         outlets.addRemoveMarker2.pressed.connect([this] { addMarkerToMapCentre2(); }));
     connections_.push_back(
         outlets.pictureArray.selectionChanged.connect([this] { adding.set(false); }));
+    const auto endWithPage = [this](MapView &view,
+                                    const Button &button) { // the marker is drawn there
+        connections_.push_back(view.loaded.connect([this, &button] {
+            if (addedBy_ == &button) {
+                giveUpAdding();
+            }
+        }));
+    };
+    endWithPage(outlets.webView1, outlets.addRemoveMarker);
+    endWithPage(outlets.webView2, outlets.addRemoveMarker2);
 }
 
 void Markers::addMarkerToMapCentre() {

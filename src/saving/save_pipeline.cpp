@@ -85,6 +85,9 @@ void SavePipeline::savePhotoFiles(OpenPanel &chosen, int returnCode) {
 }
 
 void SavePipeline::beginRun(const OpenPanel &chosen) {
+    if (parts_.begins) {
+        parts_.begins();
+    }
     run_ = std::make_unique<Run>();
     run_->folder = chosen.filenames().front();
     run_->removesOldPositions = chosen.accessory.on.get();

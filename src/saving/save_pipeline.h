@@ -53,6 +53,8 @@ struct SaveSurroundings {
     /// The photos as they were at that moment are elsewhere for good: unsaved work of before is not
     /// kept any more.
     std::function<void(std::size_t moment)> exported;
+    /// A folder has been chosen; called before the photos are read. May be empty.
+    std::function<void()> begins{};
     std::function<void()> showLog;
     std::function<void()> terminate; ///< asks once more to quit
 };

@@ -27,8 +27,7 @@ struct ToolSettings {
     std::chrono::milliseconds patience{std::chrono::minutes{2}};
 };
 
-/// By the settings; what they do not say, or say wrongly,
-/// is as above.
+/// By the settings; what they do not say, or say wrongly, is as above.
 ToolSettings toolSettingsFrom(const Defaults &defaults);
 
 } // namespace pinmora

@@ -85,7 +85,9 @@ void AddressPreference::follow() {
     if (isOwn()) {
         lastOwn_ = now;
     }
-    field.enabled.set(isOwn());
+    if (!words_.empty()) { // others say themselves when there is something to type
+        field.enabled.set(isOwn());
+    }
     field.text.set(lastOwn_);
     showProblem();
 }

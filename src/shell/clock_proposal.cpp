@@ -133,6 +133,8 @@ ClockProposal::ClockProposal(const Parts &parts) : parts_(parts), endOfTurn_([th
     parts_.context.addObserver(*this, {.entity = &offset::description()});
     parts_.context.addObserver(*this, {.entity = &track_part::description(), .values = false});
     connections_.push_back(parts_.readingOffer.changed.connect([this] { endOfTurn_.ask(); }));
+    connections_.push_back(
+        parts_.matcher.applied.connect([this](const ApplyOutcome &) { forgetTaken(); }));
     endOfTurn_.ask();
 }
 
@@ -149,6 +151,9 @@ void ClockProposal::didChange(Record &record, std::string_view key) {
 }
 
 void ClockProposal::look() {
+    if (taken_ && parts_.clockOffset.clock(taken_->first) != taken_->second) {
+        forgetTaken();
+    }
     if (job_.isRunning()) {
         isStale_ = true;
         return;
@@ -215,12 +220,19 @@ void ClockProposal::take(const ProposedOffset &proposed) {
         }
         parts_.clockOffset.setClock(proposed.camera, proposed.proposal.offset);
     }
+    taken_.emplace(proposed.camera, proposed.proposal.offset);
     parts_.quietBar.post({.subject = takenSubject,
                           .head = takenHeadOf(proposed),
                           .text = takenTextOf(proposed),
                           .choices = {{translated("shell", "Apply to All"),
                                        [this] { parts_.matcher.applyToAllPictures(); }}},
                           .weight = BarWeight::Answer});
+}
+
+/// What was said of it has been done, or holds no longer.
+void ClockProposal::forgetTaken() {
+    taken_.reset();
+    parts_.quietBar.withdraw(takenSubject);
 }
 
 } // namespace pinmora

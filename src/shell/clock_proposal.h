@@ -62,8 +62,11 @@ private:
     void answered(const std::vector<ProposedOffset> &proposed);
     void tell(const std::vector<ProposedOffset> &proposed);
     void take(const ProposedOffset &proposed);
+    void forgetTaken();
 
     Parts parts_;
+    /// The camera and clock of the proposal that was taken last, while the bar speaks of it.
+    std::optional<std::pair<std::string, std::chrono::seconds>> taken_;
     bool isStale_ = false; ///< something has changed since the work under way began
     std::set<std::pair<std::string, std::chrono::seconds>> declined_;
     EndOfTurn endOfTurn_;

@@ -165,7 +165,8 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
     connections_.push_back(
         photoIntake.loaded.connect([this](auto &, auto &) { inspector.tableSelectionChanged(); }));
     connections_.push_back(readingOffer.readAgain.connect([this] { inspector.logsLoaded(); }));
-    connections_.push_back(matching.nextButtonAppliedAll.pressed.connect([this] { savePhotos(); }));
+    connections_.push_back(
+        matching.nextButtonAppliedAll.pressed.connect([this] { savePipeline.updatePicts(); }));
     connections_.push_back(
         clockOffset.turning.onChange([this](const std::optional<ClockTurn> &turn) {
             turnFeed.turned(turn ? std::optional(turn->by) : std::nullopt);
@@ -177,11 +178,6 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
     connections_.push_back(
         counts.counts.onChange([this](const Counts &) { pointPicking.offer(); }));
     connections_.push_back(mapBridge.pointerWanted.connect([this] { inspector.sendPointer(); }));
-}
-
-void Subsystems::savePhotos() {
-    wizardEnd.takeName();
-    savePipeline.updatePicts();
 }
 
 /// Of the photos whose clock is being turned.
@@ -208,6 +204,7 @@ SaveSurroundings Subsystems::saveSurroundings(Pinmora_AppDelegate &owner) {
             .awaitedNames = placeNames.awaited,
             .momentOfSnapshot = [this] { return unsavedWork.moment(); },
             .exported = [this](std::size_t moment) { unsavedWork.exported(moment); },
+            .begins = [this] { wizardEnd.takeName(); },
             .showLog = [this] { logWindow.makeKeyAndOrderFront(); },
             .terminate = [&owner] { owner.terminate.emit(); }};
 }

@@ -69,9 +69,6 @@ struct Subsystems {
     /// Makes the records that a run stands on.
     void makeRecords(Context &context, ObjectController<degrees> &degreeObj);
 
-    /// As the person asks for it: a name that was typed for the copies is theirs then.
-    void savePhotos();
-
     LibraryArrays &arrays;
     Gps gps;
     UnsavedWorkKeeper unsavedWork;

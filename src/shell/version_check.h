@@ -28,8 +28,8 @@ public:
     /// What the menu's command does.
     void checkNewVersion();
 
-    /// The program's name, and the address of its version information: that of the
-    /// setting, also where it is empty, else that of the build.
+    /// The program's name, and the address of its version information: that of the setting, also
+    /// where it is empty, else that of the build.
     ProgDict getProgDict() const;
     const BuildSettings &build() const { return build_; }
 

@@ -21,7 +21,7 @@ QString FolderDialog::newFolder() const {
     if (!name || name->text().isEmpty()) {
         return {};
     }
-    const QFileInfo typed(directory(), name->text());
+    const QFileInfo typed(directory(), QDir::cleanPath(name->text()));
     return !typed.exists() && typed.dir().exists() ? typed.absoluteFilePath() : QString();
 }
 

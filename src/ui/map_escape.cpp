@@ -1,5 +1,6 @@
 #include "ui/map_escape.h"
 
+#include "ui/field_edit.h"
 #include "ui/work_window.h"
 
 #include <QApplication>
@@ -8,6 +9,19 @@
 #include <utility>
 
 namespace pinmora {
+namespace {
+
+/// Whether the key is for somebody else: a sheet, a menu, another window, or a field with something
+/// typed, which has its text of before back first.
+bool isElsewhere() {
+    const QWidget *const active = QApplication::activeWindow();
+    const auto *const window = qobject_cast<const WorkWindow *>(active);
+    const auto *const field = qobject_cast<const FieldEdit *>(QApplication::focusWidget());
+    return QApplication::activePopupWidget() || (active && !window) ||
+           (window && window->sheet()) || (field && field->isModified());
+}
+
+} // namespace
 
 MapEscape::MapEscape(Observable<bool> &waits, std::function<void()> giveUp, QObject *parent)
     : QObject(parent), giveUp_(std::move(giveUp)),
@@ -21,12 +35,7 @@ MapEscape::MapEscape(Observable<bool> &waits, std::function<void()> giveUp, QObj
 
 bool MapEscape::eventFilter(QObject *, QEvent *event) {
     if (event->type() != QEvent::KeyPress ||
-        static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape ||
-        QApplication::activeModalWidget() || QApplication::activePopupWidget()) {
-        return false;
-    }
-    if (const QWidget *const active = QApplication::activeWindow();
-        active && !qobject_cast<const WorkWindow *>(active)) {
+        static_cast<QKeyEvent *>(event)->key() != Qt::Key_Escape || isElsewhere()) {
         return false;
     }
     giveUp_();

@@ -54,7 +54,7 @@ void ProgramActions::connectFiles() {
                                                                     messageTime);
         }
     });
-    on(SavePhotos, [this] { parts_.savePhotos(); });
+    on(SavePhotos, [this] { parts_.savePipeline.updatePicts(); });
     on(RemoveAllPhotos, [this] { parts_.removeAllPhotos.openRemoveAll(); });
     on(RemoveGpsData, [this] { delegate_.library.removeAllGPSData(); });
     on(ActionName::SampleOuting, [this] { parts_.sampleOuting.load(); });

@@ -74,10 +74,17 @@ void WorkWindow::changeEvent(QEvent *event) {
         Q_EMIT coloursChanged();
     } else if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         // Some window managers let the window below a sheet take the keyboard, which it is deaf to.
-        if (QWidget *const sheet = QApplication::activeModalWidget()) {
-            sheet->activateWindow();
+        if (QWidget *const open = sheet()) {
+            open->activateWindow();
         }
     }
+}
+
+QWidget *WorkWindow::sheet() const {
+    QWidget *const open = QApplication::activeModalWidget();
+    const bool isOurs = open && (open->windowModality() == Qt::ApplicationModal ||
+                                 (open->parentWidget() && open->parentWidget()->window() == this));
+    return isOurs ? open : nullptr;
 }
 
 void WorkWindow::restoreGeometryOr(QSize first) {

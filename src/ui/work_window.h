@@ -44,6 +44,8 @@ public:
     virtual PhotoPanel *photos() const = 0;
     /// Takes its layout into the settings.
     virtual void keepLayout();
+    /// The sheet that keeps this window from being used; null while none does.
+    QWidget *sheet() const;
 
 Q_SIGNALS:
     void quitAsked();

@@ -52,7 +52,7 @@ void AddressField::showProblem(const QString &why) {
     edit_->setAccessibleDescription(below_->text());
 }
 
-bool AddressField::isFit() const {
+bool AddressField::takeOver() {
     return preference_.takeOver();
 }
 

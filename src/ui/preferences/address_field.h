@@ -27,7 +27,7 @@ public:
     AddressField(AddressPreference &preference, const Texts &texts, QWidget *parent = nullptr);
 
     /// Whether nothing is typed that cannot be stored; what can be is stored.
-    bool isFit() const;
+    bool takeOver();
     void focusEdit();
 
 Q_SIGNALS:

@@ -39,14 +39,14 @@ PreferencePage::PreferencePage(const QString &title, QWidget *parent)
     content->setAutoFillBackground(false);
 }
 
-bool PreferencePage::isFit() const {
+bool PreferencePage::takeOver() {
     return std::all_of(fields_.begin(), fields_.end(),
-                       [](const AddressField *field) { return field->isFit(); });
+                       [](AddressField *field) { return field->takeOver(); });
 }
 
 void PreferencePage::turnToUnfit() {
     for (AddressField *const field : fields_) {
-        if (!field->isFit()) {
+        if (!field->takeOver()) {
             field->focusEdit();
             ensureWidgetVisible(field);
             return;

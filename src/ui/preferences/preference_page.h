@@ -24,8 +24,8 @@ class PreferencePage : public QScrollArea {
 public:
     explicit PreferencePage(const QString &title, QWidget *parent = nullptr);
 
-    /// Whether nothing is typed that cannot be stored.
-    bool isFit() const;
+    /// Whether nothing is typed that cannot be stored; what can be is stored.
+    bool takeOver();
     /// Turns the keyboard to the first field whose text cannot be stored, if there is one.
     void turnToUnfit();
 

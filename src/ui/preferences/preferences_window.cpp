@@ -90,7 +90,7 @@ void PreferencesWindow::closeAsked() {
 
 void PreferencesWindow::turnToUnfit() {
     const auto page = std::find_if(pages_.begin(), pages_.end(),
-                                   [](const PreferencePage *one) { return !one->isFit(); });
+                                   [](PreferencePage *one) { return !one->takeOver(); });
     if (page != pages_.end()) {
         names_->setCurrentRow(static_cast<int>(page - pages_.begin()));
         (*page)->turnToUnfit();
