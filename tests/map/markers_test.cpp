@@ -124,6 +124,8 @@ private Q_SLOTS:
         QVERIFY(!waitsAfter([&] { desk.pictureArray.setSelectedObjects({&other}); }));
         QVERIFY(!waitsAfter([&] { desk.markers.updateMap({"47", "8"}); }));
         QVERIFY(!waitsAfter([&] { desk.addRemoveMarker2.press(); }));
+        QVERIFY(waitsAfter([&] { desk.webView1.loaded.emit(); }));
+        QVERIFY(!waitsAfter([&] { desk.webView2.loaded.emit(); }));
         QVERIFY(!waitsAfter([&] { desk.markers.giveUpAdding(); }));
         QCOMPARE(desk.scripts, "2:removePointer() ");
         QCOMPARE(desk.addRemoveMarker2.title.get(), "Add Markers");

@@ -98,6 +98,8 @@ private Q_SLOTS:
         desk.context().undoManager()->closeStep();
         desk.context().undoManager()->undo();
         QCOMPARE(desk.offsetOf(""), "0");
+        desk.parts().clockProposal.finish();
+        QVERIFY(desk.said().starts_with("With −2 h")); // no longer that it is corrected
     }
 
     void camerasCanBeOffByDifferentAmounts() {

@@ -78,7 +78,7 @@ private Q_SLOTS:
         QVERIFY(next);
         QCOMPARE(next->directory(), QDir(QString::fromStdString(desk.copies.string())));
         QVERIFY(next->findChild<QCheckBox *>()->isChecked());
-        next->findChild<QLineEdit *>()->setText(QStringLiteral("new"));
+        next->findChild<QLineEdit *>()->setText(QStringLiteral("new/"));
         desk.press("Save Here");
         QVERIFY(ends(desk));
         QVERIFY(std::filesystem::exists(desk.copies / "new" / "a.jpg"));
