@@ -167,6 +167,10 @@ Report runTagJob(const Options &options, const Surroundings &surroundings) {
     }
     places.wait();
     reportPlaces(loaded.photos, report);
+    if (!loaded.hadLogs && !report.photos.empty()) {
+        surroundings.tell(
+            translated("tag", "there is no GPS log: the photos keep the positions that they have"));
+    }
     if (options.dryRun) {
         for (PhotoLine &line : report.photos) {
             line.status = line.status == Status::Saved ? Status::Matched : line.status;

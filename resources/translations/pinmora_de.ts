@@ -3724,6 +3724,10 @@ oder etwas Genanntes war nicht zu lesen; 2 falscher Aufruf.</translation>
         <translation>nur sagen, was geschähe, und nichts speichern;
 braucht kein --out</translation>
     </message>
+    <message>
+        <source>there is no GPS log: the photos keep the positions that they have</source>
+        <translation>es gibt kein GPS-Log: Die Fotos behalten die Positionen, die sie haben</translation>
+    </message>
 </context>
 <context>
     <name>ui</name>

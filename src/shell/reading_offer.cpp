@@ -11,6 +11,7 @@
 #include "platform/translation.h"
 #include "shell/log_intake_adapter.h"
 #include "shell/log_rereading.h"
+#include "store/offset.h"
 #include "store/track.h"
 
 #include <filesystem>
@@ -32,8 +33,10 @@ ReadingOffer::ReadingOffer(Context &context, Gps &gps, GpsIntake &gpsIntake,
           if (isOffered_) {
               comparison_.compare();
           }
-      }) {
+      }),
+      clockChanged_([this] { comparison_.compare(); }) {
     context_.addObserver(*this, {.entity = &track::description(), .values = false});
+    context_.addObserver(*this, {.entity = &offset::description()});
     settingChanged_ = defaults.onChange(logReadingKey, [this] { followSetting(); });
     connections_.push_back(comparison_.judged.connect(
         [this](const std::optional<ReadingVerdict> &verdict) { tell(verdict); }));

@@ -62,6 +62,8 @@ private:
     void tellOfKept(const std::vector<std::string> &paths);
     /// A track has gone: perhaps that of a log which an offer is about.
     void didDelete(Record &) override { lost_.ask(); }
+    /// With another clock the other reading may fit the photos better, or no longer.
+    void didChange(Record &, std::string_view) override { clockChanged_.ask(); }
 
     Context &context_;
     Gps &gps_;
@@ -72,6 +74,7 @@ private:
     bool isOffered_ = false;
     LogComparison comparison_;
     EndOfTurn lost_;
+    EndOfTurn clockChanged_;
     NotificationCentre::Observation settingChanged_;
     std::vector<Connection> connections_;
 };

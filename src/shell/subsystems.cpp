@@ -112,7 +112,11 @@ Subsystems::Subsystems(Pinmora_AppDelegate &owner, const std::filesystem::path &
           [this] { return matcher.runningApplyToAll(); }),
       quitWarning(owner.interface.workingWindow,
                   {.updatePicts = [this] { savePipeline.updatePicts(); },
-                   .saveAction = [&library = owner.library] { library.saveAction(); },
+                   .saveAction =
+                       [this, &library = owner.library] {
+                           wizardEnd.takeName(); // it is part of what has been done
+                           library.saveAction();
+                       },
                    .terminate = [&owner] { owner.terminate.emit(); },
                    .forgetUnsaved = [this] { unsavedWork.forget(); }}),
       intakeNotes(owner.library.managedObjectContext(), gpsIntake, photoIntake, logs,

@@ -106,6 +106,7 @@ private Q_SLOTS:
     void theOtherReadingIsOfferedAndUsed();
     void itComesInTheOrderOfLoading_data();
     void itComesInTheOrderOfLoading();
+    void theTrueClockBringsIt();
     void theWayBackIsOffered();
     void theOfferIsUsedWhileAnotherLogIsOnTrial();
     void unfitTextComesFirst();
@@ -209,6 +210,20 @@ void ReadingOfferTest::theOfferIsUsedWhileAnotherLogIsOnTrial() {
     desk.loadPhoto("q.jpg", "10:01:00");
     desk.loadPhoto("r.jpg", "11:01:00");
     QVERIFY(desk.said().starts_with("a.gpx and 1 other log give their times in clock time."));
+}
+
+void ReadingOfferTest::theTrueClockBringsIt() {
+    OfferDesk desk;
+    desk.offsetObj.setContent(&desk.context.insert<offset>());
+    desk.offsetObj.content()->setPlus(1);
+    desk.loadLog("a.gpx", tenToEleven);
+    desk.loadPhoto("p.jpg", "11:48:00");
+    QCOMPARE(desk.said(), "");
+    desk.offsetObj.content()->setHours(1);
+    desk.offsetObj.content()->setMinutes(13);
+    QVERIFY(QTest::qWaitFor([&] { return desk.said().starts_with("a.gpx gives its times"); }));
+    desk.offsetObj.content()->setMinutes(0);
+    QVERIFY(QTest::qWaitFor([&] { return desk.said().empty(); }));
 }
 
 void ReadingOfferTest::unfitTextComesFirst() {
